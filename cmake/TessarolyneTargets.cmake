@@ -1,0 +1,45 @@
+# The one place that says how our own code is compiled.
+function(tessarolyne_configure target)
+    target_compile_features(${target} PUBLIC cxx_std_20)
+    set_target_properties(${target} PROPERTIES CXX_EXTENSIONS OFF)
+    target_include_directories(${target} PUBLIC "${PROJECT_SOURCE_DIR}/src")
+    target_compile_options(
+        ${target}
+        PRIVATE -Wall
+                -Wextra
+                -Wpedantic
+                -Wshadow
+                -Wconversion
+                -Wsign-conversion
+                -Wnon-virtual-dtor
+                -Woverloaded-virtual
+                -Wold-style-cast
+                -Wcast-qual
+                -Wformat=2
+                -Wundef
+                # g++ 12 takes std::string's own operator+ for an overlapping copy at -O3 (GCC bug 105329)
+                $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
+                $<$<BOOL:${TESSAROLYNE_WARNINGS_AS_ERRORS}>:-Werror>)
+    if(TESSAROLYNE_SANITIZE)
+        target_compile_options(
+            ${target} PRIVATE -fsanitize=${TESSAROLYNE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)
+        target_link_options(${target} PUBLIC -fsanitize=${TESSAROLYNE_SANITIZE})
+    endif()
+endfunction()
+
+# A static library; the folders add their files to it with target_sources.
+function(tessarolyne_library target)
+    add_library(${target} STATIC)
+    tessarolyne_configure(${target})
+    target_link_libraries(${target} PUBLIC ${ARGN})
+endfunction()
+
+# A test program NAME.tests of the given files: tessarolyne_tests(NAME LIBRARIES a b FILES x.cpp y.cpp)
+function(tessarolyne_tests name)
+    cmake_parse_arguments(ARG "" "" "LIBRARIES;FILES" ${ARGN})
+    add_executable(${name}.tests ${ARG_FILES})
+    tessarolyne_configure(${name}.tests)
+    target_link_libraries(${name}.tests PRIVATE ${ARG_LIBRARIES} tests_main)
+    target_include_directories(${name}.tests PRIVATE "${PROJECT_SOURCE_DIR}/tests")
+    add_test(NAME ${name} COMMAND ${name}.tests)
+endfunction()

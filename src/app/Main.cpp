@@ -1,0 +1,33 @@
+#include "app/Program.h"
+#include "app/Version.h"
+#include "desktop/QtApplication.h"
+#include "desktop/QtServices.h"
+#include "machine/PosixFileSystem.h"
+#include "machine/Signals.h"
+#include "machine/SystemClock.h"
+#include "machine/SystemMemory.h"
+
+using namespace tessarolyne;
+
+int main() {
+    SystemClock clock;
+    PosixFileSystem files;
+    SystemMemory memory;
+    Signals endSignals;
+
+    QtApplication desktop("Tessarolyne", shortVersion, applicationIdentifier);
+    QtServices services(files);
+    Services world = services.With(clock, files, memory);
+    Program program(world);
+
+    desktop.OnSessionEnds = [&] { program.EndWithoutAsking(); };
+    desktop.OnQuitRequested = [&] { program.app.RequestQuit(); };
+    desktop.WatchDescriptor(endSignals.Descriptor(), [&] {
+        if (endSignals.Take() != 0) {
+            program.EndWithoutAsking();
+        }
+    });
+
+    program.Start();
+    return services.loop.Run();
+}

@@ -1,0 +1,88 @@
+#include "app/Program.h"
+
+#include "conversion/MenuBar1.h"
+#include "conversion/WinMain.h"
+#include "platform/EventLoop.h"
+#include "platform/Services.h"
+#include "primes/WinChargSauvNb1ers.h"
+#include "primes/WinNbresPremiers.h"
+#include "ui/WinInfos.h"
+#include "ui/WinPrefs.h"
+
+namespace tessarolyne {
+
+Program::Program(Services& world)
+    : services(world), fncts(*this), app(*this, world), menuBar_(std::make_unique<MenuBar1>()) {
+    app.UseMenuBar(menuBar_.get());
+    app.OnWindowClosed = [this](Window& window) { LetGo(window); };
+}
+
+// A thread that still computes looks at the flag; the windows' destructors wait for it.
+Program::~Program() {
+    fncts.ArretUrg = true;
+}
+
+// The instance is in its place before its Open event, which speaks to other windows and they to it.
+template <typename WindowClass>
+WindowClass& Program::Instance(std::unique_ptr<WindowClass>& window) {
+    if (!window) {
+        window = std::make_unique<WindowClass>(*this);
+        window->Begin();
+    }
+    return *window;
+}
+
+WinMain& Program::winMain() {
+    return Instance(winMain_);
+}
+
+WinNbresPremiers& Program::winNbresPremiers() {
+    return Instance(winNbresPremiers_);
+}
+
+WinChargSauvNb1ers& Program::winChargSauvNb1ers() {
+    return Instance(winChargSauvNb1ers_);
+}
+
+WinInfos& Program::winInfos() {
+    return Instance(winInfos_);
+}
+
+WinPrefs& Program::winPrefs() {
+    return Instance(winPrefs_);
+}
+
+void Program::Start() {
+    app.Event_Open();
+    winMain();
+}
+
+void Program::EndWithoutAsking() {
+    if (ending_) {
+        return; // a second signal, while the first waits for a calculation to stop
+    }
+    ending_ = true;
+    fncts.ArretUrg = true;
+    if (winMain_) {
+        winMain_->SaveWithoutAsking();
+    }
+    app.Quit(0);
+}
+
+// A window closes in its own handlers: it is destroyed once they have returned.
+void Program::LetGo(Window& window) {
+    const auto release = [&](auto& instance) {
+        if (instance.get() == &window) {
+            closed_.push_back(std::move(instance));
+        }
+    };
+    release(winNbresPremiers_);
+    release(winChargSauvNb1ers_);
+    release(winInfos_);
+    release(winPrefs_);
+    if (!app.DrapOkQuit) { // else a dialog of theirs may still stand over the quit: they end with the program
+        services.loop.Post([this] { closed_.clear(); });
+    }
+}
+
+} // namespace tessarolyne

@@ -1,0 +1,63 @@
+#pragma once
+
+#include "app/App.h"
+#include "ui/Fncts.h"
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+namespace tessarolyne {
+
+class MenuBar;
+class WinChargSauvNb1ers;
+class WinInfos;
+class WinMain;
+class WinNbresPremiers;
+class WinPrefs;
+struct Services;
+
+// One run of the program: the application object, the module Fncts, and the implicit instances of the
+// windows, each made at its first use. A second Program knows nothing of the first.
+class Program {
+public:
+    explicit Program(Services& services);
+    ~Program();
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
+
+    // Does all that comes before the event loop is idle: App's Open, then the main window with its own.
+    void Start();
+    // The way out when nobody can be asked: a signal, or the end of the desktop session. Stops a running
+    // calculation, saves what there is to save, and ends the event loop.
+    void EndWithoutAsking();
+
+    WinMain& winMain();
+    WinNbresPremiers& winNbresPremiers();
+    // Exists while a prime file is read or written.
+    WinChargSauvNb1ers& winChargSauvNb1ers();
+    bool HasWinChargSauvNb1ers() const { return winChargSauvNb1ers_ != nullptr; }
+    WinInfos& winInfos();
+    WinPrefs& winPrefs();
+
+    Services& services;
+    Fncts fncts;
+    App app;
+
+private:
+    void LetGo(Window& window);
+
+    template <typename WindowClass>
+    WindowClass& Instance(std::unique_ptr<WindowClass>& window);
+
+    bool ending_ = false;
+    std::unique_ptr<MenuBar> menuBar_;
+    std::unique_ptr<WinMain> winMain_;
+    std::unique_ptr<WinNbresPremiers> winNbresPremiers_;
+    std::unique_ptr<WinChargSauvNb1ers> winChargSauvNb1ers_;
+    std::unique_ptr<WinInfos> winInfos_;
+    std::unique_ptr<WinPrefs> winPrefs_;
+    std::vector<std::unique_ptr<Window>> closed_; // until their handlers have returned
+};
+
+} // namespace tessarolyne

@@ -1,0 +1,164 @@
+// The way out: a close can't finish at once, since a calculation may run and questions may have to be asked.
+
+#include "app/Program.h"
+#include "conversion/NumberFormat.h"
+#include "conversion/WinMain.h"
+#include "platform/Clock.h"
+#include "platform/EventLoop.h"
+#include "platform/Numbers.h"
+#include "platform/Services.h"
+#include "platform/Text.h"
+#include "primes/WinChargSauvNb1ers.h"
+#include "primes/WinNbresPremiers.h"
+#include "ui/FileItems.h"
+#include "ui/Localisation.h"
+
+#include <exception>
+
+namespace tessarolyne {
+
+namespace {
+
+// How many primes the table holds beyond its file.
+std::int32_t NewPrimes(const WinMain& main) {
+    return static_cast<std::int32_t>(
+        std::int64_t{main.Nbres_Premiers.UpperBound()} + 1 - std::int64_t{main.Nb_NbrePcharg});
+}
+
+// Without a window, since nobody is there to see it or to read that it failed; the old file is whole then.
+void SaveQuietly(const WinMain& main, const FolderItem& item) {
+    try {
+        PrimeFileProgress nobody;
+        const auto file = item.Files().CreateSafely(item.NativePath(), LinkPolicy::ReplaceTarget);
+        WritePrimeFile(
+            main.Nbres_Premiers, Localisation::Txt_NbreDeNbPrem(), main.NbreNbPparLigne, *file, nobody);
+        file->Commit();
+    } catch (const std::exception&) {
+        return;
+    }
+}
+
+} // namespace
+
+bool WinMain::Event_CancelClose(bool appQuitting) {
+    if (app.DrapOkQuit) {
+        if (!appQuitting) {
+            fncts.MsgBox("Error ! Please contact the authors." + std::string(endOfLine) +
+                         "The application should be quitting!");
+        }
+        return false;
+    }
+    if (appQuitting) {
+        TimerQuit.Mode = 1; // turns the request into a close of this window
+        return true;
+    }
+    bool annuler = false;
+    bool enregistrer = false;
+    if (CalculEnCours) {
+        annuler = true;
+        AskToStopCalculation();
+    } else if (!fncts.DrapMenu) {
+        fncts.Beep();
+        annuler = true;
+    }
+    if (app.initProg && !annuler) {
+        annuler = AskAboutNewPrimes(enregistrer);
+    }
+    if (annuler) {
+        if (recalculationDue_ && TimerQuit.Mode == 0) {
+            recalculationDue_ = false;
+            TimerTempo.Mode = 1;
+        }
+        return true;
+    }
+    DecideClose(enregistrer);
+    return true;
+}
+
+// On the answer that stops the calculation, TimerQuit waits for its end.
+void WinMain::AskToStopCalculation() {
+    fncts.Beep();
+    const int answer = fncts.MyDialogBox(Localisation::Txt_CalculEnCours(), "",
+        Localisation::Btn_StopEtQuit(), Localisation::Btn_NePasQuit(), "", 1, nullptr);
+    if (answer != 1) {
+        return;
+    }
+    recalculationDue_ = recalculationDue_ || TimerTempo.Mode != 0;
+    TimerTempo.Mode = 0;
+    fncts.ArretUrg = CalculEnCours;
+    fncts.PlayT(fncts.Zoum, true);
+    TimerQuit.Mode = 1;
+}
+
+// True if the user would rather not quit. No answer, because the program is being ended, decides nothing.
+bool WinMain::AskAboutNewPrimes(bool& enregistrer) {
+    const std::int32_t Nb1ersEnPlus = NewPrimes(*this);
+    if (Nb1ersEnPlus < 0) {
+        fncts.MsgBox("Error ! Please contact the authors." + std::string(endOfLine) +
+                     "WinMain.Close, Nb1ersEnPlus = " + Str(Nb1ersEnPlus));
+        return false;
+    }
+    if (Nb1ersEnPlus == 0 || !PasNil_Existe_Alias(app.FichNbPrems, true)) {
+        return false;
+    }
+    fncts.Beep();
+    const std::string question = Localisation::Txt_IlYaNouvNbPrem();
+    const std::string count = FormatWhole(static_cast<std::uint64_t>(Nb1ersEnPlus), true);
+    const int answer = fncts.MyDialogBox(fncts.FracTexte(question, 1) + count + fncts.FracTexte(question, 2),
+        "", Localisation::Btn_Enreg(), Localisation::Btn_NePasEnreg(), Localisation::Btn_NePasQuit(), 0,
+        nullptr);
+    enregistrer = answer == 1;
+    return answer != 1 && answer != 2;
+}
+
+// All is answered: saves, and leaves the end itself to TimerQuit, so that all of this runs first.
+void WinMain::DecideClose(bool enregistrer) {
+    app.DrapOkQuit = true;
+    const bool listeVisible = BevelButtonListe.Value;
+    if (listeVisible) {
+        program.winNbresPremiers().Close();
+    }
+    if (app.initProg) {
+        app.PrefsSauver(listeVisible);
+    }
+    if (enregistrer) {
+        program.winChargSauvNb1ers().SaveNb1ers();
+    }
+    fncts.DrapMenu = false;
+    TimerQuit.Mode = 1;
+}
+
+void WinMain::TimerQuit_Action(Timer& timer) {
+    if (app.DrapOkQuit) {
+        app.Quit(0);
+    } else if (CalculEnCours || program.HasWinChargSauvNb1ers()) {
+        timer.Mode = 1;
+        timer.Reset();
+    } else {
+        fncts.DrapMenu = true;
+        Close();
+    }
+}
+
+void WinMain::SaveWithoutAsking() {
+    if (!startIsOver_ || app.DrapOkQuit) {
+        return; // nothing to save yet, or saved already
+    }
+    app.DrapOkQuit = true;
+    const bool listeVisible = BevelButtonListe.Value;
+    program.services.loop.WaitUntil([&] {
+        return ThreadDecPrems.State() != Thread::running &&
+               (!listeVisible || program.winNbresPremiers().ThreadCalcPrems.State() != Thread::running);
+    });
+    if (listeVisible) {
+        program.winNbresPremiers().KeepSettings();
+    }
+    app.SavePreferencesQuietly(listeVisible);
+    // A table that never agreed with the file says nothing of what the file holds.
+    if (Nb_NbrePcharg > 0 && NewPrimes(*this) > 0 && PasNil_Existe_Alias(app.FichNbPrems, true) &&
+        !program.HasWinChargSauvNb1ers()) {
+        SaveQuietly(*this, *app.FichNbPrems);
+    }
+}
+
+} // namespace tessarolyne

@@ -1,0 +1,107 @@
+// Everything from the making of the main window until the event loop is idle.
+
+#include "app/Program.h"
+#include "conversion/WinMain.h"
+#include "platform/Clock.h"
+#include "platform/EventLoop.h"
+#include "platform/Numbers.h"
+#include "platform/Services.h"
+#include "platform/Text.h"
+#include "primes/WinChargSauvNb1ers.h"
+#include "primes/WinNbresPremiers.h"
+#include "ui/FileItems.h"
+#include "ui/Localisation.h"
+
+namespace tessarolyne {
+
+namespace {
+
+constexpr std::uint64_t largestNumber = 999'999'999'999;
+constexpr int smallestBase = 2;
+constexpr int largestBase = 36;
+
+constexpr const char* ownPreferencesFolder = "TessarolynePrefs";
+
+} // namespace
+
+// App.initProg is false until near the end, so that no handler starts a calculation before.
+void WinMain::Event_Open() {
+    LabBlockUI.Open();
+    Fncts::DecPosCtrl(*this);
+    NbreMax = largestNumber;
+    app.DrapOkQuit = false;
+    app.DateDuJour = program.services.clock.Now();
+    MemErrConv = "";
+    MemErrDecomp = "";
+    CalculEnCours = false;
+    StaticTextEnBase10.Text = Localisation::Txt_EnBase() + "10";
+    for (PopupMenu* menu : {&PopupMenuBaseOrg, &PopupMenuBaseDest}) {
+        menu->DeleteAllRows();
+        for (int base = smallestBase; base <= largestBase; ++base) {
+            menu->AddRow(Localisation::Txt_EnBase() + Str(base));
+        }
+    }
+    Nbre_Decompose = {0};
+    if (!FindPreferencesFolder()) {
+        return;
+    }
+    const bool premierLancement = app.PrefsCharger();
+    SweepLeftovers();
+    Refresh();
+    Show();
+    program.winChargSauvNb1ers().LoadNb1ers();
+    Welcome(premierLancement);
+    if (program.services.loop.IsQuitting()) {
+        return; // a signal ended the dialogs: there is nothing to save, and no window to open
+    }
+    fncts.DrapMenu = true;
+    EnableMenuBoutons();
+    app.initProg = true;
+    startIsOver_ = true;
+    DrapTimerNbre = true;
+    if (BevelButtonListe.Value) {
+        program.winNbresPremiers().Show();
+    }
+    // The window's own focus, also where the list window is in front: so LostFocus always comes.
+    EditFieldNbre.SetFocus();
+    FocusNbre = true;
+    FocusBase = false;
+    StartAutomaticCheck();
+}
+
+// What saves of killed runs left beside the two files.
+void WinMain::SweepLeftovers() {
+    FileSystem& files = program.services.files;
+    files.SweepLeftovers(app.DossierPref->NativePath());
+    if (const auto target = GetTargetItem_f(app.FichNbPrems)) {
+        if (const auto folder = target->Parent()) {
+            files.SweepLeftovers(folder->NativePath());
+        }
+    }
+}
+
+// False, and the program on its way out with nothing saved, if there is no place for preferences.
+bool WinMain::FindPreferencesFolder() {
+    FileSystem& files = program.services.files;
+    app.DossierPref = SpecialFolder::Preferences(files);
+    if (!app.DossierPref) {
+        if (const auto folder = SpecialFolder::Application(files)) {
+            app.DossierPref = folder->Child(ownPreferencesFolder);
+            if (app.DossierPref && !app.DossierPref->Exists()) {
+                app.DossierPref->CreateAsFolder();
+            }
+        }
+    }
+    if (app.DossierPref && app.DossierPref->Exists()) {
+        return true;
+    }
+    const std::string eol(endOfLine);
+    fncts.Beep();
+    fncts.MsgBox("Error !" + eol + "Please contact the authors." + eol + eol +
+                 "Impossible to create the Preferences folder.");
+    fncts.DrapMenu = true;
+    Close();
+    return false;
+}
+
+} // namespace tessarolyne

@@ -1,0 +1,116 @@
+// The number in two bases: which field is the source, what the others show, and the check by a second route.
+
+#include "conversion/BaseConversion.h"
+#include "conversion/NumberFormat.h"
+#include "conversion/WinMain.h"
+#include "platform/Numbers.h"
+#include "platform/Text.h"
+#include "ui/Localisation.h"
+
+namespace tessarolyne {
+
+std::string WinMain::ConvNbreBase(
+    std::string_view nombre, int baseOrg, int baseDest, std::string_view alphabet) {
+    return tessarolyne::ConvNbreBase(
+        nombre, baseOrg, baseDest, alphabet, {Localisation::Txt_ErrNbre(), Localisation::Txt_ErrBase()});
+}
+
+void WinMain::ConvNbreBaseD() {
+    const int baseOrg = PopupMenuBaseOrg.ListIndex + 2;
+    const std::string_view alphabet = RadioButton09AZ[0].Value() ? alphabet09AZ : alphabetAZ09;
+    std::string decimal;
+    std::string source;
+    bool withinLimit = true;
+    if (DrapTimerNbre) {
+        withinLimit = ConvertDecimal(decimal, source, baseOrg, alphabet);
+    } else {
+        ConvertSourceBase(decimal, source, baseOrg, alphabet);
+    }
+    if (decimal.empty()) {
+        EditFieldBaseDest.Text = "";
+    } else if (withinLimit && IsNumeric(decimal)) {
+        ShowDestination(decimal, source, baseOrg, alphabet);
+    } else {
+        const std::string error = Localisation::Txt_ErrNbre();
+        if (DrapTimerNbre) {
+            EditFieldBaseOrg.Text = error;
+        }
+        EditFieldBaseDest.Text = error;
+        TxtAreaDecomp1er.Text = error;
+        TxtAreaLettres.Text = error;
+    }
+}
+
+// From EditFieldNbre to EditFieldBaseOrg. False if the number is above the limit.
+bool WinMain::ConvertDecimal(
+    std::string& decimal, std::string& source, int baseOrg, std::string_view alphabet) {
+    decimal = ReplaceAll(EditFieldNbre.Text(), " ", "");
+    if (decimal.empty()) {
+        EditFieldBaseOrg.Text = "";
+        return true;
+    }
+    const double value = CDbl(decimal);
+    if (value > static_cast<double>(NbreMax)) {
+        fncts.Beep();
+        return false;
+    }
+    const bool whole = value == Round(value);
+    source = whole ? ConvNbreBase(decimal, 10, baseOrg, alphabet) : Localisation::Txt_ErrNbre();
+    EditFieldBaseOrg.Text =
+        IsErrorText(source) ? source : FormatType(source, baseOrg, CheckBoxFormatAuto.Value);
+    return true;
+}
+
+// From EditFieldBaseOrg to EditFieldNbre, which also shows what is wrong.
+void WinMain::ConvertSourceBase(
+    std::string& decimal, std::string& source, int baseOrg, std::string_view alphabet) {
+    source = ReplaceAll(EditFieldBaseOrg.Text(), " ", "");
+    if (!source.empty()) {
+        decimal = ConvNbreBase(source, baseOrg, 10, alphabet);
+    }
+    if (CDbl(decimal) > static_cast<double>(NbreMax)) {
+        fncts.Beep();
+        decimal = Localisation::Txt_PlusGdNbrePossible() + FormatWhole(NbreMax, CheckBoxFormatAuto.Value);
+    } else if (IsErrorText(decimal)) {
+        fncts.Beep();
+    }
+    EditFieldNbre.Text = FormatNbre(decimal, CheckBoxFormatAuto.Value);
+}
+
+void WinMain::ShowDestination(
+    const std::string& decimal, const std::string& source, int baseOrg, std::string_view alphabet) {
+    if (IsErrorText(source)) {
+        EditFieldBaseDest.Text = Localisation::Txt_ErrNbre();
+        return;
+    }
+    const int baseDest = PopupMenuBaseDest.ListIndex + 2;
+    const std::string dest = ConvNbreBase(source, baseOrg, baseDest, alphabet);
+    if (IsErrorText(dest)) {
+        EditFieldBaseDest.Text = dest;
+        return;
+    }
+    EditFieldBaseDest.Text = FormatType(dest, baseDest, CheckBoxFormatAuto.Value);
+    const std::string controle = ConvNbreBase(decimal, 10, baseDest, alphabet);
+    if (dest != controle) {
+        ReportConversionMismatch(controle, baseDest, dest, baseOrg);
+    }
+}
+
+// Both routes are exact within the limit: this is a net under the arithmetic. The same disagreement is
+// reported once, until another one comes between.
+void WinMain::ReportConversionMismatch(
+    const std::string& fromDecimal, int baseDest, const std::string& fromSource, int baseOrg) {
+    const std::string key = fromSource + " ≠ " + fromDecimal;
+    if (key == MemErrConv) {
+        return;
+    }
+    MemErrConv = key;
+    fncts.Beep();
+    const auto piece = [this](int n) { return fncts.FracTexte(Localisation::Txt_ErrTranscBase(), n); };
+    const std::string message = piece(1) + Localisation::Txt_EnBase() + Str(baseDest) + piece(2) +
+                                fromDecimal + piece(3) + Str(baseOrg) + piece(4) + fromSource + piece(5);
+    fncts.MyDialogBox(
+        message, Localisation::Txt_MerciContactAuteur(), Localisation::Btn_Ok(), "", "", 1, nullptr);
+}
+
+} // namespace tessarolyne

@@ -1,0 +1,29 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+// The forms in which the program shows a number: with `formatAuto` in groups with a blank between them, else
+// bare.
+namespace tessarolyne {
+
+// The masks of decimal numbers. The first leaves blanks for groups without digits, so that LTrim follows it.
+inline constexpr std::string_view groupedMask = "-###\\ ###\\ ###\\ ###\\ ###\\ ##0";
+inline constexpr std::string_view plainMask = "-#################0";
+
+// The text with the separator between groups of `groupSize` characters, counted from the right; unchanged if
+// the size is 0 or negative.
+std::string FormatString(std::string_view text, std::string_view separator, int groupSize);
+
+// A decimal number as it is shown, with two decimals if it has any that they show; a text that isn't numeric
+// unchanged, so that errors and messages pass. Its own result comes back as it is.
+std::string FormatNbre(std::string_view nombre, bool formatAuto);
+
+// A whole number as it is shown; exact up to 2^53.
+std::string FormatWhole(std::uint64_t value, bool grouped);
+
+// The digits of a number in a base as they are shown; the size of the groups depends on the base.
+std::string FormatType(std::string_view nombre, int base, bool formatAuto);
+
+} // namespace tessarolyne

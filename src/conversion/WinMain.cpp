@@ -1,0 +1,142 @@
+#include "conversion/WinMain.h"
+
+#include "app/Program.h"
+#include "conversion/PastedNumber.h"
+#include "platform/Services.h"
+#include "ui/Localisation.h"
+
+namespace tessarolyne {
+
+namespace {
+
+constexpr int recalculationDelay = 20; // shorter than the time between two keystrokes
+constexpr int quitPeriod = 10;
+constexpr int handOverPeriod = 1;
+constexpr int moment = 500; // what takes longer is shown to be under way
+constexpr int copyButtonTextSize = 16;
+
+constexpr const char* copyButtonCaption = "✎";
+
+// A comma typed by itself is the decimal key of half of Europe's numeric keypads.
+std::string DecimalInsertion(const std::string& inserted) {
+    return inserted == "," ? "." : NumberAsWritten(inserted);
+}
+
+} // namespace
+
+WinMain::WinMain(Program& owner)
+    : ProgramWindow(owner, "Tessarolyne", 550, 594, WindowFrame{}),
+      TimerTempo(owner.services.loop, recalculationDelay), TimerQuit(owner.services.loop, quitPeriod),
+      TimerThr(owner.services.loop, handOverPeriod), TimerVerMaJ(owner.services.loop, handOverPeriod),
+      SocketVerMaJ(owner.services.http), slowCheck_(owner.services.loop, moment),
+      ThreadDecPrems(owner.services.loop) {
+    SetInitialState();
+    NameForScreenReaders();
+    BindEvents();
+    BindCommandEvents();
+    BindUpdateCheck();
+    AddMenuHandlers();
+}
+
+void WinMain::SetInitialState() {
+    EditFieldNbre.Mask = "999999999999.99";
+    EditFieldNbre.CleanInserted = DecimalInsertion;
+    EditFieldBaseOrg.CleanInserted = DigitsAsPasted;
+    EditFieldBaseDest.ReadOnly = true;
+    for (TextField* field : {&EditFieldNbre, &EditFieldBaseOrg, &EditFieldBaseDest}) {
+        field->TextAlignment = Alignment::Right;
+    }
+    for (TextArea* area : {&TxtAreaDecomp1er, &TxtAreaLettres}) {
+        area->ReadOnly = true;
+    }
+    for (PushButton* button : {&PushButtonPressPapLettr, &PushButtonPressPapBOrg, &PushButtonPressPapBDest,
+             &PushButtonPressPapPrem}) {
+        button->Caption = copyButtonCaption;
+        button->TextSize = copyButtonTextSize;
+    }
+    GroupBox1.Caption = Localisation::GpBox1();
+    GroupBox2.Caption = Localisation::GpBox2();
+    GroupBoxLettre.Caption = Localisation::GpBox3();
+    CheckBoxMajusc.Caption = Localisation::ChBoxMajusc();
+    CheckBoxTrUnion.Caption = "-";
+    CheckBoxFormatAuto.Caption = Localisation::ChBoxFormatAuto();
+    RadioButton09AZ[0].Caption = "01…89AB…YZ";
+    RadioButton09AZ[1].Caption = "AB…YZ01…89";
+    BevelButtonListe.Caption = Localisation::BevelButtListe();
+    PushButtDecomposer.Caption = Localisation::Btn_Decomposer();
+    PushButtDecomposer.Enabled = false;
+    ProgressWheel1.Visible = false;
+    for (const char* code : {"en", "fr", "ch be"}) {
+        PopupMenuLg.AddRow(code);
+    }
+    PopupMenuLg.ListIndex = 0;
+    for (PopupMenu* menu : {&PopupMenuBaseOrg, &PopupMenuBaseDest}) {
+        menu->AddRow("");
+        menu->ListIndex = 0;
+    }
+}
+
+void WinMain::NameForScreenReaders() {
+    const std::string conversion = Localisation::GpBox1();
+    const std::string words = Localisation::GpBox3();
+    EditFieldNbre.AccessibleName = Localisation::Txt_EnBase() + "10";
+    EditFieldBaseOrg.AccessibleName = conversion + " 1";
+    PopupMenuBaseOrg.AccessibleName = conversion + " 1";
+    EditFieldBaseDest.AccessibleName = conversion + " 2";
+    PopupMenuBaseDest.AccessibleName = conversion + " 2";
+    TxtAreaDecomp1er.AccessibleName = Localisation::GpBox2();
+    TxtAreaLettres.AccessibleName = words;
+    PopupMenuLg.AccessibleName = words;
+    CheckBoxTrUnion.AccessibleName = words + " : -";
+    EditFieldMonnaies.AccessibleName = words + " : " + Localisation::Txt_Monnaies();
+    EditFieldMonnaie.AccessibleName = words + " : " + Localisation::Txt_Monnaie();
+    EditFieldCentimes.AccessibleName = words + " : " + Localisation::Txt_Centimes();
+    EditFieldCentime.AccessibleName = words + " : " + Localisation::Txt_Centime();
+    const std::string copy = Localisation::Menu_EditCopy() + " : ";
+    PushButtonPressPapBOrg.AccessibleName = copy + EditFieldBaseOrg.AccessibleName();
+    PushButtonPressPapBDest.AccessibleName = copy + EditFieldBaseDest.AccessibleName();
+    PushButtonPressPapPrem.AccessibleName = copy + TxtAreaDecomp1er.AccessibleName();
+    PushButtonPressPapLettr.AccessibleName = copy + TxtAreaLettres.AccessibleName();
+}
+
+void WinMain::BindEvents() {
+    EditFieldNbre.GotFocus = [this] { EditFieldNbre_GotFocus(EditFieldNbre); };
+    EditFieldNbre.LostFocus = [this] { EditFieldNbre_LostFocus(EditFieldNbre); };
+    EditFieldNbre.TextChange = [this] { EditFieldNbre_TextChange(EditFieldNbre); };
+    EditFieldNbre.KeyDown = [this](
+                                const std::string& key) { return EditFieldNbre_KeyDown(EditFieldNbre, key); };
+    EditFieldBaseOrg.GotFocus = [this] { EditFieldBaseOrg_GotFocus(EditFieldBaseOrg); };
+    EditFieldBaseOrg.LostFocus = [this] { EditFieldBaseOrg_LostFocus(EditFieldBaseOrg); };
+    EditFieldBaseOrg.TextChange = [this] { EditFieldBaseOrg_TextChange(EditFieldBaseOrg); };
+    EditFieldBaseOrg.KeyDown = [this](const std::string& key) {
+        return EditFieldBaseOrg_KeyDown(EditFieldBaseOrg, key);
+    };
+    PopupMenuBaseOrg.Change = [this] { PopupMenuBaseOrg_Change(PopupMenuBaseOrg); };
+    PopupMenuBaseDest.Change = [this] { PopupMenuBaseDest_Change(PopupMenuBaseDest); };
+    RadioButton09AZ[0].Action = [this] { RadioButton09AZ_Action(RadioButton09AZ[0], 0); };
+    RadioButton09AZ[1].Action = [this] { RadioButton09AZ_Action(RadioButton09AZ[1], 1); };
+    EditFieldMonnaies.TextChange = [this] { EditFieldMonnaies_TextChange(EditFieldMonnaies); };
+    EditFieldMonnaie.TextChange = [this] { EditFieldMonnaie_TextChange(EditFieldMonnaie); };
+    EditFieldCentimes.TextChange = [this] { EditFieldCentimes_TextChange(EditFieldCentimes); };
+    EditFieldCentime.TextChange = [this] { EditFieldCentime_TextChange(EditFieldCentime); };
+    CheckBoxMajusc.Action = [this] { CheckBoxMajusc_Action(CheckBoxMajusc); };
+    CheckBoxTrUnion.Action = [this] { CheckBoxTrUnion_Action(CheckBoxTrUnion); };
+    PopupMenuLg.Change = [this] { PopupMenuLg_Change(PopupMenuLg); };
+    TimerTempo.Action = [this] { TimerTempo_Action(TimerTempo); };
+    TimerQuit.Action = [this] { TimerQuit_Action(TimerQuit); };
+    TimerThr.Action = [this] { TimerThr_Action(TimerThr); };
+    ThreadDecPrems.Run = [this] { ThreadDecPrems_Run(ThreadDecPrems); };
+    ThreadDecPrems.Failed = [this](const std::string& reason) { ThreadFailed(factorsAreThere, reason); };
+}
+
+void WinMain::BindCommandEvents() {
+    CheckBoxFormatAuto.Action = [this] { CheckBoxFormatAuto_Action(CheckBoxFormatAuto); };
+    PushButtonPressPapBOrg.Action = [this] { PushButtonPressPapBOrg_Action(PushButtonPressPapBOrg); };
+    PushButtonPressPapBDest.Action = [this] { PushButtonPressPapBDest_Action(PushButtonPressPapBDest); };
+    PushButtonPressPapPrem.Action = [this] { PushButtonPressPapPrem_Action(PushButtonPressPapPrem); };
+    PushButtonPressPapLettr.Action = [this] { PushButtonPressPapLettr_Action(PushButtonPressPapLettr); };
+    BevelButtonListe.Action = [this] { BevelButtonListe_Action(BevelButtonListe); };
+    PushButtDecomposer.Action = [this] { PushButtDecomposer_Action(PushButtDecomposer); };
+}
+
+} // namespace tessarolyne

@@ -1,0 +1,264 @@
+#pragma once
+
+#include "platform/BevelButton.h"
+#include "platform/CheckBox.h"
+#include "platform/GroupBox.h"
+#include "platform/Http.h"
+#include "platform/Label.h"
+#include "platform/PopupMenu.h"
+#include "platform/ProgressWheel.h"
+#include "platform/PushButton.h"
+#include "platform/RadioButton.h"
+#include "platform/TextArea.h"
+#include "platform/TextField.h"
+#include "platform/Thread.h"
+#include "platform/Timer.h"
+#include "primes/PrimeTable.h"
+#include "primes/RunControl.h"
+#include "ui/BlockingOverlay.h"
+#include "ui/ProgramWindow.h"
+
+#include <array>
+#include <cstdint>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tessarolyne {
+
+class MenuItem;
+
+// The one window that is always there: the number that the user works on, its forms, and what the whole
+// program shares: the table of primes, the flags of a calculation, the timers, a worker thread and the
+// fetcher of the update check. Each .cpp that defines its operations has one subject and is named by it.
+class WinMain final : public ProgramWindow {
+public:
+    explicit WinMain(Program& program);
+
+    // --- Controls, in the order in which they are made ---
+
+    TextField EditFieldNbre{*this, "EditFieldNbre", {36, 14, 320, 22}, lockLeftTop, TabStop(0)};
+
+    GroupBox GroupBoxLettre{*this, "GroupBoxLettre", {20, 385, 510, 184}, lockLeftTopRight, TabStop(9)};
+    PushButton PushButtonPressPapLettr{
+        *this, "PushButtonPressPapLettr", {482, 507, 32, 20}, lockTopRight, NoTabStop(0), &GroupBoxLettre};
+    TextField EditFieldMonnaies{
+        *this, "EditFieldMonnaies", {36, 507, 80, 22}, lockLeftTop, TabStop(2), &GroupBoxLettre};
+    TextField EditFieldMonnaie{
+        *this, "EditFieldMonnaie", {128, 507, 80, 22}, lockLeftTop, TabStop(3), &GroupBoxLettre};
+    TextField EditFieldCentimes{
+        *this, "EditFieldCentimes", {230, 507, 80, 22}, lockLeftTop, TabStop(4), &GroupBoxLettre};
+    TextField EditFieldCentime{
+        *this, "EditFieldCentime", {322, 507, 80, 22}, lockLeftTop, TabStop(5), &GroupBoxLettre};
+    TextArea TxtAreaLettres{
+        *this, "TxtAreaLettres", {36, 415, 478, 80}, lockLeftTopRight, NoTabStop(8), &GroupBoxLettre};
+    CheckBox CheckBoxMajusc{
+        *this, "CheckBoxMajusc", {36, 538, 272, 20}, lockLeftTop, TabStop(9), &GroupBoxLettre};
+    PopupMenu PopupMenuLg{
+        *this, "PopupMenuLg", {398, 538, 80, 20}, lockLeftTop, TabStop(10), &GroupBoxLettre};
+    CheckBox CheckBoxTrUnion{
+        *this, "CheckBoxTrUnion", {322, 538, 48, 20}, lockLeftTop, TabStop(11), &GroupBoxLettre};
+
+    GroupBox GroupBox1{*this, "GroupBox1", {20, 57, 510, 128}, lockLeftTopRight, TabStop(1)};
+    PopupMenu PopupMenuBaseOrg{
+        *this, "PopupMenuBaseOrg", {368, 87, 100, 20}, lockLeftTop, NoTabStop(0), &GroupBox1};
+    PopupMenu PopupMenuBaseDest{
+        *this, "PopupMenuBaseDest", {368, 122, 100, 20}, lockLeftTop, NoTabStop(3), &GroupBox1};
+    std::array<RadioButton, 2> RadioButton09AZ{
+        RadioButton{*this, "RadioButton09AZ", {36, 155, 128, 20}, lockLeftTop, NoTabStop(4), &GroupBox1},
+        RadioButton{*this, "RadioButton09AZ", {190, 155, 128, 20}, lockLeftTop, NoTabStop(5), &GroupBox1}};
+    PushButton PushButtonPressPapBOrg{
+        *this, "PushButtonPressPapBOrg", {482, 86, 32, 20}, lockTopRight, NoTabStop(6), &GroupBox1};
+    PushButton PushButtonPressPapBDest{
+        *this, "PushButtonPressPapBDest", {482, 121, 32, 20}, lockTopRight, NoTabStop(7), &GroupBox1};
+    TextField EditFieldBaseDest{
+        *this, "EditFieldBaseDest", {36, 121, 320, 22}, lockLeftTop, NoTabStop(0), &GroupBox1};
+    TextField EditFieldBaseOrg{
+        *this, "EditFieldBaseOrg", {36, 86, 320, 22}, lockLeftTop, TabStop(2), &GroupBox1};
+
+    GroupBox GroupBox2{*this, "GroupBox2", {20, 207, 510, 156}, lockLeftTopRight, TabStop(11)};
+    BevelButton BevelButtonListe{
+        *this, "BevelButtonListe", {155, 330, 100, 21}, lockLeftTop, NoTabStop(0), &GroupBox2};
+    PushButton PushButtDecomposer{
+        *this, "PushButtDecomposer", {36, 330, 107, 20}, lockLeftTop, NoTabStop(1), &GroupBox2};
+    PushButton PushButtonPressPapPrem{
+        *this, "PushButtonPressPapPrem", {482, 329, 32, 20}, lockTopRight, NoTabStop(2), &GroupBox2};
+    TextArea TxtAreaDecomp1er{
+        *this, "TxtAreaDecomp1er", {36, 237, 478, 80}, lockLeftTopRight, NoTabStop(7), &GroupBox2};
+
+    Label StaticTextEnBase10{*this, "StaticTextEnBase10", {368, 15, 104, 20}, lockLeftTop, TabStop(12)};
+    CheckBox CheckBoxFormatAuto{*this, "CheckBoxFormatAuto", {366, 34, 128, 20}, lockLeftTop, NoTabStop(13)};
+    ProgressWheel ProgressWheel1{*this, "ProgressWheel1", {514, 14, 16, 16}, lockTopRight, NoTabStop(16)};
+    BlockingOverlay LabBlockUI{*this, fncts, TabStop(17)};
+
+    Timer TimerTempo;
+    Timer TimerQuit;
+    Timer TimerThr;
+    Timer TimerVerMaJ;
+    HTTPSocket SocketVerMaJ;
+
+    // What ThrNo says when a thread's result waits for the main thread.
+    static constexpr std::int16_t factorsAreThere = 3;
+    static constexpr std::int16_t listRunHasEnded = 4;
+
+    // --- Properties ---
+
+    PrimeTable Nbres_Premiers;       // the table of primes, rising from 2
+    std::uint32_t Nb_NbrePcharg = 0; // how many of its entries agree with the prime file
+    bool FocusNbre = false;          // EditFieldNbre is being edited
+    bool FocusBase = false;          // EditFieldBaseOrg is being edited
+    bool CalculEnCours = false;      // from a calculation's start until its result has been dealt with
+    std::vector<std::uint64_t> Nbre_Decompose; // the factors; a single 0: none
+    std::int16_t NbreNbPparLigne = 10;         // primes per line in the prime file
+    bool DrapTimerNbre = true;     // the source of the number: EditFieldNbre, else EditFieldBaseOrg
+    std::uint64_t NbreMax = 0;     // the largest number accepted
+    std::string MemErrDecomp;      // the last mismatch of a factorisation that was reported
+    std::string MemErrConv;        // the last mismatch of a base conversion that was reported
+    std::int16_t ThrNo = 0;        // what TimerThr has to do: 3 show the factors, 4 end the list's run
+    std::uint64_t ThrPn1 = 0;      // the number or limit that the running thread works on
+    std::int64_t TicksFinCalc = 0; // when a calculation on the main thread has to give up
+
+    // --- Operations that others call ---
+
+    // Computes every output again from the field that is the source of the number.
+    void ChangeNbre();
+    // Reads the source field in its base and writes the other number fields, or what is wrong in all outputs.
+    void ConvNbreBaseD();
+    // The digits in `baseDest` of a number given in `baseOrg`, or the text of an error.
+    std::string ConvNbreBase(std::string_view nombre, int baseOrg, int baseDest, std::string_view alphabet);
+    // A decimal number as it is shown; a text that is no number comes back unchanged.
+    std::string FormatNbre(std::string_view nombre, bool formatAuto);
+    // Digits in a base as they are shown.
+    std::string FormatType(std::string_view nombre, int base, bool formatAuto);
+    // Brings the menus and the controls of both windows in line with Fncts::DrapMenu.
+    void EnableMenuBoutons();
+    // Starts a factorisation of what EditFieldNbre holds; `force` sends it to the thread without a time
+    // limit.
+    void DecompPremDeb(bool force);
+    // Fills Nbre_Decompose, on any thread; `checkTime` applies TicksFinCalc.
+    void DecompPremCalc(std::uint64_t n, bool checkTime);
+    // Checks and shows the factors of `n`, on the main thread, and ends the calculation.
+    void DecompPremFin(std::uint64_t n);
+    // Extends the table: by one prime for a limit of 0, else until the last number tested is at least
+    // `limit`. Gives the table's last entry.
+    std::uint64_t NbresPremCalc(std::uint64_t limit, bool checkTime);
+    // Writes the amount in words.
+    void ConvNbreLettresD();
+    // A calculation on a thread has taken DrapMenu down and not yet given it back.
+    bool CalculationHoldsMenu() const { return calculationHoldsMenu_; }
+    // Takes DrapMenu down for a calculation on a thread; `false` gives it back.
+    void HoldMenuForCalculation(bool hold);
+    // Stops a running calculation if the key is Escape, with the sound that says so.
+    void StopOnEscape(const std::string& key);
+    // A fixed diagnostic after a run that memory, or a failure, ended; nothing after any other.
+    void TellWhyRunEnded();
+    // Ends the body of a thread that a failure cut short as if it had been stopped.
+    void ThreadFailed(std::int16_t step, const std::string& reason);
+    // Asks whether to stop the running calculation and quit; on yes, TimerQuit waits for its end.
+    void AskToStopCalculation();
+    // What the signal or the session's end leaves time for: the settings, and new primes if a file is bound.
+    void SaveWithoutAsking();
+
+    // --- Events ---
+
+    void Event_Open() override;
+    bool Event_CancelClose(bool appQuitting) override;
+    void Event_EnableMenuItems() override;
+    bool Event_KeyDown(const std::string& key) override;
+
+    void EditFieldNbre_GotFocus(TextField& champ);
+    void EditFieldNbre_LostFocus(TextField& champ);
+    void EditFieldNbre_TextChange(TextField& champ);
+    bool EditFieldNbre_KeyDown(TextField& champ, const std::string& key);
+    void EditFieldBaseOrg_GotFocus(TextField& champ);
+    void EditFieldBaseOrg_LostFocus(TextField& champ);
+    void EditFieldBaseOrg_TextChange(TextField& champ);
+    bool EditFieldBaseOrg_KeyDown(TextField& champ, const std::string& key);
+    void PopupMenuBaseOrg_Change(PopupMenu& menu);
+    void PopupMenuBaseDest_Change(PopupMenu& menu);
+    void RadioButton09AZ_Action(RadioButton& bouton, int index);
+    void CheckBoxFormatAuto_Action(CheckBox& bouton);
+    void PushButtonPressPapBOrg_Action(PushButton& bouton);
+    void PushButtonPressPapBDest_Action(PushButton& bouton);
+    void PushButtonPressPapPrem_Action(PushButton& bouton);
+    void PushButtonPressPapLettr_Action(PushButton& bouton);
+    void BevelButtonListe_Action(BevelButton& bouton);
+    void PushButtDecomposer_Action(PushButton& bouton);
+    void EditFieldMonnaies_TextChange(TextField& champ);
+    void EditFieldMonnaie_TextChange(TextField& champ);
+    void EditFieldCentimes_TextChange(TextField& champ);
+    void EditFieldCentime_TextChange(TextField& champ);
+    void CheckBoxMajusc_Action(CheckBox& bouton);
+    void CheckBoxTrUnion_Action(CheckBox& bouton);
+    void PopupMenuLg_Change(PopupMenu& menu);
+    void TimerTempo_Action(Timer& timer);
+    void TimerQuit_Action(Timer& timer);
+    void TimerThr_Action(Timer& timer);
+    void ThreadDecPrems_Run(Thread& thread);
+    bool FichChoixFichNbP_Action();
+    bool FichSauvFichNbP_Action();
+    void SocketVerMaJ_PageReceived(HTTPSocket& sender, const std::string& url, int httpStatus,
+        const std::string& headers, const std::string& content);
+    void SocketVerMaJ_Error(HTTPSocket& sender, int code);
+    void TimerVerMaJ_Action(Timer& sender);
+
+    // The menu's commands. Each acts only if its item is enabled, since a shortcut reaches it also when it
+    // isn't, and says in any case that the command was handled.
+    bool AppleAPropos_Action();
+    bool AideAide_Action();
+    bool AppleDon_Action();
+    bool ApplePrefs_Action();
+    bool AppleVMaJ_Action();
+
+private:
+    void BindEvents();
+    void BindCommandEvents();
+    void BindUpdateCheck();
+    void SetInitialState();
+    void NameForScreenReaders();
+    void AddMenuHandlers();
+    void AddHelpMenuHandlers();
+    bool MenuItemIsEnabled(const char* name) const;
+
+    bool FindPreferencesFolder();
+    void SweepLeftovers();
+    void Welcome(bool premierLancement);
+    void StartAutomaticCheck();
+    void FetchVersionFile();
+    void VersionFileHasCome();
+
+    bool ConvertDecimal(std::string& decimal, std::string& source, int baseOrg, std::string_view alphabet);
+    void ConvertSourceBase(std::string& decimal, std::string& source, int baseOrg, std::string_view alphabet);
+    void ShowDestination(
+        const std::string& decimal, const std::string& source, int baseOrg, std::string_view alphabet);
+    void ReportConversionMismatch(
+        const std::string& fromDecimal, int baseDest, const std::string& fromSource, int baseOrg);
+    bool IsErrorText(std::string_view text) const;
+    void RememberSource(TextField& field, bool hasFocus, bool isDecimal, std::string& lastText);
+
+    void RunFactorsOnThread(std::uint64_t n);
+    void ReportFactorMismatch(std::uint64_t product, std::uint64_t n);
+    RunControl MakeRunControl(bool checkTime);
+
+    bool AskAboutNewPrimes(bool& enregistrer);
+    void DecideClose(bool enregistrer);
+
+    void RecomputeWords();
+    void ResetCurrencies();
+    void CopyToClipboard(const std::string& texte);
+
+    bool startIsOver_ = false; // there are settings to save; unlike App.initProg it stays up
+    bool calculationHoldsMenu_ = false;
+    bool recalculationDue_ = false; // a change of the number that a quit under way has put off
+    Timer slowCheck_;               // until a check from the menu has to show that it is under way
+    int fetchesUnderWay_ = 0;
+    RunEnd lastRunEnd_{};
+    std::string lastTextNbre_;    // what EditFieldNbre held at its last TextChange
+    std::string lastTextBaseOrg_; // what EditFieldBaseOrg held at its last TextChange
+
+public:
+    // Last, so that it is joined before anything goes that its body uses.
+    Thread ThreadDecPrems;
+};
+
+} // namespace tessarolyne

@@ -1,0 +1,113 @@
+#include "desktop/ControlView.h"
+
+#include "desktop/AreaView.h"
+#include "desktop/ButtonViews.h"
+#include "desktop/FieldView.h"
+#include "desktop/PopupMenuView.h"
+#include "desktop/QtText.h"
+#include "desktop/ShowingViews.h"
+
+#include <utility>
+
+namespace tessarolyne {
+
+ControlView::ControlView(Control& control, QWidget* widget) : control_(control), widget_(widget) {
+    widget_->setObjectName(ToQt(control.Name));
+    // A click moves the focus into texts alone, see their views; the rest takes it from the keyboard.
+    widget_->setFocusPolicy(control.TakesFocus() ? Qt::TabFocus : Qt::NoFocus);
+    changed_ = control.Changed.Connect([this] {
+        if (!telling_) {
+            Update();
+        }
+    });
+}
+
+// The widget goes later, with its parent, and must not report to a view that is gone.
+ControlView::~ControlView() {
+    QObject::disconnect(widget_, nullptr, widget_, nullptr);
+}
+
+void ControlView::Update() {
+    if (reading_) {
+        return;
+    }
+    reading_ = true;
+    ReadCommon();
+    Read();
+    reading_ = false;
+}
+
+void ControlView::TellModel(const std::function<void()>& tell) {
+    if (telling_) {
+        tell();
+        return;
+    }
+    telling_ = true;
+    tell();
+    telling_ = false;
+    Update();
+}
+
+void ControlView::ReadCommon() {
+    const Control* parent = control_.Parent();
+    const QRect place(control_.Left - (parent == nullptr ? 0 : parent->Left()),
+        control_.Top - (parent == nullptr ? 0 : parent->Top()), control_.Width, control_.Height);
+    if (widget_->geometry() != place) {
+        widget_->setGeometry(place);
+    }
+    if (widget_->isEnabledTo(widget_->parentWidget()) != control_.Enabled()) {
+        widget_->setEnabled(control_.Enabled());
+    }
+    if (widget_->isHidden() == control_.Visible()) {
+        widget_->setVisible(control_.Visible());
+    }
+    const QString tip = PlainToolTip(control_.HelpTag());
+    if (widget_->toolTip() != tip) {
+        widget_->setToolTip(tip);
+    }
+    const QString description = WithLineFeeds(Description());
+    if (widget_->accessibleDescription() != description) {
+        widget_->setAccessibleDescription(description);
+    }
+    const QString name = ToQt(control_.AccessibleName().empty() ? OwnName() : control_.AccessibleName());
+    if (widget_->accessibleName() != name) {
+        widget_->setAccessibleName(name);
+    }
+}
+
+namespace {
+
+template <typename Model, typename View>
+std::unique_ptr<ControlView> MakeIf(Control& control, QWidget* parent) {
+    auto* model = dynamic_cast<Model*>(&control);
+    return model == nullptr ? nullptr : std::make_unique<View>(*model, parent);
+}
+
+} // namespace
+
+std::unique_ptr<ControlView> MakeControlView(Control& control, QWidget* parent) {
+    using Maker = std::unique_ptr<ControlView> (*)(Control&, QWidget*);
+    static constexpr Maker makers[] = {
+        &MakeIf<TextField, FieldView>,
+        &MakeIf<TextArea, AreaView>,
+        &MakeIf<PushButton, PushButtonView>,
+        &MakeIf<BevelButton, BevelButtonView>,
+        &MakeIf<CheckBox, CheckBoxView>,
+        &MakeIf<RadioButton, RadioButtonView>,
+        &MakeIf<PopupMenu, PopupMenuView>,
+        &MakeIf<Label, LabelView>,
+        &MakeIf<GroupBox, GroupBoxView>,
+        &MakeIf<ProgressWheel, ProgressWheelView>,
+        &MakeIf<ProgressBar, ProgressBarView>,
+        &MakeIf<Canvas, CanvasView>,
+    };
+    for (const Maker make : makers) {
+        if (auto view = make(control, parent)) {
+            view->Update();
+            return view;
+        }
+    }
+    return nullptr;
+}
+
+} // namespace tessarolyne

@@ -1,0 +1,60 @@
+#pragma once
+
+#include "platform/Control.h"
+#include "platform/Signal.h"
+
+#include <QWidget>
+
+#include <functional>
+#include <memory>
+#include <string>
+
+namespace tessarolyne {
+
+// What draws one control: holds its widget and keeps place, visibility, enabling, help tag and accessible
+// name in step with the model. A kind of control adds its own state in Read(). The widget belongs to its
+// parent widget, and the view lives as long as the window's view.
+class ControlView {
+public:
+    ControlView(Control& control, QWidget* widget);
+    virtual ~ControlView();
+    ControlView(const ControlView&) = delete;
+    ControlView& operator=(const ControlView&) = delete;
+
+    Control& Model() const { return control_; }
+    QWidget* Widget() const { return widget_; }
+
+    // Reads the whole state from the model.
+    void Update();
+
+    // Where Tab or F6 arrives by keyboard: what is selected then.
+    virtual void AboutToFocusByKey() {}
+    // A key that the model left alone and that means more here than to Qt. True: used.
+    virtual bool PressKey([[maybe_unused]] int key) { return false; }
+
+protected:
+    // The part of the state that this kind adds. Runs with IsReading() true.
+    virtual void Read() = 0;
+    // Whether the view is bringing the widget in line: what the widget reports then isn't the user's doing.
+    bool IsReading() const { return reading_; }
+    // Hands something to the model, and reads the model once afterwards, whatever it said meanwhile.
+    void TellModel(const std::function<void()>& tell);
+    // The caption or text that serves as accessible name where the model gives none.
+    virtual std::string OwnName() const { return {}; }
+    // What a screen reader adds to the name.
+    virtual std::string Description() const { return control_.HelpTag; }
+
+private:
+    void ReadCommon();
+
+    Control& control_;
+    QWidget* const widget_;
+    bool reading_ = false;
+    bool telling_ = false;
+    Connection changed_;
+};
+
+// The view of a control of any kind, its widget made inside `parent`.
+std::unique_ptr<ControlView> MakeControlView(Control& control, QWidget* parent);
+
+} // namespace tessarolyne

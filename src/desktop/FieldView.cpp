@@ -1,0 +1,144 @@
+#include "desktop/FieldView.h"
+
+#include "desktop/FittingFont.h"
+#include "desktop/QtText.h"
+#include "desktop/Replacement.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+
+#include <functional>
+#include <limits>
+#include <utility>
+
+namespace tessarolyne {
+
+namespace {
+
+// Hands on a paste that the line would cut; a shorter one is the line's own affair, with its undo.
+class LineEdit final : public QLineEdit {
+public:
+    using QLineEdit::QLineEdit;
+
+    std::function<void(const QString&)> onLongPaste;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override {
+        if (event->matches(QKeySequence::Paste)) {
+            const QString pasted = QGuiApplication::clipboard()->text();
+            if (pasted.size() + text().size() > maxLength()) {
+                onLongPaste(pasted);
+                return;
+            }
+        }
+        QLineEdit::keyPressEvent(event);
+    }
+};
+
+} // namespace
+
+FieldView::FieldView(TextField& model, QWidget* parent)
+    : ControlView(model, new LineEdit(parent)), model_(model), edit_(static_cast<QLineEdit*>(Widget())) {
+    edit_->setFocusPolicy(Qt::StrongFocus);
+    static_cast<LineEdit*>(edit_)->onLongPaste = [this](const QString& text) { Pasted(text); };
+    QObject::connect(edit_, &QLineEdit::textEdited, edit_, [this] { Edited(); });
+    QObject::connect(edit_, &QLineEdit::cursorPositionChanged, edit_, [this] { Selected(); });
+    QObject::connect(edit_, &QLineEdit::selectionChanged, edit_, [this] { Selected(); });
+}
+
+void FieldView::AboutToFocusByKey() {
+    model_.UserSelected(0, CharacterOfUnit(model_.Text, std::numeric_limits<int>::max()));
+}
+
+void FieldView::Read() {
+    if (edit_->isReadOnly() != model_.ReadOnly()) {
+        edit_->setReadOnly(model_.ReadOnly);
+    }
+    edit_->setAlignment(QtAlignment(model_.TextAlignment));
+    if (model_.TextSize > 0) {
+        edit_->setFont(FittingFont(*edit_, QString(), 0, model_.TextSize));
+    }
+    ReadText();
+    if (model_.HasFocus()) {
+        ReadSelection();
+    }
+}
+
+QString FieldView::Shown(const std::string& text) const {
+    QString shown = ToQt(text);
+    shown.truncate(edit_->maxLength());
+    return shown;
+}
+
+void FieldView::ReadText() {
+    const QString text = Shown(model_.DisplayText());
+    const QString shown = edit_->text();
+    if (text == shown) {
+        return;
+    }
+    if (!correcting_) {
+        edit_->setText(text);
+        edit_->setCursorPosition(0); // a long text is read from its beginning
+        return;
+    }
+    const Replacement change = FindReplacement(shown, text, text.size(), text.size());
+    edit_->setSelection(static_cast<int>(change.start), static_cast<int>(change.removed));
+    edit_->insert(change.inserted);
+}
+
+void FieldView::ReadSelection() {
+    const std::string text = model_.Text;
+    const int start = UnitOfCharacter(text, model_.SelStart);
+    const int end = UnitOfCharacter(text, model_.SelStart + model_.SelLength);
+    const int shownStart = edit_->hasSelectedText() ? edit_->selectionStart() : edit_->cursorPosition();
+    const int shownEnd = edit_->hasSelectedText() ? edit_->selectionEnd() : edit_->cursorPosition();
+    if (start == shownStart && end == shownEnd) {
+        return;
+    }
+    if (start == end) {
+        edit_->setCursorPosition(start);
+    } else {
+        edit_->setSelection(start, end - start);
+    }
+}
+
+void FieldView::Pasted(const QString& text) {
+    TellModel([&] { model_.UserTyped(FromQt(text)); });
+}
+
+void FieldView::Edited() {
+    if (IsReading()) {
+        return;
+    }
+    const std::string text = model_.Text;
+    if (!model_.HasFocus() && model_.DisplayText() != text) {
+        Update(); // something was dropped on a number that is shown formatted
+        return;
+    }
+    const QString before = Shown(text);
+    const Replacement change = FindReplacement(
+        before, edit_->text(), UnitOfCharacter(text, model_.SelStart), edit_->cursorPosition());
+    const int start = CharacterOfUnit(text, static_cast<int>(change.start));
+    // What is removed up to the end that is shown takes the rest with it.
+    const bool toTheEnd = change.start + change.removed == before.size();
+    const int end = CharacterOfUnit(
+        text, toTheEnd ? std::numeric_limits<int>::max() : static_cast<int>(change.start + change.removed));
+    correcting_ = true;
+    TellModel([&] { model_.UserReplaced(start, end - start, FromQt(change.inserted)); });
+    correcting_ = false;
+}
+
+void FieldView::Selected() {
+    if (IsReading() || !model_.HasFocus() || edit_->text() != Shown(model_.Text)) {
+        return;
+    }
+    const std::string text = model_.Text;
+    const int start = edit_->hasSelectedText() ? edit_->selectionStart() : edit_->cursorPosition();
+    const int end = edit_->hasSelectedText() ? edit_->selectionEnd() : start;
+    const int first = CharacterOfUnit(text, start);
+    TellModel([&] { model_.UserSelected(first, CharacterOfUnit(text, end) - first); });
+}
+
+} // namespace tessarolyne

@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+class QKeyEvent;
+
+namespace tessarolyne {
+
+// The key as the models know it: Return is Chr(13), Enter Chr(3), Escape Chr(27), Tab Chr(9), any other key
+// the text that it types. Empty for keys that type nothing and for those of the menus (with Ctrl or Command).
+std::string KeyText(const QKeyEvent& event);
+
+} // namespace tessarolyne

@@ -1,0 +1,146 @@
+#include "desktop/MessageView.h"
+
+#include "desktop/QtText.h"
+#include "desktop/VisibleText.h"
+
+#include <QAccessible>
+#include <QCloseEvent>
+#include <QDialogButtonBox>
+#include <QFontMetrics>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPlainTextEdit>
+#include <QPushButton>
+#include <QScreen>
+#include <QStyle>
+#include <QTextCursor>
+#include <QVBoxLayout>
+
+#include <algorithm>
+
+namespace tessarolyne {
+
+namespace {
+
+constexpr int textWidth = 420;
+constexpr int textMargins = 12;
+
+// A screen reader gets as much as it can be asked to read out at once.
+constexpr qsizetype longestName = 2000;
+
+// The height of the text in the font, wrapped as the view wraps it.
+int HeightOf(const QString& text, const QFont& font) {
+    const QRect space(0, 0, textWidth - textMargins, QWIDGETSIZE_MAX);
+    const int flags = Qt::TextWordWrap | Qt::TextWrapAnywhere;
+    return text.isEmpty() ? 0 : QFontMetrics(font).boundingRect(space, flags, text).height();
+}
+
+QString WithoutMnemonic(const std::string& caption) {
+    return VisibleText(caption).replace(u'\n', u' ').replace(u'&', QLatin1String("&&"));
+}
+
+} // namespace
+
+MessageView::MessageView(const MessageDialog& dialog, QWidget* parent) : QDialog(parent) {
+    setWindowModality(parent != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
+    auto* const upper = new QHBoxLayout;
+    upper->addWidget(MakeIcon(dialog.icon), 0, Qt::AlignTop);
+    upper->addWidget(MakeText(dialog), 1);
+    auto* const all = new QVBoxLayout(this);
+    all->addLayout(upper, 1);
+    all->addWidget(MakeButtons(dialog));
+    all->setSizeConstraint(QLayout::SetFixedSize);
+}
+
+QWidget* MessageView::MakeIcon(int icon) {
+    auto* const label = new QLabel(this);
+    const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
+    const auto kind = icon == 0 ? QStyle::SP_MessageBoxInformation : QStyle::SP_MessageBoxWarning;
+    label->setPixmap(
+        style()->standardIcon(kind, nullptr, this).pixmap(QSize(size, size), devicePixelRatio()));
+    return label;
+}
+
+QPlainTextEdit* MessageView::MakeText(const MessageDialog& dialog) {
+    auto* const edit = new QPlainTextEdit(this);
+    edit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+    edit->setFocusPolicy(Qt::StrongFocus);
+    edit->setTabChangesFocus(true);
+    edit->setFrameShape(QFrame::NoFrame);
+    edit->viewport()->setAutoFillBackground(false);
+    edit->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    edit->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+
+    const QString message = VisibleText(dialog.message);
+    const QString explanation = VisibleText(dialog.explanation);
+    QTextCursor cursor(edit->document());
+    QTextCharFormat format;
+    format.setFontWeight(explanation.isEmpty() ? QFont::Normal : QFont::Bold);
+    cursor.insertText(message, format);
+    if (!explanation.isEmpty()) {
+        cursor.insertText(QLatin1String("\n\n") + explanation, QTextCharFormat());
+    }
+    edit->setAccessibleName((message + u'\n' + explanation).trimmed().left(longestName));
+
+    edit->setFixedWidth(textWidth);
+    QFont messageFont = edit->font();
+    messageFont.setWeight(static_cast<QFont::Weight>(format.fontWeight()));
+    const int height = HeightOf(message, messageFont) + HeightOf(explanation, edit->font()) +
+                       (explanation.isEmpty() ? 0 : edit->fontMetrics().lineSpacing());
+    edit->setFixedHeight(std::min(height + textMargins, screen()->availableSize().height() / 2));
+    return edit;
+}
+
+QWidget* MessageView::MakeButtons(const MessageDialog& dialog) {
+    auto* const box = new QDialogButtonBox(this);
+    const auto add = [&](const std::string& caption, QDialogButtonBox::ButtonRole role, DialogButton answer,
+                         const std::string& helpTag) {
+        auto* const button = box->addButton(WithoutMnemonic(caption), role);
+        button->setAutoDefault(false); // Return belongs to the action button alone
+        button->setToolTip(PlainToolTip(FromQt(VisibleText(helpTag))));
+        connect(button, &QPushButton::clicked, this, [this, answer] { Finish(answer); });
+        return button;
+    };
+    if (dialog.actionCaption.empty()) {
+        action_ = box->addButton(QDialogButtonBox::Ok);
+        connect(action_, &QPushButton::clicked, this, [this] { Finish(DialogButton::Action); });
+    } else {
+        action_ = add(
+            dialog.actionCaption, QDialogButtonBox::AcceptRole, DialogButton::Action, dialog.actionHelpTag);
+    }
+    if (!dialog.cancelCaption.empty()) {
+        onReject_ = DialogButton::Cancel;
+        add(dialog.cancelCaption, QDialogButtonBox::RejectRole, DialogButton::Cancel, dialog.cancelHelpTag);
+    }
+    if (!dialog.alternateCaption.empty()) {
+        add(dialog.alternateCaption, QDialogButtonBox::DestructiveRole, DialogButton::Alternate,
+            dialog.alternateHelpTag);
+    }
+    action_->setDefault(true);
+    return box;
+}
+
+void MessageView::Finish(DialogButton answer) {
+    answer_ = answer;
+    done(0);
+}
+
+// Escape.
+void MessageView::reject() {
+    Finish(onReject_);
+}
+
+// The close box chooses no button: a cancel button may open a page, or drop something.
+void MessageView::closeEvent(QCloseEvent* event) {
+    event->accept();
+    Finish(DialogButton::None);
+}
+
+void MessageView::showEvent(QShowEvent* event) {
+    QDialog::showEvent(event);
+    action_->setFocus(Qt::OtherFocusReason);
+    QAccessibleEvent alert(this, QAccessible::Alert);
+    QAccessible::updateAccessibility(&alert);
+}
+
+} // namespace tessarolyne

@@ -1,0 +1,83 @@
+#include "desktop/QtApplication.h"
+
+#include "desktop/QtText.h"
+
+#include <QEvent>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QSessionManager>
+#include <QSocketNotifier>
+#include <QTranslator>
+
+#include <utility>
+
+namespace tessarolyne {
+
+namespace {
+
+bool PrefersX() {
+#ifdef Q_OS_LINUX
+    return !qEnvironmentVariableIsEmpty("DISPLAY") && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
+#else
+    return false;
+#endif
+}
+
+} // namespace
+
+detail::QtArguments::QtArguments() : texts{"tessarolyne"} {
+    if (PrefersX()) {
+        texts.insert(texts.end(), {"-platform", "xcb"});
+    }
+    for (std::string& text : texts) {
+        pointers.push_back(text.data());
+    }
+    pointers.push_back(nullptr);
+    count = static_cast<int>(texts.size());
+}
+
+QtApplication::QtApplication(
+    const std::string& name, const std::string& version, const std::string& identifier)
+    : QApplication(count, pointers.data()) {
+    setApplicationName(ToQt(name));
+    setApplicationVersion(ToQt(version));
+    setDesktopFileName(ToQt(identifier));
+    setQuitOnLastWindowClosed(false);
+    LoadQtTexts();
+    connect(this, &QGuiApplication::commitDataRequest, this, [this](QSessionManager&) {
+        if (OnSessionEnds) {
+            OnSessionEnds();
+        }
+    });
+}
+
+QtApplication::~QtApplication() = default;
+
+// Qt's own words (context menus, "OK", the file chooser) in the user's language, where they are installed.
+void QtApplication::LoadQtTexts() {
+    if (QLocale().language() == QLocale::English || QLocale().language() == QLocale::C) {
+        return;
+    }
+    qtTexts_ = std::make_unique<QTranslator>();
+    const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+    if (qtTexts_->load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"), folder)) {
+        installTranslator(qtTexts_.get());
+    }
+}
+
+void QtApplication::WatchDescriptor(int descriptor, std::function<void()> readable) {
+    auto watch = std::make_unique<QSocketNotifier>(descriptor, QSocketNotifier::Read);
+    connect(watch.get(), &QSocketNotifier::activated, this, [readable = std::move(readable)] { readable(); });
+    watches_.push_back(std::move(watch));
+}
+
+bool QtApplication::event(QEvent* event) {
+    if (event->type() == QEvent::Quit && OnQuitRequested) {
+        event->ignore();
+        OnQuitRequested();
+        return true;
+    }
+    return QApplication::event(event);
+}
+
+} // namespace tessarolyne

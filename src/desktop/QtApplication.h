@@ -1,0 +1,50 @@
+#pragma once
+
+#include <QApplication>
+
+#include <functional>
+#include <memory>
+#include <string>
+#include <vector>
+
+class QSocketNotifier;
+class QTranslator;
+
+namespace tessarolyne {
+
+namespace detail {
+// The arguments that Qt is started with; made before QApplication, which keeps references to them.
+struct QtArguments {
+    QtArguments();
+    std::vector<std::string> texts;
+    std::vector<char*> pointers;
+    int count = 0;
+};
+} // namespace detail
+
+// Qt's application object, set up for this program: X before Wayland (which places no windows), no quit of
+// its own, and the desktop's requests handed on. Made first thing in main(), after nothing but the machine.
+class QtApplication final : private detail::QtArguments, public QApplication {
+public:
+    // `identifier` is the reverse domain name of the desktop entry; `version` goes into requests over HTTP.
+    QtApplication(const std::string& name, const std::string& version, const std::string& identifier);
+    ~QtApplication() override;
+
+    // Calls back on the main thread whenever the descriptor can be read; for signals of the machine.
+    void WatchDescriptor(int descriptor, std::function<void()> readable);
+
+    // The user's desktop session ends: the program must too, without asking.
+    std::function<void()> OnSessionEnds;
+    // The desktop asks the application to quit, as from a dock.
+    std::function<void()> OnQuitRequested;
+
+    bool event(QEvent* event) override;
+
+private:
+    void LoadQtTexts();
+
+    std::vector<std::unique_ptr<QSocketNotifier>> watches_;
+    std::unique_ptr<QTranslator> qtTexts_;
+};
+
+} // namespace tessarolyne

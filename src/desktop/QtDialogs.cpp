@@ -1,0 +1,88 @@
+#include "desktop/QtDialogs.h"
+
+#include "desktop/MessageView.h"
+#include "desktop/QtStage.h"
+#include "desktop/QtText.h"
+#include "desktop/VisibleText.h"
+#include "desktop/WindowView.h"
+#include "platform/EventLoop.h"
+
+#include <QApplication>
+#include <QFile>
+#include <QFileDialog>
+#include <QWindow>
+
+namespace tessarolyne {
+
+DialogButton QtDialogs::Ask(const MessageDialog& dialog) {
+    MessageView view(dialog, ParentFor(dialog.sheetOf));
+    Run(view);
+    return loop_.IsQuitting() ? DialogButton::None : view.Answer();
+}
+
+void QtDialogs::Tell(const std::string& text) {
+    MessageDialog dialog;
+    dialog.message = text;
+    Ask(dialog);
+}
+
+std::optional<FolderItem> QtDialogs::ChooseFile(const FileDialog& dialog) {
+    QFileDialog chooser(ParentFor(dialog.sheetOf));
+    SetUp(chooser, dialog);
+    chooser.setAcceptMode(QFileDialog::AcceptOpen);
+    chooser.setFileMode(QFileDialog::ExistingFile);
+    return Choose(chooser);
+}
+
+std::optional<FolderItem> QtDialogs::ChooseTarget(const FileDialog& dialog) {
+    QFileDialog chooser(ParentFor(dialog.sheetOf));
+    SetUp(chooser, dialog);
+    chooser.setAcceptMode(QFileDialog::AcceptSave);
+    chooser.setFileMode(QFileDialog::AnyFile);
+    if (!dialog.suggestedName.empty()) {
+        chooser.selectFile(QFile::decodeName(QByteArray::fromStdString(dialog.suggestedName)));
+    }
+    return Choose(chooser);
+}
+
+QWidget* QtDialogs::ParentFor(const Window* sheetOf) const {
+    return sheetOf == nullptr ? nullptr : stage_.Find(sheetOf);
+}
+
+void QtDialogs::Run(QDialog& dialog) {
+    // A free-standing dialog still stands before the window that the user is in.
+    if (QWidget* const active = QApplication::activeWindow();
+        dialog.parentWidget() == nullptr && active != nullptr && active->windowHandle() != nullptr) {
+        dialog.winId();
+        dialog.windowHandle()->setTransientParent(active->windowHandle());
+    }
+    bool gone = false;
+    QObject::connect(&dialog, &QDialog::finished, &dialog, [&gone] { gone = true; });
+    dialog.show();
+    loop_.RunUntil([&gone] { return gone; });
+}
+
+void QtDialogs::SetUp(QFileDialog& chooser, const FileDialog& dialog) const {
+    chooser.setWindowModality(chooser.parentWidget() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
+    chooser.setWindowTitle(VisibleText(dialog.prompt));
+    // A link is chosen as itself; the program resolves it where it wants the target.
+    chooser.setOption(QFileDialog::DontResolveSymlinks);
+    if (!dialog.filterExtension.empty()) {
+        chooser.setNameFilter(ToQt(dialog.filterName + " (*" + dialog.filterExtension + ")"));
+    }
+    if (dialog.initialFolder) {
+        chooser.setDirectory(
+            QFile::decodeName(QByteArray::fromStdString(dialog.initialFolder->NativePath())));
+    }
+}
+
+std::optional<FolderItem> QtDialogs::Choose(QFileDialog& chooser) {
+    Run(chooser);
+    if (loop_.IsQuitting() || chooser.result() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) {
+        return std::nullopt;
+    }
+    const QByteArray path = QFile::encodeName(chooser.selectedFiles().constFirst());
+    return FolderItem::FromNativePath(files_, path.toStdString());
+}
+
+} // namespace tessarolyne

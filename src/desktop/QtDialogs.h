@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/Dialogs.h"
+
+class QDialog;
+class QFileDialog;
+class QWidget;
+
+namespace tessarolyne {
+
+class EventLoop;
+class FileSystem;
+class QtStage;
+
+// The desktop's dialogs. They run in the program's own event loop, so that a quit ends them like any other
+// modal window.
+class QtDialogs final : public Dialogs {
+public:
+    QtDialogs(EventLoop& loop, const QtStage& stage, FileSystem& files)
+        : loop_(loop), stage_(stage), files_(files) {}
+
+    DialogButton Ask(const MessageDialog& dialog) override;
+    void Tell(const std::string& text) override;
+    std::optional<FolderItem> ChooseFile(const FileDialog& dialog) override;
+    std::optional<FolderItem> ChooseTarget(const FileDialog& dialog) override;
+
+private:
+    // The real window in which the dialog is a sheet; null for a free-standing one.
+    QWidget* ParentFor(const Window* sheetOf) const;
+    // Shows it and returns when it is gone or the program quits.
+    void Run(QDialog& dialog);
+    void SetUp(QFileDialog& chooser, const FileDialog& dialog) const;
+    std::optional<FolderItem> Choose(QFileDialog& chooser);
+
+    EventLoop& loop_;
+    const QtStage& stage_;
+    FileSystem& files_;
+};
+
+} // namespace tessarolyne

@@ -1,0 +1,64 @@
+#pragma once
+
+#include "platform/EventLoop.h"
+
+#include <QObject>
+
+#include <deque>
+#include <functional>
+#include <map>
+#include <mutex>
+#include <vector>
+
+class QEventLoop;
+
+namespace tessarolyne {
+
+// The main thread's loop on Qt's. Posted tasks and alarms run one at a time from Qt's own events, so nothing
+// wakes up while nothing happens. Needs a QCoreApplication.
+class QtEventLoop final : public QObject, public EventLoop {
+public:
+    QtEventLoop();
+    ~QtEventLoop() override;
+
+    // Runs until Quit and returns its exit code; at once if the program quits already.
+    int Run();
+
+    void Post(std::function<void()> task) override;
+    AlarmId SetAlarm(int milliseconds, std::function<void()> task) override;
+    void CancelAlarm(AlarmId alarm) override;
+    void RunUntil(const std::function<bool()>& done) override;
+    void WaitUntil(const std::function<bool()>& done) override;
+    void Quit(int exitCode) override;
+    bool IsQuitting() const override { return quitting_; }
+
+protected:
+    bool event(QEvent* event) override;
+    void timerEvent(QTimerEvent* event) override;
+
+private:
+    struct Alarm {
+        int timer = 0; // Qt's number; 0 once it has rung and is held back
+        std::function<void()> task;
+    };
+
+    void WakeUp();
+    void RunOnePosted();
+    void Ring(AlarmId alarm);
+    void LetHeldIn();
+
+    std::mutex mutex_; // guards posted_ alone
+    std::deque<std::function<void()>> posted_;
+
+    std::map<AlarmId, Alarm> alarms_;
+    std::map<int, AlarmId> alarmOfTimer_;
+    std::vector<AlarmId> heldAlarms_;
+    AlarmId lastAlarm_ = 0;
+
+    std::vector<QEventLoop*> loops_;
+    int waits_ = 0;
+    int exitCode_ = 0;
+    bool quitting_ = false;
+};
+
+} // namespace tessarolyne

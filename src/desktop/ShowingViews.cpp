@@ -1,0 +1,138 @@
+#include "desktop/ShowingViews.h"
+
+#include "desktop/FittingFont.h"
+#include "desktop/Pictures.h"
+#include "desktop/Pressable.h"
+#include "desktop/QtText.h"
+
+#include <QBasicTimer>
+#include <QGroupBox>
+#include <QLabel>
+#include <QPainter>
+#include <QProgressBar>
+#include <QTimerEvent>
+
+#include <algorithm>
+
+namespace tessarolyne {
+
+namespace {
+
+class LabelWidget final : public Pressable<QLabel, Label> {
+public:
+    using Pressable::Pressable;
+
+protected:
+    bool SwallowsPresses() const override { return PressedModel().IsOverlay(); }
+};
+
+class CanvasWidget final : public Pressable<QWidget, Canvas> {
+public:
+    using Pressable::Pressable;
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        {
+            QPainter painter(this);
+            DrawPicture(painter, PressedModel().Image, rect());
+        }
+        Pressable::paintEvent(event);
+    }
+};
+
+class WheelWidget final : public QWidget {
+public:
+    using QWidget::QWidget;
+
+protected:
+    void showEvent(QShowEvent*) override { timer_.start(turnPeriod, this); }
+    void hideEvent(QHideEvent*) override { timer_.stop(); }
+    void timerEvent(QTimerEvent*) override {
+        turn_ = (turn_ + 1) % spokes;
+        update();
+    }
+    void paintEvent(QPaintEvent*) override {
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const qreal radius = std::min(width(), height()) / 2.0;
+        painter.translate(width() / 2.0, height() / 2.0);
+        QColor color = palette().color(QPalette::WindowText);
+        for (int i = 0; i < spokes; ++i) {
+            color.setAlphaF(0.15F + 0.85F * static_cast<float>((i + spokes - turn_) % spokes) / spokes);
+            painter.save();
+            painter.rotate(-360.0 * i / spokes);
+            painter.setPen(QPen(color, radius / 6, Qt::SolidLine, Qt::RoundCap));
+            painter.drawLine(QPointF(0, -radius * 0.5), QPointF(0, -radius * 0.85));
+            painter.restore();
+        }
+    }
+
+private:
+    static constexpr int spokes = 12;
+    static constexpr int turnPeriod = 80; // milliseconds a spoke
+    QBasicTimer timer_;
+    int turn_ = 0;
+};
+
+} // namespace
+
+LabelView::LabelView(Label& model, QWidget* parent)
+    : ControlView(model, new LabelWidget(model, parent)), model_(model),
+      label_(static_cast<QLabel*>(Widget())) {
+    label_->setTextFormat(Qt::PlainText);
+    label_->setTextInteractionFlags(Qt::NoTextInteraction);
+}
+
+void LabelView::Read() {
+    label_->setAlignment(QtAlignment(model_.TextAlignment));
+    const QString text = WithLineFeeds(model_.Text);
+    QFont font = FittingFont(*label_, text, model_.Width);
+    font.setUnderline(model_.IsLink);
+    if (label_->font() != font) {
+        label_->setFont(font);
+    }
+    label_->setForegroundRole(model_.IsLink ? QPalette::Link : QPalette::NoRole);
+    if (label_->text() != text) {
+        label_->setText(text);
+    }
+    if (model_.IsOverlay && model_.Visible) {
+        label_->raise();
+    }
+}
+
+GroupBoxView::GroupBoxView(GroupBox& model, QWidget* parent)
+    : ControlView(model, new QGroupBox(parent)), model_(model), box_(static_cast<QGroupBox*>(Widget())) {}
+
+void GroupBoxView::Read() {
+    const QString caption = LiteralCaption(model_.Caption);
+    if (box_->title() != caption) {
+        box_->setTitle(caption);
+    }
+}
+
+ProgressWheelView::ProgressWheelView(ProgressWheel& model, QWidget* parent)
+    : ControlView(model, new WheelWidget(parent)) {}
+
+ProgressBarView::ProgressBarView(ProgressBar& model, QWidget* parent)
+    : ControlView(model, new QProgressBar(parent)), model_(model),
+      bar_(static_cast<QProgressBar*>(Widget())) {
+    bar_->setTextVisible(false);
+}
+
+void ProgressBarView::Read() {
+    constexpr int steps = 1000; // the model counts further than Qt's int
+    const std::int64_t maximum = model_.Maximum;
+    if (maximum <= 0) {
+        bar_->setRange(0, 0);
+        return;
+    }
+    const double share =
+        std::clamp(static_cast<double>(model_.Value()) / static_cast<double>(maximum), 0.0, 1.0);
+    bar_->setRange(0, steps);
+    bar_->setValue(static_cast<int>(share * steps));
+}
+
+CanvasView::CanvasView(Canvas& model, QWidget* parent)
+    : ControlView(model, new CanvasWidget(model, parent)) {}
+
+} // namespace tessarolyne

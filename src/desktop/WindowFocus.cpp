@@ -1,0 +1,193 @@
+#include "desktop/WindowFocus.h"
+
+#include "desktop/ControlView.h"
+#include "desktop/KeyText.h"
+#include "desktop/QtText.h"
+#include "platform/PushButton.h"
+#include "platform/Window.h"
+
+#include <QFocusEvent>
+#include <QInputMethodEvent>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QMetaObject>
+#include <QVariant>
+
+#include <algorithm>
+
+namespace tessarolyne {
+
+namespace {
+
+constexpr const char* viewProperty = "tessarolyneView";
+
+ControlView* ViewOf(const QObject* widget) {
+    return static_cast<ControlView*>(widget->property(viewProperty).value<void*>());
+}
+
+// The focus comes back by itself from these, and the program never saw it leave.
+bool IsPassing(Qt::FocusReason reason) {
+    return reason == Qt::ActiveWindowFocusReason || reason == Qt::PopupFocusReason ||
+           reason == Qt::MenuBarFocusReason;
+}
+
+bool CanBeUsed(const Control& control) {
+    return control.Enabled() && control.Visible() &&
+           (control.Parent() == nullptr || (control.Parent()->Enabled() && control.Parent()->Visible()));
+}
+
+} // namespace
+
+WindowFocus::WindowFocus(Window& window, QWidget& top, FindView find)
+    : window_(window), top_(top), find_(std::move(find)) {}
+
+void WindowFocus::Watch(ControlView& view) {
+    view.Widget()->setProperty(viewProperty, QVariant::fromValue(static_cast<void*>(&view)));
+    view.Widget()->installEventFilter(this);
+}
+
+void WindowFocus::Sync() {
+    QWidget* const now = top_.focusWidget();
+    if (syncing_ || window_.IsClosed() || qobject_cast<QMenuBar*>(now) != nullptr) {
+        return;
+    }
+    const Control* focus = window_.Focus();
+    const ControlView* view = focus == nullptr ? nullptr : find_(focus);
+    QWidget* const wanted = view != nullptr && view->Widget()->isEnabled() ? view->Widget() : nullptr;
+    if (wanted == now) {
+        return;
+    }
+    syncing_ = true;
+    if (wanted != nullptr) {
+        wanted->setFocus(Qt::OtherFocusReason);
+    } else if (now != &top_) {
+        now->clearFocus();
+    }
+    syncing_ = false;
+}
+
+void WindowFocus::SyncSoon() {
+    QMetaObject::invokeMethod(
+        this, [this] { Sync(); }, Qt::QueuedConnection);
+}
+
+void WindowFocus::Begin() {
+    if (window_.Focus() == nullptr) {
+        for (Control* control : window_.TabOrder(true)) {
+            if (CanBeUsed(*control)) {
+                control->UserFocused();
+                break;
+            }
+        }
+    }
+    Sync();
+}
+
+bool WindowFocus::eventFilter(QObject* watched, QEvent* event) {
+    ControlView* const view = ViewOf(watched);
+    if (view == nullptr || window_.IsClosed()) {
+        return false;
+    }
+    switch (event->type()) {
+    case QEvent::KeyPress:
+        return ControlKey(*view, *static_cast<QKeyEvent*>(event));
+    case QEvent::InputMethod:
+        return Composed(*view, *static_cast<QInputMethodEvent*>(event));
+    case QEvent::FocusIn:
+        CameIn(*view, *static_cast<QFocusEvent*>(event));
+        return false;
+    default:
+        return false;
+    }
+}
+
+bool WindowFocus::ControlKey(ControlView& view, const QKeyEvent& event) {
+    const std::string key = KeyText(event);
+    if (!key.empty() && view.Model().UserPressedKey(key)) {
+        return true;
+    }
+    return NavigationKey(event, key) || view.PressKey(event.key());
+}
+
+// A character that a dead key or an input method made is a key as well.
+bool WindowFocus::Composed(ControlView& view, const QInputMethodEvent& event) {
+    const QString text = event.commitString();
+    return text.size() == 1 && event.preeditString().isEmpty() && view.Model().UserPressedKey(FromQt(text));
+}
+
+void WindowFocus::CameIn(ControlView& view, const QFocusEvent& event) {
+    if (syncing_ || window_.Focus() == &view.Model()) {
+        return;
+    }
+    if (!IsPassing(event.reason())) {
+        view.Model().UserFocused();
+    }
+    if (window_.Focus() != &view.Model()) {
+        SyncSoon();
+    }
+}
+
+bool WindowFocus::WindowKey(const QKeyEvent& event) {
+    const std::string key = KeyText(event);
+    if (NavigationKey(event, key) || ButtonKey(event.key())) {
+        return true;
+    }
+    return !key.empty() && window_.UserPressedKey(key);
+}
+
+bool WindowFocus::NavigationKey(const QKeyEvent& event, const std::string& key) {
+    const bool shift = event.modifiers().testFlag(Qt::ShiftModifier);
+    if (event.modifiers().testAnyFlags(Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) {
+        return false;
+    }
+    if (key == "\t") {
+        if (!window_.UserPressedKey(key)) {
+            Step(true, event.key() == Qt::Key_Tab && !shift);
+        }
+        return true;
+    }
+    if (event.key() == Qt::Key_F6) {
+        Step(false, !shift);
+        return true;
+    }
+    return false;
+}
+
+bool WindowFocus::ButtonKey(int key) {
+    const bool forDefault = key == Qt::Key_Return || key == Qt::Key_Enter;
+    if (!forDefault && key != Qt::Key_Escape) {
+        return false;
+    }
+    for (Control* control : window_.Controls()) {
+        auto* button = dynamic_cast<PushButton*>(control);
+        if (button != nullptr && (forDefault ? button->Default() : button->Cancel())) {
+            button->UserPressed();
+            return true;
+        }
+    }
+    return false;
+}
+
+void WindowFocus::Step(bool stopsOnly, bool forward) {
+    const auto order = window_.TabOrder(false);
+    const auto count = order.size();
+    const auto focus = std::find(order.begin(), order.end(), window_.Focus());
+    // With no focus yet, the first step arrives at the first control, or backwards at the last.
+    std::size_t at = focus != order.end() ? static_cast<std::size_t>(focus - order.begin())
+                     : forward            ? count - 1
+                                          : 0;
+    for (std::size_t steps = 0; steps < count; ++steps) {
+        at = (at + (forward ? 1 : count - 1)) % count;
+        Control* const control = order[at];
+        if (CanBeUsed(*control) && (control->IsTabStop() || !stopsOnly)) {
+            top_.setAttribute(Qt::WA_KeyboardFocusChange); // styles then draw the focus
+            if (ControlView* view = find_(control)) {
+                view->AboutToFocusByKey();
+            }
+            control->UserFocused();
+            return;
+        }
+    }
+}
+
+} // namespace tessarolyne

@@ -1,0 +1,236 @@
+#include "desktop/WindowView.h"
+
+#include "desktop/QtMenu.h"
+#include "desktop/QtText.h"
+#include "platform/Application.h"
+#include "platform/EventLoop.h"
+#include "platform/Services.h"
+#include "platform/Window.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QKeyEvent>
+#include <QMenuBar>
+#include <QTimer>
+#include <QWindow>
+
+#include <algorithm>
+
+namespace tessarolyne {
+
+namespace {
+
+Qt::WindowFlags Flags(const WindowFrame& frame) {
+    Qt::WindowFlags flags = frame.kind == WindowFrame::Kind::MovableModal ? Qt::Dialog : Qt::Window;
+    flags |= Qt::CustomizeWindowHint | Qt::WindowTitleHint | Qt::WindowSystemMenuHint;
+    flags.setFlag(Qt::WindowCloseButtonHint, frame.closeButton);
+    flags.setFlag(Qt::WindowMinimizeButtonHint, frame.minimizeButton);
+    flags.setFlag(Qt::WindowMaximizeButtonHint, frame.maximizeButton);
+    return flags;
+}
+
+Qt::CursorShape Shape(Cursor cursor) {
+    return cursor == Cursor::Finger ? Qt::PointingHandCursor : Qt::ArrowCursor;
+}
+
+} // namespace
+
+WindowView::WindowView(Window& window, QtMenu* menu, bool withBar)
+    : QWidget(nullptr, Flags(window.Frame)), window_(window), content_(new QWidget(this)),
+      focus_(window, *this, [this](const Control* control) { return Find(control); }) {
+    if (window.Frame.kind == WindowFrame::Kind::MovableModal) {
+        setWindowModality(Qt::ApplicationModal);
+    }
+    if (menu != nullptr) {
+        bar_ = withBar ? menu->AddBar(*this) : nullptr;
+        menu->AddShortcuts(*this);
+    }
+    AddViews();
+    Observe();
+    Read();
+}
+
+WindowView::~WindowView() {
+    *alive_ = false;
+    views_.clear();
+}
+
+void WindowView::Observe() {
+    connections_.push_back(window_.Changed.Connect([this] { Read(); }));
+    connections_.push_back(window_.FocusMoved.Connect([this] { focus_.Sync(); }));
+    connections_.push_back(window_.Raised.Connect([this] { Raise(); }));
+    connections_.push_back(window_.DrawNow.Connect([this] { repaint(); }));
+    connections_.push_back(window_.Closed.Connect([this] { ModelClosed(); }));
+}
+
+// Also for controls that were made after the window was first shown.
+void WindowView::AddViews() {
+    for (Control* control : window_.Controls()) {
+        if (Find(control) != nullptr) {
+            continue;
+        }
+        const ControlView* parent = control->Parent() == nullptr ? nullptr : Find(control->Parent());
+        auto view = MakeControlView(*control, parent == nullptr ? content_ : parent->Widget());
+        if (view == nullptr) {
+            continue;
+        }
+        focus_.Watch(*view);
+        connections_.push_back(control->Changed.Connect([this, control] {
+            if (window_.Focus() == control) {
+                focus_.Sync(); // it may have been enabled again
+            }
+        }));
+        views_.push_back(std::move(view));
+    }
+}
+
+ControlView* WindowView::Find(const Control* control) const {
+    const auto found = std::find_if(
+        views_.begin(), views_.end(), [&](const auto& view) { return &view->Model() == control; });
+    return found == views_.end() ? nullptr : found->get();
+}
+
+QWidget* WindowView::FocusedWidget() const {
+    const Control* focus = window_.Focus();
+    const ControlView* view = focus == nullptr ? nullptr : Find(focus);
+    return view == nullptr ? nullptr : view->Widget();
+}
+
+void WindowView::Read() {
+    if (reading_ || window_.IsClosed()) {
+        return;
+    }
+    reading_ = true;
+    if (views_.size() != window_.Controls().size()) {
+        AddViews();
+    }
+    setWindowTitle(ToQt(window_.Title));
+    if (window_.MouseCursor() == Cursor::None) {
+        content_->unsetCursor();
+    } else {
+        content_->setCursor(Shape(window_.MouseCursor));
+    }
+    ReadSize();
+    ReadPlace();
+    ReadVisible();
+    reading_ = false;
+}
+
+int WindowView::BarHeight() const {
+    const auto* bar = qobject_cast<QMenuBar*>(bar_);
+    return bar == nullptr || bar->isNativeMenuBar() ? 0 : bar->sizeHint().height();
+}
+
+void WindowView::ReadSize() {
+    const int bar = BarHeight();
+    const WindowFrame& frame = window_.Frame;
+    const QSize size(window_.Width, window_.Height + bar);
+    if (frame.resizeable) {
+        setMinimumSize(frame.minWidth, frame.minHeight + bar);
+        setMaximumSize(frame.maxWidth, frame.maxHeight + bar);
+        if (this->size() != size) {
+            resize(size);
+        }
+    } else if (minimumSize() != size || maximumSize() != size) {
+        setFixedSize(size);
+    }
+    if (bar > 0) {
+        bar_->setGeometry(0, 0, size.width(), bar);
+    }
+    content_->setGeometry(0, bar, window_.Width, window_.Height);
+}
+
+// A window that was never given a place is left to the window manager.
+void WindowView::ReadPlace() {
+    const QPoint place(window_.Left, window_.Top);
+    const bool given = testAttribute(Qt::WA_Moved) || !place.isNull();
+    if (given && pos() != place) {
+        move(place);
+    }
+}
+
+void WindowView::ReadVisible() {
+    if (window_.Visible() == isVisible()) {
+        return;
+    }
+    if (window_.Visible()) {
+        QWidget* const active = QApplication::activeWindow();
+        if (window_.Frame.kind == WindowFrame::Kind::MovableModal && active != nullptr) {
+            winId();
+            windowHandle()->setTransientParent(active->windowHandle());
+        }
+        show();
+        QTimer::singleShot(0, this, [this] { focus_.Begin(); });
+    } else {
+        hide();
+    }
+}
+
+void WindowView::Raise() {
+    if (isMinimized()) {
+        showNormal();
+    }
+    raise();
+    activateWindow();
+}
+
+void WindowView::ModelClosed() {
+    hide();
+    connections_.clear();
+    deleteLater();
+}
+
+// Through the loop's queue, so that a close while the program waits comes when the wait is over.
+void WindowView::closeEvent(QCloseEvent* event) {
+    event->ignore();
+    EventLoop& loop = window_.GetApplication().GetServices().loop;
+    loop.Post([this, alive = alive_] {
+        if (*alive && !window_.IsClosed()) {
+            window_.UserClosed();
+        }
+    });
+}
+
+void WindowView::moveEvent(QMoveEvent* event) {
+    QWidget::moveEvent(event);
+    TellPlace();
+}
+
+void WindowView::TellPlace() {
+    if (reading_ || !isVisible() || !placed_ || window_.IsClosed() || isMinimized()) {
+        return;
+    }
+    reading_ = true;
+    window_.UserMoved(pos().x(), pos().y());
+    reading_ = false;
+}
+
+void WindowView::resizeEvent(QResizeEvent* event) {
+    QWidget::resizeEvent(event);
+    if (reading_ || !window_.Frame.resizeable || window_.IsClosed()) {
+        return;
+    }
+    reading_ = true;
+    window_.UserResized(width(), height() - BarHeight());
+    ReadSize();
+    reading_ = false;
+}
+
+void WindowView::keyPressEvent(QKeyEvent* event) {
+    event->setAccepted(focus_.WindowKey(*event));
+}
+
+bool WindowView::event(QEvent* event) {
+    switch (event->type()) {
+    case QEvent::WindowActivate:
+        placed_ = true;
+        TellPlace();
+        focus_.SyncSoon();
+        break;
+    default:
+        break;
+    }
+    return QWidget::event(event);
+}
+
+} // namespace tessarolyne

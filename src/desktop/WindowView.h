@@ -1,0 +1,62 @@
+#pragma once
+
+#include "desktop/ControlView.h"
+#include "desktop/WindowFocus.h"
+#include "platform/Signal.h"
+
+#include <QWidget>
+
+#include <memory>
+#include <vector>
+
+namespace tessarolyne {
+
+class QtMenu;
+class Window;
+
+// The real window of a model: its frame, menu bar and controls. The menu bar stands above the model's
+// area, which keeps its size. The view never closes by itself; it asks the model, and goes when that has
+// closed.
+class WindowView final : public QWidget {
+public:
+    // `menu` may be null; `withBar` shows the menus in this window.
+    WindowView(Window& window, QtMenu* menu, bool withBar);
+    ~WindowView() override;
+
+    Window& Model() const { return window_; }
+    // The widget of the control that has the program's focus; null if none has it.
+    QWidget* FocusedWidget() const;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    void moveEvent(QMoveEvent* event) override;
+    void resizeEvent(QResizeEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+    bool event(QEvent* event) override;
+    bool focusNextPrevChild(bool) override { return false; } // WindowFocus has Tab
+
+private:
+    void Observe();
+    void AddViews();
+    ControlView* Find(const Control* control) const;
+    void Read();
+    void ReadSize();
+    void ReadPlace();
+    void ReadVisible();
+    void TellPlace();
+    int BarHeight() const;
+    void Raise();
+    void ModelClosed();
+
+    Window& window_;
+    QWidget* const content_;
+    QWidget* bar_ = nullptr;
+    std::vector<std::unique_ptr<ControlView>> views_;
+    std::vector<Connection> connections_;
+    std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
+    bool reading_ = false;
+    bool placed_ = false; // the window manager has answered where the window stands
+    WindowFocus focus_;
+};
+
+} // namespace tessarolyne

@@ -1,0 +1,187 @@
+#include "machine/PosixFileSystem.h"
+
+#include "machine/Descriptor.h"
+#include "machine/KnownFolders.h"
+#include "machine/MountedVolumes.h"
+#include "machine/SafeFile.h"
+#include "machine/SaveTarget.h"
+#include "machine/TemporaryFile.h"
+
+#include <algorithm>
+#include <array>
+#include <csignal>
+#include <cstdlib>
+#include <fcntl.h>
+#include <fstream>
+#include <sys/stat.h>
+
+namespace tessarolyne {
+
+namespace {
+
+// A device is never opened, since opening alone can do something to it, and a FIFO is never waited for.
+class PosixInputFile final : public InputFile {
+public:
+    explicit PosixInputFile(const std::string& path) : path_(path) {
+        struct stat status {};
+        if (::stat(path.c_str(), &status) != 0) {
+            ThrowErrno("look at " + path);
+        }
+        MustBeRegular(status);
+        constexpr int flags = O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+        file_ = Descriptor(Uninterrupted([&] { return ::open(path.c_str(), flags); }));
+        // Another file may stand there by now.
+        if (!file_.IsOpen() || ::fstat(*file_, &status) != 0) {
+            ThrowErrno("open " + path);
+        }
+        MustBeRegular(status);
+    }
+
+    std::size_t Read(std::span<char> bytes) override {
+        std::size_t count = 0;
+        while (count < bytes.size()) {
+            const auto rest = bytes.subspan(count);
+            const auto read = Uninterrupted([&] { return ::read(*file_, rest.data(), rest.size()); });
+            if (read < 0) {
+                ThrowErrno("read " + path_);
+            }
+            if (read == 0) {
+                break;
+            }
+            count += static_cast<std::size_t>(read);
+        }
+        return count;
+    }
+
+private:
+    void MustBeRegular(const struct stat& status) const {
+        if (!S_ISREG(status.st_mode)) {
+            throw IOException("not a regular file: " + path_);
+        }
+    }
+
+    std::string path_;
+    Descriptor file_;
+};
+
+void CopyFile(FileSystem& files, const std::string& path, const std::string& copy) {
+    const auto source = files.OpenForReading(path);
+    const auto target = files.CreateSafely(copy, LinkPolicy::ReplaceLink);
+    std::array<char, 65536> chunk;
+    for (auto count = source->Read(chunk); count > 0; count = source->Read(chunk)) {
+        target->Write({chunk.data(), count});
+    }
+    target->Commit();
+}
+
+} // namespace
+
+PosixFileSystem::PosixFileSystem() {
+    std::signal(SIGXFSZ, SIG_IGN);
+}
+
+FileKind PosixFileSystem::Kind(const std::string& path) const {
+    struct stat status {};
+    if (::lstat(path.c_str(), &status) != 0) {
+        return FileKind::None;
+    }
+    switch (status.st_mode & S_IFMT) {
+    case S_IFREG:
+        return FileKind::Regular;
+    case S_IFDIR:
+        return FileKind::Folder;
+    case S_IFLNK:
+        return FileKind::Link;
+    default:
+        return FileKind::Other;
+    }
+}
+
+std::optional<std::string> PosixFileSystem::Resolve(const std::string& path) const {
+    const std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(path.c_str(), nullptr), &std::free);
+    return resolved == nullptr ? std::nullopt : std::optional<std::string>(resolved.get());
+}
+
+std::vector<Volume> PosixFileSystem::Volumes() const {
+    std::ifstream mountTable("/proc/self/mountinfo");
+    return MountedVolumes(mountTable);
+}
+
+std::optional<std::string> PosixFileSystem::VolumeNameAt(const std::string& path) const {
+    // The mount table is read only for paths that can stand in it; this is asked for every part of a path.
+    if (path != "/" && !LiesUnderMountFolders(path)) {
+        return std::nullopt;
+    }
+    const auto volumes = Volumes();
+    const auto found = std::find_if(
+        volumes.begin(), volumes.end(), [&](const Volume& volume) { return volume.root == path; });
+    return found == volumes.end() ? std::nullopt : std::optional(found->name);
+}
+
+std::optional<std::string> PosixFileSystem::Find(KnownFolder folder) {
+    switch (folder) {
+    case KnownFolder::Preferences:
+        return PreferencesFolder();
+    case KnownFolder::Documents:
+        return DocumentsFolder();
+    case KnownFolder::Application:
+        return ApplicationFolder();
+    }
+    return std::nullopt;
+}
+
+bool PosixFileSystem::MakeFolder(const std::string& path) {
+    return ::mkdir(path.c_str(), 0777) == 0;
+}
+
+bool PosixFileSystem::Remove(const std::string& path) {
+    return Kind(path) == FileKind::Folder ? ::rmdir(path.c_str()) == 0 : ::unlink(path.c_str()) == 0;
+}
+
+std::unique_ptr<InputFile> PosixFileSystem::OpenForReading(const std::string& path) {
+    return std::make_unique<PosixInputFile>(path);
+}
+
+std::unique_ptr<OutputFile> PosixFileSystem::CreateSafely(const std::string& path, LinkPolicy links) {
+    return std::make_unique<SafeFile>(path, links);
+}
+
+bool PosixFileSystem::CanReplace(const std::string& path, LinkPolicy links) const {
+    try {
+        const auto target = FindSaveTarget(path, links);
+        // The folder is written to for the temporary file and the rename, and read for its sync.
+        return ::faccessat(AT_FDCWD, target.folder.c_str(), R_OK | W_OK | X_OK, AT_EACCESS) == 0;
+    } catch (const IOException&) {
+        return false;
+    }
+}
+
+// A second name costs no space on a full disk and no time for a huge file; where the file system has no
+// second names, the bytes are copied.
+void PosixFileSystem::KeepAs(const std::string& path, const std::string& copy) {
+    const auto original = Resolve(path);
+    if (!original || Kind(*original) != FileKind::Regular) {
+        throw IOException("not a regular file: " + path);
+    }
+    if (Kind(copy) == FileKind::Folder) {
+        throw IOException("a folder stands in the way: " + copy);
+    }
+    ::unlink(copy.c_str());
+    if (::link(original->c_str(), copy.c_str()) != 0) {
+        CopyFile(*this, *original, copy);
+    }
+}
+
+void PosixFileSystem::SweepLeftovers(const std::string& folder) {
+    SweepTemporaryFiles(folder);
+}
+
+bool PosixFileSystem::GetFileValue(const std::string& urlPath, const std::string& key, void*& value) {
+    return foundation_.GetResourceValue(urlPath, key, value);
+}
+
+bool PosixFileSystem::BoolValue(void* value) {
+    return foundation_.BoolValue(value);
+}
+
+} // namespace tessarolyne

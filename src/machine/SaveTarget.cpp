@@ -1,0 +1,73 @@
+#include "machine/SaveTarget.h"
+
+#include "machine/Descriptor.h"
+
+#include <climits>
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace tessarolyne {
+
+namespace {
+
+// As many as the kernel follows.
+constexpr int longestChainOfLinks = 40;
+
+std::string FolderOf(const std::string& path) {
+    const auto slash = path.rfind('/');
+    return slash == 0 || slash == path.npos ? "/" : path.substr(0, slash);
+}
+
+// What the link holds, made absolute.
+std::string Followed(const std::string& link) {
+    char target[PATH_MAX];
+    const auto length = ::readlink(link.c_str(), target, sizeof target);
+    if (length < 0) {
+        ThrowErrno("read link " + link);
+    }
+    std::string text(target, static_cast<std::size_t>(length));
+    return text.starts_with('/') ? text : FolderOf(link) + "/" + text;
+}
+
+// What stands at the path itself; nothing if nothing does.
+std::optional<struct stat> Look(const std::string& path) {
+    struct stat status {};
+    if (::lstat(path.c_str(), &status) == 0) {
+        return status;
+    }
+    if (errno != ENOENT) {
+        ThrowErrno("look at " + path);
+    }
+    return std::nullopt;
+}
+
+} // namespace
+
+SaveTarget FindSaveTarget(const std::string& path, LinkPolicy links) {
+    std::string place = path;
+    auto status = Look(place);
+    for (int count = 0; status && S_ISLNK(status->st_mode) && links == LinkPolicy::ReplaceTarget; ++count) {
+        if (count == longestChainOfLinks) {
+            throw IOException("too many links: " + path);
+        }
+        place = Followed(place);
+        status = Look(place);
+    }
+    SaveTarget target{FolderOf(place), place.substr(place.rfind('/') + 1), std::nullopt};
+    if (target.name.empty() || target.name == "." || target.name == "..") {
+        throw IOException("not the name of a file: " + place);
+    }
+    if (!status || S_ISLNK(status->st_mode)) {
+        return target;
+    }
+    if (!S_ISREG(status->st_mode)) {
+        throw IOException("not a regular file: " + place);
+    }
+    if (::faccessat(AT_FDCWD, place.c_str(), W_OK, AT_EACCESS) != 0) {
+        ThrowErrno("may not write " + place);
+    }
+    target.old = SaveTarget::Owner{status->st_mode & 0777U, status->st_uid, status->st_gid};
+    return target;
+}
+
+} // namespace tessarolyne

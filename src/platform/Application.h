@@ -1,0 +1,56 @@
+#pragma once
+
+#include "platform/Property.h"
+#include "platform/Signal.h"
+#include "platform/Window.h"
+
+#include <functional>
+#include <vector>
+
+namespace tessarolyne {
+
+class MenuBar;
+struct Services;
+
+// The running application: its open windows, its menu bar, and the way out. The world's answers come through
+// the services that it was made with.
+class Application : public PropertyOwner {
+public:
+    explicit Application(Services& services) : services_(services) {}
+    ~Application() override = default;
+
+    Services& GetServices() const { return services_; }
+
+    // The windows that are alive, oldest first.
+    const std::vector<Window*>& Windows() const { return windows_; }
+    MenuBar* GetMenuBar() const { return menuBar_; }
+    void UseMenuBar(MenuBar* menuBar) { menuBar_ = menuBar; }
+
+    // Lets every window bring the menu items up to date; runs before a menu is shown or a shortcut obeyed.
+    void EnableMenuItems();
+    // What the user or the desktop asks for: Event_CancelClose(true) on every window; quits if none refuses.
+    void RequestQuit();
+    // Ends the event loop and every modal loop inside it; asks nobody.
+    void Quit(int exitCode);
+
+    virtual void Event_Open() {}
+
+    Property<Cursor> MouseCursor{*this, Cursor::None};
+    Signal<> Changed;
+    // Called with a window that has closed; whoever owns it lets it go, though not before its handlers
+    // return.
+    std::function<void(Window&)> OnWindowClosed;
+
+private:
+    friend class Window;
+    void Add(Window& window) { windows_.push_back(&window); }
+    void Remove(Window& window) { std::erase(windows_, &window); }
+    void WindowClosed(Window& window);
+    void PropertyChanged(const void*) override { Changed(); }
+
+    Services& services_;
+    std::vector<Window*> windows_;
+    MenuBar* menuBar_ = nullptr;
+};
+
+} // namespace tessarolyne

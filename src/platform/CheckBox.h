@@ -1,0 +1,34 @@
+#pragma once
+
+#include "platform/Control.h"
+
+namespace tessarolyne {
+
+// A switch with a caption. Action comes for every change of Value, the program's own included.
+class CheckBox final : public Control {
+public:
+    using Control::Control;
+
+    bool TakesFocus() const override { return true; }
+
+    void UserPressed() {
+        if (Enabled()) {
+            Value = !Value();
+        }
+    }
+
+    Property<std::string> Caption{*this};
+    Property<bool> Value{*this, false};
+
+    Event<void()> Action;
+
+protected:
+    void PropertyChanged(const void* property) override {
+        Control::PropertyChanged(property);
+        if (property == &Value) {
+            Action();
+        }
+    }
+};
+
+} // namespace tessarolyne

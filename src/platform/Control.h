@@ -1,0 +1,101 @@
+#pragma once
+
+#include "platform/Event.h"
+#include "platform/Property.h"
+#include "platform/Signal.h"
+
+#include <string>
+
+namespace tessarolyne {
+
+class Window;
+
+// The edges of its window to which a control keeps its distance when the window changes size.
+struct Locks {
+    bool Left = true;
+    bool Top = true;
+    bool Right = false;
+    bool Bottom = false;
+};
+inline constexpr Locks lockLeftTop{};
+inline constexpr Locks lockTopRight{false, true, true, false};
+inline constexpr Locks lockLeftTopRight{true, true, true, false};
+inline constexpr Locks lockLeftBottom{true, false, false, true};
+inline constexpr Locks lockRightBottom{false, false, true, true};
+inline constexpr Locks lockAll{true, true, true, true};
+
+// A control's turn among those that Tab visits: its index within its parent, and whether Tab stops there.
+struct TabTurn {
+    int Index = 0;
+    bool Stop = false;
+};
+constexpr TabTurn TabStop(int index) {
+    return {index, true};
+}
+constexpr TabTurn NoTabStop(int index) {
+    return {index, false};
+}
+
+// Where a control stands, in points from the top left of its window, also inside a group box.
+struct Place {
+    int Left = 0;
+    int Top = 0;
+    int Width = 0;
+    int Height = 0;
+};
+
+// A thing with a place on a window. It owns its state and works without a screen; whatever draws it observes
+// `Changed` and reads the state again. The methods whose names begin with User are what a person does to it.
+class Control : public PropertyOwner {
+public:
+    Control(
+        Window& window, std::string name, Place place, Locks locks, TabTurn tab, Control* parent = nullptr);
+    ~Control() override;
+
+    Window& GetWindow() const { return window_; }
+    Control* Parent() const { return parent_; }
+    int TabIndex() const { return tab_.Index; }
+    bool IsTabStop() const { return tab_.Stop; }
+
+    // Whether the control can hold the focus at all; labels and group boxes can't.
+    virtual bool TakesFocus() const { return false; }
+    bool HasFocus() const;
+    // Moves the focus here if the control can take it now: the old holder's LostFocus, then GotFocus.
+    void SetFocus();
+
+    void UserFocused() { SetFocus(); }
+    // The key goes to the control first. True: the control took it, and it has no further effect.
+    bool UserPressedKey(const std::string& key) { return Enabled() && KeyDown(key); }
+
+    const std::string Name;
+    Property<int> Left;
+    Property<int> Top;
+    Property<int> Width;
+    Property<int> Height;
+    Property<bool> LockLeft;
+    Property<bool> LockTop;
+    Property<bool> LockRight;
+    Property<bool> LockBottom;
+    Property<bool> Visible{*this, true};
+    Property<bool> Enabled{*this, true};
+    Property<std::string> HelpTag{*this};
+    // What a screen reader calls the control where it has no caption of its own.
+    Property<std::string> AccessibleName{*this};
+
+    Event<void()> GotFocus;
+    Event<void()> LostFocus;
+    Event<bool(const std::string& key)> KeyDown;
+
+    // Given after any change of the control's state.
+    Signal<> Changed;
+
+protected:
+    void PropertyChanged(const void* property) override;
+
+private:
+    Window& window_;
+    Control* const parent_;
+    const TabTurn tab_;
+};
+
+} // namespace tessarolyne

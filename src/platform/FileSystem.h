@@ -1,0 +1,95 @@
+#pragma once
+
+#include <cstddef>
+#include <memory>
+#include <optional>
+#include <span>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tessarolyne {
+
+// What stands under a path, looked at without following a link.
+enum class FileKind { None, Regular, Folder, Link, Other };
+
+// What a save does with a link: keep it and replace the file it leads to, or put a file in the link's place.
+enum class LinkPolicy { ReplaceTarget, ReplaceLink };
+
+enum class KnownFolder { Preferences, Documents, Application };
+
+// A mounted file system, by the name that the user sees and the folder under which it stands.
+struct Volume {
+    std::string name;
+    std::string root;
+
+    bool operator==(const Volume&) const = default;
+};
+
+// An open regular file, read from its start.
+class InputFile {
+public:
+    virtual ~InputFile() = default;
+
+    // Fills `bytes` from the file and gives the count; a lower count only at the end of the file. Throws
+    // IOException.
+    virtual std::size_t Read(std::span<char> bytes) = 0;
+};
+
+// A file being saved. Until Commit has returned, the place holds what it held before; an object that goes
+// without a Commit, or whose call threw, leaves nothing behind.
+class OutputFile {
+public:
+    virtual ~OutputFile() = default;
+
+    // Throws IOException.
+    virtual void Write(std::string_view bytes) = 0;
+    // Puts the whole content in its place, durably. Once; throws IOException.
+    virtual void Commit() = 0;
+};
+
+// The machine's files. Paths are native, absolute, without "." and ".." and without a zero byte; FolderItem
+// sees to that. Not for launching files, which is the desktop's business.
+class FileSystem {
+public:
+    virtual ~FileSystem() = default;
+
+    // None also for what can't be looked at.
+    virtual FileKind Kind(const std::string& path) const = 0;
+    // The path without a link in it; nothing if it leads nowhere.
+    virtual std::optional<std::string> Resolve(const std::string& path) const = 0;
+
+    // The root file system first.
+    virtual std::vector<Volume> Volumes() const = 0;
+    // The name of the volume whose root folder this is; nothing for any other path.
+    virtual std::optional<std::string> VolumeNameAt(const std::string& path) const = 0;
+    // Nothing if there is no such folder; the one for preferences is made if it is missing.
+    virtual std::optional<std::string> Find(KnownFolder folder) = 0;
+
+    // False if it didn't succeed.
+    virtual bool MakeFolder(const std::string& path) = 0;
+    // Removes a file, a link itself, or an empty folder; false if it didn't succeed.
+    virtual bool Remove(const std::string& path) = 0;
+
+    // Never waits for a FIFO's other end. Throws IOException, also for all but regular files.
+    virtual std::unique_ptr<InputFile> OpenForReading(const std::string& path) = 0;
+    // Begins a save. Throws IOException, also for a folder, a device, a FIFO, or a file that may not be
+    // written.
+    virtual std::unique_ptr<OutputFile> CreateSafely(const std::string& path, LinkPolicy links) = 0;
+    // Whether such a save would be let begin now.
+    virtual bool CanReplace(const std::string& path, LinkPolicy links) const = 0;
+    // Makes `copy` hold the content of the regular file `path`, replacing what stood there. Throws
+    // IOException.
+    virtual void KeepAs(const std::string& path, const std::string& copy) = 0;
+    // Removes what saves of killed runs left in the folder; a save under way in another process is left
+    // alone.
+    virtual void SweepLeftovers(const std::string& folder) = 0;
+
+    // A value that the system files under `key` for the item at `urlPath`, or with the result false an error
+    // object or nothing. The value belongs to the system.
+    virtual bool GetFileValue(const std::string& urlPath, const std::string& key, void*& value) = 0;
+    // Such a value as a truth value.
+    virtual bool BoolValue(void* value) = 0;
+};
+
+} // namespace tessarolyne

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "platform/FileSystem.h"
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace tessarolyne {
+
+// A reference to a place in the file system, by value; a file need not stand there. Nil is an optional
+// without a value. An alias is a symbolic link. Holds no open file and caches nothing: each answer is the
+// disk's of that moment. The file system must outlive its items.
+class FolderItem {
+public:
+    // Nil for a path that isn't absolute, has a ".." or holds a zero byte.
+    static std::optional<FolderItem> FromNativePath(FileSystem& files, std::string_view path);
+    // From a file: URL. The first gives an alias's target where there is one, the second the alias itself.
+    // Nil for other URLs.
+    static std::optional<FolderItem> GetFolderItem(FileSystem& files, std::string_view urlPath);
+    static std::optional<FolderItem> GetTrueFolderItem(FileSystem& files, std::string_view urlPath);
+    // The root folder of each mounted volume.
+    static std::vector<FolderItem> Volumes(FileSystem& files);
+
+    // The last part of the path as the file system has it; for the root of a volume, the volume's name.
+    std::string Name() const;
+    // Nil for the root of a volume.
+    std::optional<FolderItem> Parent() const;
+    // The item of that name in this folder, an alias replaced by its target unless it dangles. Nil if no file
+    // can bear the name.
+    std::optional<FolderItem> Child(std::string_view name) const;
+    // The same, an alias as itself.
+    std::optional<FolderItem> TrueChild(std::string_view name) const;
+
+    // These three look at the item itself: a dangling alias exists, an alias of a folder is no directory.
+    bool Exists() const { return files_->Kind(path_) != FileKind::None; }
+    bool IsAlias() const { return files_->Kind(path_) == FileKind::Link; }
+    bool Directory() const { return files_->Kind(path_) == FileKind::Folder; }
+
+    const std::string& NativePath() const { return path_; }
+    // "file:///", every byte but letters, digits and "-._~/" as "%XX".
+    std::string URLPath() const;
+
+    // Both are false if it didn't succeed; a folder is deleted only if it is empty.
+    bool CreateAsFolder() const { return files_->MakeFolder(path_); }
+    bool Delete() const { return files_->Remove(path_); }
+    // Whether a save to this item would be let begin now.
+    bool CanReplace(LinkPolicy links) const { return files_->CanReplace(path_, links); }
+
+    FileSystem& Files() const { return *files_; }
+
+    bool operator==(const FolderItem&) const = default;
+
+private:
+    FolderItem(FileSystem& files, std::string path) : files_(&files), path_(std::move(path)) {}
+    // The item itself, or what it leads to if it is an alias that leads somewhere.
+    FolderItem Resolved() const;
+
+    FileSystem* files_;
+    std::string path_;
+};
+
+namespace SpecialFolder {
+
+// Where programs keep their preferences, made if it was missing. Nil if it can't be had.
+std::optional<FolderItem> Preferences(FileSystem& files);
+// The user's documents. Nil if the desktop has no such folder.
+std::optional<FolderItem> Documents(FileSystem& files);
+// The folder of the running program.
+std::optional<FolderItem> Application(FileSystem& files);
+
+} // namespace SpecialFolder
+
+} // namespace tessarolyne

@@ -1,0 +1,23 @@
+#pragma once
+
+namespace tessarolyne {
+
+class Window;
+
+// The size of a screen, in points.
+struct ScreenSize {
+    int Width = 0;
+    int Height = 0;
+};
+
+// Where windows are seen: draws a window that is shown for the first time and keeps the drawing in step with
+// the model until the window closes.
+class Stage {
+public:
+    virtual ~Stage() = default;
+    virtual void Present(Window& window) = 0;
+    // The first screen.
+    virtual ScreenSize Screen() const = 0;
+};
+
+} // namespace tessarolyne

@@ -1,0 +1,29 @@
+#include "platform/System.h"
+
+namespace tessarolyne::System {
+
+namespace {
+
+constexpr std::string_view fallbackMark = "‡";
+
+const Translations* current = nullptr;
+
+} // namespace
+
+void UseTranslations(const Translations* translations) {
+    current = translations;
+}
+
+std::string GetLocalizedString(std::string_view key, std::string_view fallback, std::string_view language) {
+    if (current != nullptr) {
+        if (auto text = current->Find(key, language)) {
+            return *text;
+        }
+    }
+    if (fallback.starts_with(fallbackMark)) {
+        fallback.remove_prefix(fallbackMark.size());
+    }
+    return std::string(fallback);
+}
+
+} // namespace tessarolyne::System

@@ -1,0 +1,213 @@
+#include "platform/Text.h"
+
+#include "platform/Utf8.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <limits>
+#include <vector>
+
+namespace tessarolyne {
+
+namespace {
+
+constexpr std::int64_t toTheEnd = std::numeric_limits<std::int64_t>::max();
+
+// The byte at which the text's character number `count` begins, counted from 0; the size past its end.
+std::size_t ByteAfter(std::string_view text, std::int64_t count) {
+    std::size_t at = 0;
+    for (; count > 0 && at < text.size(); --count) {
+        at += CharacterAt(text, at).size;
+    }
+    return at;
+}
+
+std::u32string Folded(std::string_view text) {
+    std::u32string codes;
+    codes.reserve(text.size());
+    for (std::size_t at = 0; at < text.size();) {
+        const Character character = CharacterAt(text, at);
+        codes += UppercaseOf(character.code);
+        at += character.size;
+    }
+    return codes;
+}
+
+// For each prefix of `find`, the length of its longest proper prefix that also ends it.
+std::vector<std::size_t> Borders(const std::u32string& find) {
+    std::vector<std::size_t> borders(find.size(), 0);
+    std::size_t matched = 0;
+    for (std::size_t i = 1; i < find.size(); ++i) {
+        while (matched > 0 && find[i] != find[matched]) {
+            matched = borders[matched - 1];
+        }
+        if (find[i] == find[matched]) {
+            ++matched;
+        }
+        borders[i] = matched;
+    }
+    return borders;
+}
+
+// Where `find`, which isn't empty, begins in the text, counted from 0, or npos. By Knuth, Morris and Pratt,
+// so that no pair of texts takes longer than their lengths.
+std::size_t IndexOf(const std::u32string& text, const std::u32string& find) {
+    const std::vector<std::size_t> borders = Borders(find);
+    std::size_t matched = 0;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        while (matched > 0 && text[i] != find[matched]) {
+            matched = borders[matched - 1];
+        }
+        if (text[i] == find[matched]) {
+            ++matched;
+        }
+        if (matched == find.size()) {
+            return i + 1 - matched;
+        }
+    }
+    return std::u32string::npos;
+}
+
+} // namespace
+
+std::int64_t Len(std::string_view text) {
+    std::int64_t count = 0;
+    for (std::size_t at = 0; at < text.size(); ++count) {
+        at += CharacterAt(text, at).size;
+    }
+    return count;
+}
+
+std::string Mid(std::string_view text, std::int64_t start) {
+    return Mid(text, start, toTheEnd);
+}
+
+std::string Mid(std::string_view text, std::int64_t start, std::int64_t length) {
+    text.remove_prefix(ByteAfter(text, std::max<std::int64_t>(start, 1) - 1));
+    return std::string(text.substr(0, ByteAfter(text, length)));
+}
+
+std::string Left(std::string_view text, std::int64_t length) {
+    return Mid(text, 1, length);
+}
+
+std::string Right(std::string_view text, std::int64_t length) {
+    const std::int64_t count = Len(text);
+    return length <= 0 ? std::string() : Mid(text, count - std::min(length, count) + 1);
+}
+
+std::int64_t InStr(std::string_view text, std::string_view find) {
+    return InStr(1, text, find);
+}
+
+std::int64_t InStr(std::int64_t start, std::string_view text, std::string_view find) {
+    start = std::max<std::int64_t>(start, 1);
+    if (find.empty()) {
+        return start <= Len(text) + 1 ? start : 0;
+    }
+    text.remove_prefix(ByteAfter(text, start - 1));
+    const std::size_t index = IndexOf(Folded(text), Folded(find));
+    return index == std::u32string::npos ? 0 : start + static_cast<std::int64_t>(index);
+}
+
+std::string ReplaceAll(std::string_view text, std::string_view find, std::string_view with) {
+    if (find.empty()) {
+        return std::string(text);
+    }
+    std::string result;
+    result.reserve(text.size());
+    std::size_t from = 0;
+    for (std::size_t at; (at = text.find(find, from)) != std::string_view::npos; from = at + find.size()) {
+        result.append(text, from, at - from).append(with);
+    }
+    return result.append(text, from);
+}
+
+std::string LTrim(std::string_view text) {
+    return std::string(text.substr(std::min(text.find_first_not_of(' '), text.size())));
+}
+
+std::string Trim(std::string_view text) {
+    return LTrim(text.substr(0, text.find_last_not_of(' ') + 1));
+}
+
+std::int64_t CountFields(std::string_view text, std::string_view delimiter) {
+    std::int64_t count = 1;
+    if (delimiter.empty()) {
+        return count;
+    }
+    for (std::size_t at = 0; (at = text.find(delimiter, at)) != std::string_view::npos;
+         at += delimiter.size()) {
+        ++count;
+    }
+    return count;
+}
+
+std::string NthField(std::string_view text, std::string_view delimiter, std::int64_t field) {
+    if (field < 1) {
+        return {};
+    }
+    for (; field > 1; --field) {
+        const std::size_t at = delimiter.empty() ? std::string_view::npos : text.find(delimiter);
+        if (at == std::string_view::npos) {
+            return {};
+        }
+        text.remove_prefix(at + delimiter.size());
+    }
+    return std::string(delimiter.empty() ? text : text.substr(0, text.find(delimiter)));
+}
+
+std::string Uppercase(std::string_view text) {
+    std::string result;
+    result.reserve(text.size());
+    for (std::size_t at = 0; at < text.size();) {
+        const Character character = CharacterAt(text, at);
+        AppendCharacter(result, UppercaseOf(character.code));
+        at += character.size;
+    }
+    return result;
+}
+
+std::string Chr(std::int64_t code) {
+    const bool surrogate = code >= 0xD800 && code <= 0xDFFF;
+    const bool known = code >= 0 && code <= 0x10FFFF && !surrogate;
+    std::string result;
+    AppendCharacter(result, known ? static_cast<char32_t>(code) : U'\uFFFD');
+    return result;
+}
+
+std::string EncodeURLComponent(std::string_view text) {
+    constexpr std::string_view unreserved =
+        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~";
+    constexpr std::string_view hexDigits = "0123456789ABCDEF";
+    std::string encoded;
+    for (const char c : text) {
+        if (unreserved.find(c) != unreserved.npos) {
+            encoded += c;
+        } else {
+            const auto byte = static_cast<unsigned char>(c);
+            encoded += '%';
+            encoded += hexDigits[byte >> 4];
+            encoded += hexDigits[byte & 15];
+        }
+    }
+    return encoded;
+}
+
+std::string ReplaceLineEndings(std::string_view text, std::string_view ending) {
+    std::string result;
+    result.reserve(text.size());
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') {
+            continue; // its LF stands for both
+        }
+        if (text[i] == '\r' || text[i] == '\n') {
+            result += ending;
+        } else {
+            result += text[i];
+        }
+    }
+    return result;
+}
+
+} // namespace tessarolyne

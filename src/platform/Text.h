@@ -1,0 +1,60 @@
+#pragma once
+
+#include <cstdint>
+#include <string>
+#include <string_view>
+
+// The framework's text functions, on UTF-8. Positions and lengths count characters (code points; a byte that
+// isn't valid UTF-8 is a character too and is kept), and the first position is 1. Any argument is allowed:
+// what lies outside the text is nothing. Time is linear in the text, and in ReplaceAll and the fields for the
+// short patterns that they are given.
+namespace tessarolyne {
+
+// The end of a line in texts that the program makes for a window.
+inline constexpr std::string_view endOfLine = "\n";
+
+// The number of characters.
+std::int64_t Len(std::string_view text);
+
+// The characters from `start` on, at most `length` of them; a start below 1 is 1.
+std::string Mid(std::string_view text, std::int64_t start);
+std::string Mid(std::string_view text, std::int64_t start, std::int64_t length);
+
+// The first, the last `length` characters.
+std::string Left(std::string_view text, std::int64_t length);
+std::string Right(std::string_view text, std::int64_t length);
+
+// The position of `find` in the text, from `start` on; 0 if it isn't there. Ignores the case of letters of
+// ASCII, Latin-1 and Latin Extended-A. An empty `find` is found at `start`, up to the end of the text.
+std::int64_t InStr(std::string_view text, std::string_view find);
+std::int64_t InStr(std::int64_t start, std::string_view text, std::string_view find);
+
+// The text with each `find` replaced, from left to right. Compares bytes, so that case counts; an empty
+// `find` changes nothing.
+std::string ReplaceAll(std::string_view text, std::string_view find, std::string_view with);
+
+// The text without blanks (U+0020 only) at the left end, at both ends.
+std::string LTrim(std::string_view text);
+std::string Trim(std::string_view text);
+
+// The number of pieces into which the delimiters cut the text: one more than there are delimiters, so at
+// least
+// 1. Compares bytes; an empty delimiter cuts nothing.
+std::int64_t CountFields(std::string_view text, std::string_view delimiter);
+
+// The piece with this number, from 1; empty where there is none.
+std::string NthField(std::string_view text, std::string_view delimiter, std::int64_t field);
+
+// The text with its letters of ASCII, Latin-1 and Latin Extended-A as capitals ("ß" has none and stays).
+std::string Uppercase(std::string_view text);
+
+// The character with this code; U+FFFD for a code that Unicode doesn't have.
+std::string Chr(std::int64_t code);
+
+// The bytes of the text as a piece of an address: all but the unreserved characters of RFC 3986 as "%20".
+std::string EncodeURLComponent(std::string_view text);
+
+// The text with each CR LF, CR and LF replaced by `ending`.
+std::string ReplaceLineEndings(std::string_view text, std::string_view ending);
+
+} // namespace tessarolyne

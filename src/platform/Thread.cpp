@@ -1,0 +1,52 @@
+#include "platform/Thread.h"
+
+#include <exception>
+#include <utility>
+
+namespace tessarolyne {
+
+namespace {
+
+thread_local Thread* current = nullptr;
+
+} // namespace
+
+Thread* Thread::Current() {
+    return current;
+}
+
+Thread::~Thread() {
+    if (thread_.joinable()) {
+        thread_.join();
+    }
+}
+
+void Thread::Start() {
+    if (State() == running) {
+        return;
+    }
+    state_.store(running, std::memory_order_release);
+    afterBody_.clear();
+    thread_ = std::jthread([this] { Body(); });
+}
+
+void Thread::Body() {
+    current = this;
+    try {
+        Run();
+    } catch (const std::exception& failure) {
+        AfterBody([this, reason = std::string(failure.what())] { Failed(reason); });
+    } catch (...) {
+        AfterBody([this] { Failed("unknown"); });
+    }
+    current = nullptr;
+    auto tasks = std::exchange(afterBody_, {});
+    auto& loop = loop_;
+    state_.store(notRunning, std::memory_order_release);
+    // From here on the main thread may start the body again: nothing of `this` is touched any more.
+    for (auto& task : tasks) {
+        loop.Post(std::move(task));
+    }
+}
+
+} // namespace tessarolyne

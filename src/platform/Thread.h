@@ -1,0 +1,54 @@
+#pragma once
+
+#include "platform/Event.h"
+#include "platform/EventLoop.h"
+
+#include <atomic>
+#include <functional>
+#include <string>
+#include <thread>
+#include <vector>
+
+namespace tessarolyne {
+
+// Runs one body at a time beside the main thread. The body must not touch controls; what it has to say it
+// says through a Timer's Mode, which takes effect on the main thread when the body has been left for good.
+class Thread {
+public:
+    // State of a thread whose body runs, and of one whose body doesn't (never did, or has been left).
+    static constexpr int running = 0;
+    static constexpr int notRunning = 4;
+
+    explicit Thread(EventLoop& loop, int priority = 2, int stackSize = 0)
+        : Priority(priority), StackSize(stackSize), loop_(loop) {}
+    // Waits for the body; raise its stop flag first.
+    ~Thread();
+    Thread(const Thread&) = delete;
+    Thread& operator=(const Thread&) = delete;
+
+    // Starts the body; nothing if it runs.
+    void Start();
+    int State() const { return state_.load(std::memory_order_acquire); }
+
+    // The thread whose body the caller runs in, or null on any other thread.
+    static Thread* Current();
+    // From the body: runs `task` on the main thread after the body has been left.
+    void AfterBody(std::function<void()> task) { afterBody_.push_back(std::move(task)); }
+
+    const int Priority;
+    const int StackSize; // 0: the platform's own
+
+    Event<void()> Run;
+    // On the main thread, with the reason, after a body that ended by an exception.
+    Event<void(const std::string& reason)> Failed;
+
+private:
+    void Body();
+
+    EventLoop& loop_;
+    std::atomic<int> state_ = notRunning;
+    std::vector<std::function<void()>> afterBody_;
+    std::jthread thread_;
+};
+
+} // namespace tessarolyne

@@ -1,0 +1,139 @@
+#include "platform/Window.h"
+
+#include "platform/Application.h"
+#include "platform/EventLoop.h"
+#include "platform/Services.h"
+#include "platform/Stage.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace tessarolyne {
+
+Window::Window(Application& application, std::string title, int width, int height, WindowFrame frame)
+    : Frame(frame), Title(*this, std::move(title)), Width(*this, width), Height(*this, height),
+      application_(application) {
+    application_.Add(*this);
+}
+
+Window::~Window() {
+    application_.Remove(*this);
+}
+
+void Window::Begin() {
+    if (!begun_) {
+        begun_ = true;
+        Event_Open();
+    }
+}
+
+void Window::Show() {
+    if (closed_) {
+        return;
+    }
+    if (!presented_) {
+        presented_ = true;
+        application_.GetServices().stage.Present(*this);
+    }
+    Visible = true;
+    Raised();
+}
+
+void Window::ShowModal() {
+    if (Visible()) {
+        return;
+    }
+    Show();
+    // The window may be gone when the loop asks: nothing of it is read then.
+    bool gone = false;
+    const Connection watch = Closed.Connect([&gone] { gone = true; });
+    application_.GetServices().loop.RunUntil([&gone] { return gone; });
+}
+
+void Window::Close() {
+    if (closed_ || Event_CancelClose(false) || closed_) {
+        return;
+    }
+    closed_ = true;
+    Visible = false;
+    Closed();
+    application_.WindowClosed(*this);
+}
+
+void Window::Refresh() {
+    DrawNow();
+}
+
+void Window::UserMoved(int left, int top) {
+    Left = left;
+    Top = top;
+}
+
+void Window::Resize(int width, int height) {
+    width = std::clamp(width, Frame.minWidth, Frame.maxWidth);
+    height = std::clamp(height, Frame.minHeight, Frame.maxHeight);
+    const int wider = width - Width();
+    const int higher = height - Height();
+    Width = width;
+    Height = height;
+    for (Control* control : controls_) {
+        if (control->LockRight()) {
+            if (control->LockLeft()) {
+                control->Width = control->Width() + wider;
+            } else {
+                control->Left = control->Left() + wider;
+            }
+        }
+        if (control->LockBottom()) {
+            if (control->LockTop()) {
+                control->Height = control->Height() + higher;
+            } else {
+                control->Top = control->Top() + higher;
+            }
+        }
+    }
+}
+
+std::vector<Control*> Window::TabOrder(bool stopsOnly) const {
+    const auto rank = [](const Control* control) {
+        const Control* parent = control->Parent();
+        return parent == nullptr ? std::pair(control->TabIndex(), -1)
+                                 : std::pair(parent->TabIndex(), control->TabIndex());
+    };
+    std::vector<Control*> order;
+    std::copy_if(controls_.begin(), controls_.end(), std::back_inserter(order), [&](const Control* control) {
+        return control->TakesFocus() && (control->IsTabStop() || !stopsOnly);
+    });
+    std::stable_sort(order.begin(), order.end(),
+        [&](const Control* left, const Control* right) { return rank(left) < rank(right); });
+    return order;
+}
+
+void Window::MoveFocus(Control* control) {
+    if (control == focus_) {
+        return;
+    }
+    Control* const before = std::exchange(focus_, control);
+    if (before != nullptr) {
+        before->LostFocus();
+        before->Changed();
+    }
+    if (focus_ == control && control != nullptr) {
+        control->GotFocus();
+        control->Changed();
+    }
+    FocusMoved();
+}
+
+void Window::Remove(Control& control) {
+    std::erase(controls_, &control);
+    if (focus_ == &control) {
+        focus_ = nullptr;
+    }
+}
+
+void Window::PropertyChanged(const void*) {
+    Changed();
+}
+
+} // namespace tessarolyne

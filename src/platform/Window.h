@@ -1,0 +1,110 @@
+#pragma once
+
+#include "platform/Control.h"
+#include "platform/Property.h"
+#include "platform/Signal.h"
+
+#include <string>
+#include <vector>
+
+namespace tessarolyne {
+
+class Application;
+
+enum class Cursor { None, Standard, Finger };
+
+// How a window may be sized and closed; fixed for its life.
+struct WindowFrame {
+    enum class Kind { Document, MovableModal };
+    Kind kind = Kind::Document;
+    bool closeButton = true;
+    bool minimizeButton = true;
+    bool maximizeButton = false;
+    bool resizeable = false;
+    int minWidth = 64;
+    int minHeight = 64;
+    int maxWidth = 32000;
+    int maxHeight = 32000;
+};
+
+// A window as a model: its place, its controls, who of them has the focus, and the events that its class
+// answers by overriding the Event_ methods. It works without a screen; the stage draws it once it is shown.
+class Window : public PropertyOwner {
+public:
+    Window(Application& application, std::string title, int width, int height, WindowFrame frame);
+    ~Window() override;
+
+    // Runs Event_Open; called once, by whoever made the window, when it is whole.
+    void Begin();
+    bool HasBegun() const { return begun_; }
+
+    // Puts the window on the stage, in front; nothing once it has closed.
+    void Show();
+    // Shows the window and returns when it has closed or the program quits. Nothing if the window is up.
+    void ShowModal();
+    // Asks Event_CancelClose(false) and closes unless it refuses.
+    void Close();
+    bool IsClosed() const { return closed_; }
+    // Draws again what is pending, without taking input.
+    void Refresh();
+    void UpdateNow() { Refresh(); }
+
+    // Changes the size, within the frame's limits; the controls follow by their locks.
+    void Resize(int width, int height);
+
+    void UserClosed() { Close(); }
+    void UserMoved(int left, int top);
+    void UserResized(int width, int height) { Resize(width, height); }
+    // A key that no control took. True: the window took it.
+    bool UserPressedKey(const std::string& key) { return Event_KeyDown(key); }
+
+    // What the window's class answers: at its begin; before it closes (true keeps it open); before menus are
+    // shown; and for a key that no control took (true: it has no further effect).
+    virtual void Event_Open() {}
+    virtual bool Event_CancelClose([[maybe_unused]] bool appQuitting) { return false; }
+    virtual void Event_EnableMenuItems() {}
+    virtual bool Event_KeyDown([[maybe_unused]] const std::string& key) { return false; }
+
+    Application& GetApplication() const { return application_; }
+    const std::vector<Control*>& Controls() const { return controls_; }
+    // The controls that can take the focus, in the order in which Tab visits them: by the parents' indexes,
+    // then by their own. With `stopsOnly` those that Tab stops at, else all.
+    std::vector<Control*> TabOrder(bool stopsOnly) const;
+
+    // The control with the focus, or null. A move gives LostFocus, then GotFocus.
+    Control* Focus() const { return focus_; }
+    void MoveFocus(Control* control);
+
+    const WindowFrame Frame;
+    Property<std::string> Title;
+    Property<int> Left{*this, 0};
+    Property<int> Top{*this, 0};
+    Property<int> Width;
+    Property<int> Height;
+    Property<bool> Visible{*this, false};
+    Property<Cursor> MouseCursor{*this, Cursor::None};
+
+    // After any change of the window's own properties; after its focus moved; when it wants to be in front;
+    // and when it has closed.
+    Signal<> Changed;
+    Signal<> FocusMoved;
+    Signal<> Raised;
+    Signal<> Closed;
+    // Given by Refresh: draw what is pending now.
+    Signal<> DrawNow;
+
+private:
+    friend class Control;
+    void Add(Control& control) { controls_.push_back(&control); }
+    void Remove(Control& control);
+    void PropertyChanged(const void* property) override;
+
+    Application& application_;
+    std::vector<Control*> controls_;
+    Control* focus_ = nullptr;
+    bool begun_ = false;
+    bool closed_ = false;
+    bool presented_ = false;
+};
+
+} // namespace tessarolyne

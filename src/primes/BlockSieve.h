@@ -1,0 +1,54 @@
+#pragma once
+
+#include "primes/GapReader.h"
+#include "primes/PreSieve.h"
+#include "primes/PrimeTable.h"
+#include "primes/StrikeList.h"
+#include "primes/TurnStrikeList.h"
+
+#include <cstdint>
+#include <span>
+#include <vector>
+
+namespace tessarolyne {
+
+// Finds the primes that follow those of a table, window by window, by striking out the multiples of the
+// table's own entries. It keeps nothing that it finds: whoever asks appends it to the table, or compares it
+// with what the table holds there. Windows stay in the first-level cache; primes that would meet a window
+// only a few times strike a block of windows at once, in the second-level cache.
+class BlockSieve {
+public:
+    // The table's known consecutive primes must reach at least this far.
+    static constexpr std::uint64_t leastStart = 251;
+
+    // Begins behind the last of the table's known consecutive primes. May throw std::bad_alloc.
+    explicit BlockSieve(const PrimeTable& table);
+
+    // Half the gaps between the primes of the next window, the first one counted from the prime handed out
+    // last; none beyond `end`. What was handed out before must be in the table and known by then. Empty when
+    // the window has no prime. Valid until the next call.
+    std::span<const std::uint8_t> NextWindow(std::uint64_t end);
+
+    // Every number up to this one has been decided.
+    std::uint64_t Reached() const { return reached_; }
+
+private:
+    void BeginBlock(std::uint64_t end);
+    void AddStrikers(std::uint64_t blockEnd);
+
+    const PrimeTable& table_;
+    PreSieve preSieve_;
+    TurnStrikeList windowStrikers_;
+    TurnStrikeList blockStrikers_;
+    StrikeList largeStrikers_;
+    PrimeTable::Cursor nextStriker_;
+    GapReader gapReader_;
+    std::vector<std::uint8_t> bytes_; // a block, with room for whole turns before and behind it
+    std::uint8_t* block_;
+    std::uint64_t blockByte_;       // the block's first byte in the map of all numbers
+    std::uint32_t blockSize_ = 0;   // bytes of the block in use
+    std::uint32_t windowStart_ = 0; // the next window's first byte in the block
+    std::uint64_t reached_;
+};
+
+} // namespace tessarolyne

@@ -1,0 +1,110 @@
+// The factors of the number: on the main thread within half a second, or on the thread for as long as it
+// takes.
+
+#include "app/Program.h"
+#include "conversion/NumberFormat.h"
+#include "conversion/WinMain.h"
+#include "platform/Clock.h"
+#include "platform/Numbers.h"
+#include "platform/Services.h"
+#include "platform/Text.h"
+#include "primes/Factors.h"
+#include "primes/PrimeGrowth.h"
+#include "primes/WinNbresPremiers.h"
+#include "ui/Localisation.h"
+
+namespace tessarolyne {
+
+namespace {
+
+constexpr std::int64_t ticksForTyping = 30; // half a second
+
+} // namespace
+
+void WinMain::DecompPremDeb(bool force) {
+    CalculEnCours = true;
+    fncts.ArretUrg = false;
+    PushButtDecomposer.Enabled = false;
+    const std::string decimal = ReplaceAll(EditFieldNbre.Text(), " ", "");
+    const double n = CDbl(decimal);
+    if (decimal.empty() || !IsNumeric(decimal) || !(n > 0) || n != Round(n)) {
+        TxtAreaDecomp1er.Text = decimal.empty() ? "" : Localisation::Txt_ErrNbre();
+        CalculEnCours = false;
+        return;
+    }
+    if (force || static_cast<double>(Nbres_Premiers.Back()) > n) {
+        RunFactorsOnThread(ToUInt64(n));
+        return;
+    }
+    TicksFinCalc = program.services.clock.Ticks() + ticksForTyping;
+    DecompPremCalc(ToUInt64(n), true);
+    DecompPremFin(ToUInt64(n));
+}
+
+void WinMain::RunFactorsOnThread(std::uint64_t n) {
+    ProgressWheel1.Visible = true;
+    TxtAreaDecomp1er.Text = Localisation::Txt_Attente();
+    HoldMenuForCalculation(true);
+    ThrPn1 = n;
+    ThreadDecPrems.Start();
+}
+
+RunControl WinMain::MakeRunControl(bool checkTime) {
+    Services& services = program.services;
+    if (checkTime) {
+        return RunControl(fncts.ArretUrg, services.clock, services.memory, TicksFinCalc);
+    }
+    return RunControl(fncts.ArretUrg, services.clock, services.memory);
+}
+
+void WinMain::DecompPremCalc(std::uint64_t n, bool checkTime) {
+    RunControl control = MakeRunControl(checkTime);
+    tessarolyne::DecompPremCalc(n, Nbres_Premiers, Nbre_Decompose, control);
+    lastRunEnd_ = control.End();
+}
+
+std::uint64_t WinMain::NbresPremCalc(std::uint64_t limit, bool checkTime) {
+    RunControl control = MakeRunControl(checkTime);
+    const std::uint64_t last = tessarolyne::NbresPremCalc(Nbres_Premiers, limit, control);
+    lastRunEnd_ = control.End();
+    return last;
+}
+
+void WinMain::DecompPremFin(std::uint64_t n) {
+    std::string text;
+    if (Nbre_Decompose.front() == 0 || fncts.ArretUrg) {
+        text = Localisation::Txt_PourLesGdsNbres();
+        PushButtDecomposer.Enabled = true;
+        TellWhyRunEnded();
+    } else {
+        std::uint64_t product = 1;
+        for (const std::uint64_t factor : Nbre_Decompose) {
+            product *= factor;
+            text += (text.empty() ? "" : " x ") + FormatWhole(factor, CheckBoxFormatAuto.Value);
+        }
+        if (product != n) {
+            ReportFactorMismatch(product, n);
+        }
+    }
+    if (BevelButtonListe.Value) {
+        program.winNbresPremiers().FaireListe(false, false);
+    }
+    TxtAreaDecomp1er.Text = text;
+    CalculEnCours = false;
+}
+
+void WinMain::ReportFactorMismatch(std::uint64_t product, std::uint64_t n) {
+    const std::string mismatch = FormatWhole(product, true) + " ≠ " + FormatWhole(n, true);
+    if (mismatch == MemErrDecomp) {
+        return;
+    }
+    MemErrDecomp = mismatch;
+    fncts.Beep();
+    const auto piece = [this](
+                           int number) { return fncts.FracTexte(Localisation::Txt_ErrDeDecomp(), number); };
+    fncts.MyDialogBox(piece(1) + FormatWhole(n, true) + piece(2) + FormatWhole(product, true) + piece(3),
+        Localisation::Txt_MerciContactAuteur(), Localisation::Btn_Ok(), "", "", 1, nullptr);
+    PushButtDecomposer.Enabled = true;
+}
+
+} // namespace tessarolyne

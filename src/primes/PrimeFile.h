@@ -1,0 +1,59 @@
+#pragma once
+
+#include "platform/FileSystem.h"
+#include "primes/PrimeTable.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <limits>
+#include <string_view>
+
+// The text file that keeps a table of primes between runs. First a header, a label and " : " and the number
+// of primes; then lines of numbers with a tab between them. Only who reads it decides what it is worth.
+namespace tessarolyne {
+
+// Who watches a prime file being read or written. The calls come on the same thread, a few hundred of them
+// for a file of any size whose header is true; where it isn't, up to one for each number.
+class PrimeFileProgress {
+public:
+    virtual ~PrimeFileProgress() = default;
+
+    // How many numbers are expected. Once; twice if a first line of many megabytes turns out to be a header.
+    virtual void Expect([[maybe_unused]] std::int64_t maximum) {}
+    // The number with this index, from 0, was written or is about to be taken into the table.
+    virtual void Reach([[maybe_unused]] std::int64_t index) {}
+    // Some hundred kilobytes are done, whatever was in them.
+    virtual void Work() {}
+};
+
+// How many numbers stand between two calls of Reach: a five hundredth of the whole; 0 for a small whole.
+std::int64_t ProgressStep(std::int64_t maximum);
+
+// Writes the table, `perLine` numbers in each line, all in one for 0 and less. Reaches every number but the
+// first whose index is a multiple of the step, for a step of 0 every one. Doesn't commit the file. Throws
+// IOException.
+void WritePrimeFile(const PrimeTable& table, std::string_view label, int perLine, OutputFile& file,
+    PrimeFileProgress& progress);
+
+// Expected of a file without a header.
+inline constexpr std::int64_t headerlessMaximum = 200'000;
+
+// Replaces the table by the numbers of the file. A line ends with CR, LF or CRLF; a byte order mark at the
+// start is passed over. A first line that contains " : " is a header, whose count only tells what to expect.
+// The number of a field is its Val, truncated and held within 64 bits; 0 drops the rest of the line. Reaches
+// every index that is a multiple of the step, for a step of 0 only the first. Takes memory for one chunk, of
+// at least 3 bytes, beside the table. Throws IOException, also when the table takes no more numbers or has
+// more than `mostBytes` bytes; it then holds what was read.
+void ReadPrimeFile(InputFile& file, PrimeTable& table, PrimeFileProgress& progress,
+    std::uint64_t mostBytes = std::numeric_limits<std::uint64_t>::max(), std::size_t chunkSize = 256 * 1024);
+
+// What a table that was read begins with.
+enum class TableStart {
+    Primes, // 2, 3, 5, 7
+    Short,  // some of these, and then no more
+    Empty,
+    Other
+};
+TableStart StartOf(const PrimeTable& table);
+
+} // namespace tessarolyne

@@ -1,0 +1,110 @@
+// Which text file is bound to the table of primes: how the user binds, replaces, opens and releases it.
+
+#include "app/Program.h"
+#include "conversion/WinMain.h"
+#include "platform/Desktop.h"
+#include "platform/MenuBar.h"
+#include "platform/Services.h"
+#include "primes/WinChargSauvNb1ers.h"
+#include "primes/WinNbresPremiers.h"
+#include "ui/FileItems.h"
+#include "ui/FileTypes.h"
+#include "ui/Localisation.h"
+
+namespace tessarolyne {
+
+bool WinMain::FichChoixFichNbP_Action() {
+    if (app.GetMenuBar()->Find("FichChoixFichNbP")->Enabled) {
+        if (!BevelButtonListe.Value) {
+            program.winNbresPremiers().Show();
+        }
+        program.winNbresPremiers().Btn_Fich(true, false, false);
+    }
+    return true;
+}
+
+bool WinMain::FichSauvFichNbP_Action() {
+    if (app.GetMenuBar()->Find("FichSauvFichNbP")->Enabled) {
+        if (!BevelButtonListe.Value) {
+            program.winNbresPremiers().Show();
+        }
+        program.winNbresPremiers().Btn_Fich(false, false, false);
+    }
+    return true;
+}
+
+// Option opens the bound file; Shift swaps what a plain click does.
+void WinNbresPremiers::Btn_Fich(bool fichDispo, bool touchOption, bool touchMaj) {
+    if (touchOption) {
+        OpenBoundFile(fichDispo);
+        return;
+    }
+    DefNbreNbPparLigne();
+    const bool load = fichDispo != touchMaj;
+    const auto chosen = load ? ChooseAndLoad() : ChooseAndSave();
+    if (!chosen && app.FichNbPrems) {
+        AskToKeepFile();
+    }
+    ShowBinding();
+}
+
+void WinNbresPremiers::OpenBoundFile(bool fichDispo) {
+    if (!fichDispo || !program.services.desktop.OpenFile(*app.FichNbPrems)) {
+        fncts.Beep();
+    }
+}
+
+std::optional<FolderItem> WinNbresPremiers::ChooseAndLoad() {
+    const auto chosen = fncts.MyDialogLoad(
+        app.FichNbPrems, Localisation::Txt_SelectFichierNbPrem(), FileTypes::QueText.Text(), nullptr);
+    if (chosen) {
+        ProgressWheel2.Visible = true;
+        app.FichNbPrems = MemeItem(chosen);
+        program.winChargSauvNb1ers().LoadNb1ers();
+        EditFieldAffAu.Text = "0";
+        FaireListe(true, false);
+        ProgressWheel2.Visible = false;
+    }
+    return chosen;
+}
+
+// A file that can't be replaced is refused before anything is touched; the old one stays whole until the new
+// one is complete.
+std::optional<FolderItem> WinNbresPremiers::ChooseAndSave() {
+    auto chosen = fncts.MyDialogSave(app.FichNbPrems, Localisation::Txt_SelectDossSauv(),
+        FileTypes::QueText.Text(), Localisation::WinNbresTitre() + ".txt", nullptr);
+    if (chosen && chosen->Exists() && !chosen->CanReplace(LinkPolicy::ReplaceLink)) {
+        fncts.Beep();
+        fncts.MyDialogBox(
+            Localisation::Txt_Rempl_Imposs(), "", Localisation::Btn_Annuler(), "", "", 1, nullptr);
+        chosen.reset();
+    }
+    if (chosen) {
+        app.FichNbPrems = MemeItem(chosen);
+        program.winChargSauvNb1ers().SaveNb1ers(LinkPolicy::ReplaceLink);
+    }
+    return chosen;
+}
+
+void WinNbresPremiers::AskToKeepFile() {
+    fncts.Beep();
+    const int answer = fncts.MyDialogBox(Localisation::Txt_VoulVsConservFich(), "",
+        Localisation::Btn_Garder(), Localisation::Btn_NePlusUtiliser(), "", 0, nullptr);
+    if (answer == 2) {
+        app.FichNbPrems.reset();
+    }
+}
+
+void WinNbresPremiers::ShowBinding() {
+    if (PasNil_Existe_Alias(app.FichNbPrems, true)) {
+        PushButtonFichier.Caption = Localisation::Btn_ChangFich();
+        PushButtonFichier.HelpTag = Localisation::Btn_ChangFich_HT();
+        StaticTextNbNbre1ers.HelpTag = AbsPath_f(*app.FichNbPrems, true);
+    } else {
+        PushButtonFichier.Caption = Localisation::Btn_SauvFich();
+        PushButtonFichier.HelpTag = Localisation::Btn_SauvFich_HT();
+        StaticTextNbNbre1ers.HelpTag = Localisation::Txt_PasDeFichNbPremSelect();
+    }
+}
+
+} // namespace tessarolyne

@@ -1,0 +1,413 @@
+#include "platform/IOException.h"
+#include "primes/FieldValue.h"
+#include "primes/PrimeFile.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cstring>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace tessarolyne {
+
+namespace {
+
+constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+constexpr std::string_view headerMark = " : ";
+constexpr std::string_view lineEnds = "\r\n";
+
+bool IsLineEnd(char c) {
+    return c == '\n' || c == '\r';
+}
+
+// What ends a field. Behind a number all of these mean the same: the next field begins.
+bool EndsField(char c) {
+    constexpr std::uint32_t ends = 1U << '\t' | 1U << '\n' | 1U << '\r';
+    const auto code = static_cast<unsigned char>(c);
+    return code < 32 && (ends >> code & 1U) != 0;
+}
+
+// Half a gap less one, which is at most 254 for the even gaps from 2 to 510 and more for any other: an odd
+// one is rotated into the highest bit.
+std::uint64_t HalfGapLessOne(std::uint64_t from, std::uint64_t to) {
+    return std::rotr(to - from - 2, 1);
+}
+constexpr std::uint64_t largestHalfGapLessOne = 254;
+
+// Looks for " : " in a line that comes in parts.
+class HeaderMark {
+public:
+    // Where in this part the mark ends, npos if it isn't there yet.
+    std::size_t EndIn(std::string_view part) {
+        const std::string seam = tail_ + std::string(part.substr(0, headerMark.size() - 1));
+        if (const auto at = seam.find(headerMark); at != seam.npos) {
+            return at + headerMark.size() - tail_.size();
+        }
+        if (const auto at = part.find(headerMark); at != part.npos) {
+            return at + headerMark.size();
+        }
+        tail_ += part.substr(part.size() - std::min(part.size(), headerMark.size() - 1));
+        tail_.erase(0, tail_.size() - std::min(tail_.size(), headerMark.size() - 1));
+        return part.npos;
+    }
+
+private:
+    std::string tail_;
+};
+
+// Takes the numbers one by one and fills the table with them, most of them by half their gap.
+class NumberSink {
+public:
+    NumberSink(PrimeTable& table, PrimeFileProgress& progress) : table_(table), progress_(progress) {}
+
+    void Begin(std::int64_t maximum) {
+        progress_.Expect(maximum);
+        step_ = ProgressStep(maximum);
+    }
+    void Add(std::uint64_t value);
+    // How many numbers AddHalfGap may be given now.
+    std::int64_t Room() const {
+        const auto room = static_cast<std::int64_t>(halfGaps_.size() - used_);
+        return last_ == 0 ? 0 : milestone_ < index_ ? room : std::min(room, milestone_ - index_);
+    }
+    std::span<std::uint8_t> Gaps() { return std::span(halfGaps_).subspan(used_); }
+    void Took(std::size_t count, std::uint64_t last) {
+        used_ += count;
+        index_ += static_cast<std::int64_t>(count);
+        last_ = last;
+    }
+    std::uint64_t Last() const { return last_; }
+    void Flush();
+    // Forgets all that was added.
+    void Restart();
+
+private:
+    PrimeTable& table_;
+    PrimeFileProgress& progress_;
+    std::array<std::uint8_t, 4096> halfGaps_{};
+    std::size_t used_ = 0;
+    std::uint64_t last_ = 0;
+    std::int64_t index_ = 0;
+    std::int64_t step_ = 0;
+    std::int64_t milestone_ = 0; // the next index to be told; once passed, there is none
+};
+
+void NumberSink::Add(std::uint64_t value) {
+    if (index_ == milestone_) {
+        progress_.Reach(index_);
+        milestone_ += step_;
+    }
+    const std::uint64_t halfGapLessOne = HalfGapLessOne(last_, value);
+    if (last_ != 0 && halfGapLessOne <= largestHalfGapLessOne) {
+        if (used_ == halfGaps_.size()) {
+            Flush();
+        }
+        halfGaps_[used_++] = static_cast<std::uint8_t>(halfGapLessOne + 1);
+    } else {
+        Flush();
+        if (!table_.Append(value)) {
+            throw IOException("the table takes no more numbers");
+        }
+    }
+    last_ = value;
+    ++index_;
+}
+
+void NumberSink::Flush() {
+    const std::span<const std::uint8_t> pending(halfGaps_.data(), used_);
+    used_ = 0;
+    if (!pending.empty() && table_.AppendByHalfGaps(pending) != static_cast<std::int32_t>(pending.size())) {
+        throw IOException("the table takes no more numbers");
+    }
+}
+
+void NumberSink::Restart() {
+    table_.Clear();
+    used_ = 0;
+    last_ = 0;
+    index_ = 0;
+    milestone_ = 0;
+}
+
+// The digits that a number has in common with those around it: all but the last four. Numbers of 5 to 12
+// digits have such a neighbourhood; the largest that the program accepts has 12.
+class Neighbourhood {
+public:
+    static constexpr std::size_t readAhead = 16;
+
+    void Settle(const char* digits, std::size_t size, std::uint64_t value) {
+        size_ = 0;
+        if (size > lowDigits && size <= lowDigits + sizeof leading_) {
+            size_ = size;
+            std::array<unsigned char, sizeof leading_> mask{};
+            std::fill_n(mask.begin(), size - lowDigits, static_cast<unsigned char>(0xFF));
+            std::memcpy(&mask_, mask.data(), sizeof mask_);
+            std::memcpy(&leading_, digits, sizeof leading_);
+            leading_ &= mask_;
+            base_ = value - value % 10000;
+        }
+    }
+    bool IsSettled() const { return size_ != 0; }
+    void Leave() { size_ = 0; }
+
+    // Reads numbers of the neighbourhood with small gaps, at most as many as `halfGaps` has room for, and
+    // gives how many; moves `at` behind them and `last` to the last of them. readAhead bytes beyond `end` can
+    // be read.
+    std::size_t Read(
+        const char*& at, const char* end, std::span<std::uint8_t> halfGaps, std::uint64_t& last) const;
+
+private:
+    static constexpr std::size_t lowDigits = 4;
+
+    std::size_t size_ = 0; // digits of a number, 0 for no neighbourhood
+    std::uint64_t leading_ = 0;
+    std::uint64_t mask_ = 0;
+    std::uint64_t base_ = 0;
+};
+
+std::uint32_t LoadLittleEndian(const char* bytes) {
+    const auto byte = [&](int i) { return std::uint32_t{static_cast<unsigned char>(bytes[i])}; };
+    return byte(0) | byte(1) << 8U | byte(2) << 16U | byte(3) << 24U;
+}
+
+std::size_t Neighbourhood::Read(
+    const char*& at, const char* end, std::span<std::uint8_t> halfGaps, std::uint64_t& last) const {
+    const std::size_t size = size_;
+    const std::uint64_t leading = leading_;
+    const std::uint64_t mask = mask_;
+    const char* place = at;
+    // All are of one size, so the room for numbers is room for bytes as well.
+    const auto most = static_cast<std::ptrdiff_t>(halfGaps.size() * (size + 1));
+    const char* const stop = end - place > most ? place + most : end;
+    std::uint64_t before = last - base_; // as the low digits of the one before, which may wrap
+    std::uint8_t* halfGap = halfGaps.data();
+    while (place < stop) {
+        std::uint64_t head = 0;
+        std::memcpy(&head, place, sizeof head);
+        // Four digits as bytes of 0 to 9.
+        const std::uint32_t digits = LoadLittleEndian(place + size - lowDigits) ^ 0x30303030U;
+        const std::uint64_t strange = ((digits + 0x76767676U) | digits) & 0x80808080U;
+        if ((((head & mask) ^ leading) | strange) != 0 || !EndsField(place[size])) {
+            break;
+        }
+        // Each byte ten times and the next one added, which leaves two pairs; then the same with these.
+        const std::uint32_t pairs = ((digits * (10U << 8U | 1U)) >> 8U) & 0x00FF00FFU;
+        const std::uint64_t low = (pairs * (100U << 16U | 1U)) >> 16U;
+        const std::uint64_t halfGapLessOne = HalfGapLessOne(before, low);
+        if (halfGapLessOne > largestHalfGapLessOne) {
+            break;
+        }
+        *halfGap++ = static_cast<std::uint8_t>(halfGapLessOne + 1);
+        before = low;
+        place += size + 1;
+    }
+    at = place;
+    last = base_ + before;
+    return static_cast<std::size_t>(halfGap - halfGaps.data());
+}
+
+// Takes a prime file in pieces of any size.
+class Reader {
+public:
+    Reader(PrimeTable& table, PrimeFileProgress& progress) : sink_(table, progress) {}
+
+    void Take(std::string_view bytes);
+    void Finish();
+
+private:
+    std::string_view TakeFirstLine(std::string_view bytes);
+    void BeginHeadless();
+    void BeginHeaded();
+    void TakeData(const char* at, const char* end);
+    const char* TakeNeighbours(const char* at, const char* end);
+    const char* TakePlainField(const char* at, const char* end);
+    const char* TakeAnyField(const char* at, const char* end);
+    void EndField(std::uint64_t value, char ending);
+
+    NumberSink sink_;
+    Neighbourhood neighbourhood_;
+    bool inFirstLine_ = true;
+    bool isHeader_ = false;
+    bool hasBegun_ = false;
+    HeaderMark headerMark_;
+    bool inField_ = false;  // field_ has begun to take one
+    bool dropping_ = false; // up to the end of the line
+    FieldValue field_;
+};
+
+void Reader::Take(std::string_view bytes) {
+    if (inFirstLine_) {
+        bytes = TakeFirstLine(bytes);
+    }
+    TakeData(bytes.data(), bytes.data() + bytes.size());
+    sink_.Flush();
+}
+
+// A line that is longer than a piece is read as data until the mark turns up in it.
+std::string_view Reader::TakeFirstLine(std::string_view bytes) {
+    const std::size_t size = std::min(bytes.find_first_of(lineEnds), bytes.size());
+    std::string_view line = bytes.substr(0, size);
+    inFirstLine_ = size == bytes.size();
+    if (!isHeader_) {
+        const std::size_t behindMark = headerMark_.EndIn(line);
+        if (behindMark == line.npos) {
+            BeginHeadless();
+            return bytes;
+        }
+        isHeader_ = true;
+        inField_ = dropping_ = false;
+        neighbourhood_.Leave();
+        sink_.Restart();
+        field_.Clear();
+        line.remove_prefix(behindMark);
+    }
+    for (const char c : line) {
+        field_.Take(c);
+    }
+    if (!inFirstLine_) {
+        BeginHeaded();
+    }
+    return bytes.substr(size);
+}
+
+void Reader::BeginHeadless() {
+    if (!hasBegun_) {
+        hasBegun_ = true;
+        sink_.Begin(headerlessMaximum);
+    }
+}
+
+void Reader::BeginHeaded() {
+    constexpr std::uint64_t most = std::numeric_limits<std::int64_t>::max();
+    hasBegun_ = true;
+    sink_.Begin(static_cast<std::int64_t>(std::min(field_.Value(), most)));
+    field_.Clear();
+}
+
+void Reader::TakeData(const char* at, const char* end) {
+    while (at != end) {
+        if (dropping_) {
+            at = std::find_if(at, end, IsLineEnd);
+            dropping_ = at == end;
+        } else if (inField_) {
+            at = TakeAnyField(at, end);
+        } else {
+            at = TakeNeighbours(at, end);
+            const char* const behind = TakePlainField(at, end);
+            at = behind != at ? behind : TakeAnyField(at, end);
+        }
+    }
+}
+
+const char* Reader::TakeNeighbours(const char* at, const char* end) {
+    if (!neighbourhood_.IsSettled() || end - at <= std::ptrdiff_t{Neighbourhood::readAhead}) {
+        return at;
+    }
+    const auto room = static_cast<std::size_t>(sink_.Room());
+    std::uint64_t last = sink_.Last();
+    const auto count =
+        neighbourhood_.Read(at, end - Neighbourhood::readAhead, sink_.Gaps().first(room), last);
+    sink_.Took(count, last);
+    return at;
+}
+
+// A field of up to 15 digits and nothing else, which a double holds exactly; all in this piece. Gives back
+// `at` for any other.
+const char* Reader::TakePlainField(const char* at, const char* end) {
+    constexpr std::ptrdiff_t mostDigits = 15;
+    const char* place = at;
+    std::uint64_t value = 0;
+    for (; place != end && *place >= '0' && *place <= '9'; ++place) {
+        if (place - at == mostDigits) {
+            return at;
+        }
+        value = value * 10 + static_cast<std::uint64_t>(*place - '0');
+    }
+    if (place == at || place == end || !EndsField(*place)) {
+        return at;
+    }
+    if (end - at >= std::ptrdiff_t{Neighbourhood::readAhead}) {
+        neighbourhood_.Settle(at, static_cast<std::size_t>(place - at), value);
+    }
+    EndField(value, *place);
+    return place + 1;
+}
+
+const char* Reader::TakeAnyField(const char* at, const char* end) {
+    inField_ = true;
+    for (; at != end; ++at) {
+        if (EndsField(*at)) {
+            inField_ = false;
+            EndField(field_.Value(), *at);
+            field_.Clear();
+            return at + 1;
+        }
+        field_.Take(*at);
+    }
+    return at;
+}
+
+void Reader::EndField(std::uint64_t value, char ending) {
+    if (value != 0) {
+        sink_.Add(value);
+    } else {
+        dropping_ = !IsLineEnd(ending);
+    }
+}
+
+void Reader::Finish() {
+    if (inFirstLine_ && isHeader_) {
+        BeginHeaded();
+    } else {
+        BeginHeadless();
+    }
+    if (inField_) {
+        EndField(field_.Value(), '\n');
+    }
+    sink_.Flush();
+}
+
+} // namespace
+
+void ReadPrimeFile(InputFile& file, PrimeTable& table, PrimeFileProgress& progress, std::uint64_t mostBytes,
+    std::size_t chunkSize) {
+    table.Clear();
+    Reader reader(table, progress);
+    std::vector<char> chunk(chunkSize);
+    for (bool isFirst = true;; isFirst = false) {
+        const std::size_t size = file.Read(chunk);
+        std::string_view bytes(chunk.data(), size);
+        if (isFirst && bytes.starts_with(byteOrderMark)) {
+            bytes.remove_prefix(byteOrderMark.size());
+        }
+        reader.Take(bytes);
+        progress.Work();
+        if (table.Bytes() > mostBytes) {
+            throw IOException("no memory for more numbers");
+        }
+        if (size < chunk.size()) {
+            break;
+        }
+    }
+    reader.Finish();
+}
+
+TableStart StartOf(const PrimeTable& table) {
+    constexpr std::array<std::uint64_t, 4> firstPrimes{2, 3, 5, 7};
+    if (table.Size() == 0) {
+        return TableStart::Empty;
+    }
+    for (std::int32_t rank = 0; rank < static_cast<std::int32_t>(firstPrimes.size()); ++rank) {
+        if (rank == table.Size()) {
+            return TableStart::Short;
+        }
+        if (table[rank] != firstPrimes[static_cast<std::size_t>(rank)]) {
+            return TableStart::Other;
+        }
+    }
+    return TableStart::Primes;
+}
+
+} // namespace tessarolyne

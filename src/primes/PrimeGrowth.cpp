@@ -1,0 +1,189 @@
+#include "primes/PrimeGrowth.h"
+
+#include "primes/BlockSieve.h"
+#include "primes/Primality.h"
+#include "primes/TrialDivision.h"
+
+#include <algorithm>
+#include <array>
+#include <limits>
+#include <new>
+
+namespace tessarolyne {
+
+namespace {
+
+// Over so short a way single tests are done before a sieve has been set up.
+constexpr std::uint64_t shortWay = 2048;
+
+// The number of `halfGaps`, counted from the table's known primes, that lead to the entries that follow them.
+std::size_t CountMatches(const PrimeTable& table, std::span<const std::uint8_t> halfGaps) {
+    PrimeTable::Cursor entry(table, table.ConsecutiveCount() - 1);
+    std::uint64_t prime = table.ConsecutiveBack();
+    std::size_t matches = 0;
+    for (const std::uint8_t halfGap : halfGaps) {
+        prime += 2U * std::uint64_t{halfGap};
+        if (!entry.Next() || entry.Value() != prime) {
+            break;
+        }
+        ++matches;
+    }
+    return matches;
+}
+
+// Compares the entries up to BlockSieve::leastStart, or to the end, one by one. Gives false when one is
+// wrong.
+bool VerifyBeginning(PrimeTable& table) {
+    std::uint64_t prime = table.ConsecutiveBack();
+    for (std::int32_t rank = table.ConsecutiveCount(); rank < table.Size() && prime < BlockSieve::leastStart;
+         ++rank) {
+        do {
+            ++prime;
+        } while (!IsPrime(prime));
+        if (table[rank] != prime) {
+            table.NoteOdd();
+            return false;
+        }
+        table.NoteConsecutive(rank + 1);
+    }
+    return true;
+}
+
+// Notes how far the entries agree with the primes of one more window.
+void VerifyWindow(PrimeTable& table, BlockSieve& sieve) {
+    const auto halfGaps = sieve.NextWindow(std::numeric_limits<std::uint64_t>::max());
+    const auto left = static_cast<std::size_t>(table.Size() - table.ConsecutiveCount());
+    const std::size_t expected = std::min(halfGaps.size(), left);
+    const std::size_t matches = CountMatches(table, halfGaps.first(expected));
+    table.NoteConsecutive(table.ConsecutiveCount() + static_cast<std::int32_t>(matches));
+    if (matches < expected) {
+        table.NoteOdd();
+    }
+}
+
+GrowthEnd EndForMemory(RunControl& run) {
+    run.StopFor(RunEnd::OutOfMemory);
+    return GrowthEnd::Stopped;
+}
+
+// Tests the odd numbers behind the last entry up to `end`; ends after `most` new primes.
+GrowthEnd GrowBySingleTests(
+    PrimeTable& table, std::uint64_t end, std::int32_t largestSize, std::int32_t most, RunControl& run) {
+    for (std::uint64_t candidate = table.Back() + 2; candidate <= end && most > 0; candidate += 2) {
+        if (run.MustStop()) {
+            return GrowthEnd::Stopped;
+        }
+        if (!IsPrime(candidate)) {
+            continue;
+        }
+        if (table.Size() >= largestSize) {
+            return GrowthEnd::Full;
+        }
+        if (!table.AppendNextPrime(candidate)) {
+            return EndForMemory(run);
+        }
+        --most;
+    }
+    return GrowthEnd::Reached;
+}
+
+GrowthEnd GrowBySieve(PrimeTable& table, std::uint64_t end, std::int32_t largestSize, RunControl& run) {
+    BlockSieve sieve(table);
+    while (sieve.Reached() < end) {
+        if (run.MustStop()) {
+            return GrowthEnd::Stopped;
+        }
+        const auto halfGaps = sieve.NextWindow(end);
+        const auto room = static_cast<std::size_t>(largestSize - table.Size());
+        const auto fitting = halfGaps.first(std::min(halfGaps.size(), room));
+        if (static_cast<std::size_t>(table.AppendNextPrimes(fitting)) < fitting.size()) {
+            return EndForMemory(run);
+        }
+        if (fitting.size() < halfGaps.size()) {
+            return GrowthEnd::Full;
+        }
+    }
+    return GrowthEnd::Reached;
+}
+
+std::uint64_t ExtendConsecutive(PrimeTable& table, std::uint64_t limit, RunControl& run) {
+    const std::int32_t largestSize = SizeWithinBudget(table, run);
+    const GrowthEnd end = limit == 0 ? GrowBySingleTests(table, std::numeric_limits<std::uint64_t>::max() - 1,
+                                           largestSize, 1, run)
+                                     : GrowConsecutive(table, limit | 1, largestSize,
+                                           run); // the first odd number that isn't below the limit
+    if (end == GrowthEnd::Full) {
+        run.StopFor(RunEnd::OutOfMemory);
+    }
+    return table.Back();
+}
+
+// Before a candidate below 9 there is no division, and so no look at the stop flag: such a candidate, which
+// only a table out of order leads to, needs no verification to be told.
+bool EndsBelowFirstDivision(const PrimeTable& table) {
+    return table.Back() + 2 < 9;
+}
+
+} // namespace
+
+std::int32_t SizeWithinBudget(const PrimeTable& table, RunControl& run) {
+    return std::max(table.SizeWithin(run.ByteCeiling(table.Bytes())), table.Size());
+}
+
+bool VerifyPrimes(PrimeTable& table, std::uint64_t upTo, RunControl& run) {
+    const auto done = [&] {
+        return table.IsConsecutive() || table.IsOdd() || table.ConsecutiveBack() >= upTo;
+    };
+    if (done()) {
+        return true;
+    }
+    if (run.MustStop()) {
+        return false;
+    }
+    if (!VerifyBeginning(table) || done()) {
+        return true;
+    }
+    try {
+        BlockSieve sieve(table);
+        while (!done()) {
+            if (run.MustStop()) {
+                return false;
+            }
+            VerifyWindow(table, sieve);
+        }
+        return true;
+    } catch (const std::bad_alloc&) {
+        run.StopFor(RunEnd::OutOfMemory);
+        return false;
+    }
+}
+
+GrowthEnd GrowConsecutive(PrimeTable& table, std::uint64_t end, std::int32_t largestSize, RunControl& run) {
+    try {
+        std::uint64_t singleEnd = std::min(end, BlockSieve::leastStart + 2);
+        if (table.Back() >= end || end - table.Back() < shortWay) {
+            singleEnd = end;
+        }
+        const auto growth =
+            GrowBySingleTests(table, singleEnd, largestSize, std::numeric_limits<std::int32_t>::max(), run);
+        return growth != GrowthEnd::Reached || singleEnd == end ? growth
+                                                                : GrowBySieve(table, end, largestSize, run);
+    } catch (const std::bad_alloc&) {
+        return EndForMemory(run);
+    }
+}
+
+std::uint64_t NbresPremCalc(PrimeTable& table, std::uint64_t limit, RunControl& run) {
+    if (limit != 0 && limit <= table.Back()) {
+        return table.Back();
+    }
+    if (EndsBelowFirstDivision(table)) {
+        return ExtendByDivision(table, limit, run);
+    }
+    if (!VerifyPrimes(table, std::numeric_limits<std::uint64_t>::max(), run)) {
+        return table.Back();
+    }
+    return table.IsConsecutive() ? ExtendConsecutive(table, limit, run) : ExtendByDivision(table, limit, run);
+}
+
+} // namespace tessarolyne

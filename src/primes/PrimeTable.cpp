@@ -1,0 +1,281 @@
+#include "primes/PrimeTable.h"
+
+#include <algorithm>
+#include <cstring>
+#include <new>
+
+namespace tessarolyne {
+
+namespace {
+
+// The sum of up to 256 bytes, eight at a time in 16-bit lanes, which 32 words of 255 can't overflow.
+std::uint64_t SumOfBytes(const std::uint8_t* bytes, std::size_t count) {
+    constexpr std::uint64_t everySecondByte = 0x00FF00FF00FF00FF;
+    std::uint64_t lanes = 0;
+    std::size_t i = 0;
+    for (; i + 8 <= count; i += 8) {
+        std::uint64_t word = 0;
+        std::memcpy(&word, bytes + i, 8);
+        lanes += (word & everySecondByte) + ((word >> 8) & everySecondByte);
+    }
+    std::uint64_t sum = (lanes * 0x0001000100010001) >> 48;
+    for (; i < count; ++i) {
+        sum += bytes[i];
+    }
+    return sum;
+}
+
+bool FitsAsHalfGap(std::uint64_t from, std::uint64_t to) {
+    return to >= from && to - from <= 510 && (to - from) % 2 == 0;
+}
+
+} // namespace
+
+PrimeTable::PrimeTable(std::pmr::memory_resource* memory) : memory_(memory), chunks_(memory) {}
+
+PrimeTable::~PrimeTable() {
+    Clear();
+}
+
+template <typename T>
+T* PrimeTable::Allocate() {
+    T* object = new (memory_->allocate(sizeof(T), alignof(T))) T;
+    bytes_ += sizeof(T);
+    return object;
+}
+
+template <typename T>
+void PrimeTable::Free(T* object) {
+    memory_->deallocate(object, sizeof(T), alignof(T));
+}
+
+void PrimeTable::Clear() {
+    for (Chunk* chunk : chunks_) {
+        if (chunk->wide != nullptr) {
+            for (WideBlock* block : *chunk->wide) {
+                if (block != nullptr) {
+                    Free(block);
+                }
+            }
+            Free(chunk->wide);
+        }
+        Free(chunk);
+    }
+    chunks_.clear();
+    chunks_.shrink_to_fit();
+    size_ = 0;
+    consecutive_ = 0;
+    odd_ = false;
+    last_ = 0;
+    consecutiveBack_ = 0;
+    bytes_ = 0;
+    lastReached_.store(0, std::memory_order_relaxed);
+}
+
+PrimeTable::WideBlock* PrimeTable::WideBlockAt(std::int32_t rank) const {
+    const Chunk& chunk = *chunks_[static_cast<std::size_t>(rank / chunkEntries)];
+    const auto block = static_cast<std::size_t>(rank % chunkEntries / blockEntries);
+    return chunk.wide == nullptr ? nullptr : (*chunk.wide)[block];
+}
+
+std::uint64_t PrimeTable::operator[](std::int32_t rank) const {
+    const auto place = static_cast<std::size_t>(rank % blockEntries);
+    if (const WideBlock* wide = WideBlockAt(rank)) {
+        return (*wide)[place];
+    }
+    const Chunk& chunk = *chunks_[static_cast<std::size_t>(rank / chunkEntries)];
+    const auto start = static_cast<std::size_t>(rank % chunkEntries) - place;
+    return chunk.firsts[start / blockEntries] + 2 * SumOfBytes(&chunk.halfGaps[start], place + 1);
+}
+
+bool PrimeTable::AddChunk() {
+    try {
+        chunks_.push_back(nullptr);
+        chunks_.back() = Allocate<Chunk>();
+        return true;
+    } catch (const std::bad_alloc&) {
+        if (!chunks_.empty() && chunks_.back() == nullptr) {
+            chunks_.pop_back();
+        }
+        return false;
+    }
+}
+
+// Turns the block of `rank` into one of full values, its entries before `rank` included.
+PrimeTable::WideBlock* PrimeTable::Widen(Chunk& chunk, std::int32_t rank) {
+    try {
+        if (chunk.wide == nullptr) {
+            chunk.wide = Allocate<WideBlocks>();
+            chunk.wide->fill(nullptr);
+        }
+        auto* block = Allocate<WideBlock>();
+        const std::int32_t start = rank - rank % blockEntries;
+        for (std::int32_t i = start; i < rank; ++i) {
+            (*block)[static_cast<std::size_t>(i - start)] = (*this)[i];
+        }
+        (*chunk.wide)[static_cast<std::size_t>(rank % chunkEntries / blockEntries)] = block;
+        return block;
+    } catch (const std::bad_alloc&) {
+        return nullptr;
+    }
+}
+
+bool PrimeTable::Store(std::uint64_t value) {
+    if (size_ == maxSize || (size_ % chunkEntries == 0 && !AddChunk())) {
+        return false;
+    }
+    Chunk& chunk = *chunks_.back();
+    const auto inChunk = static_cast<std::size_t>(size_ % chunkEntries);
+    const auto place = static_cast<std::size_t>(size_ % blockEntries);
+    if (place == 0) {
+        chunk.firsts[inChunk / blockEntries] = value;
+        chunk.halfGaps[inChunk] = 0;
+    } else {
+        WideBlock* wide = WideBlockAt(size_);
+        if (wide == nullptr && !FitsAsHalfGap(last_, value)) {
+            wide = Widen(chunk, size_);
+            if (wide == nullptr) {
+                return false;
+            }
+        }
+        if (wide != nullptr) {
+            (*wide)[place] = value;
+        } else {
+            chunk.halfGaps[inChunk] = static_cast<std::uint8_t>((value - last_) / 2);
+        }
+    }
+    ++size_;
+    last_ = value;
+    return true;
+}
+
+bool PrimeTable::Append(std::uint64_t value) {
+    if (!Store(value)) {
+        return false;
+    }
+    lastReached_.store(value, std::memory_order_relaxed);
+    return true;
+}
+
+bool PrimeTable::AppendNextPrime(std::uint64_t prime) {
+    const bool wasConsecutive = IsConsecutive();
+    if (!Append(prime)) {
+        return false;
+    }
+    if (wasConsecutive) {
+        NoteConsecutive(size_);
+    }
+    return true;
+}
+
+void PrimeTable::NoteConsecutive(std::int32_t count) {
+    consecutive_ = count;
+    consecutiveBack_ = count == 0 ? 0 : count == size_ ? last_ : (*this)[count - 1];
+}
+
+void PrimeTable::AppendWithinBlock(std::span<const std::uint8_t> halfGaps) {
+    std::memcpy(&chunks_.back()->halfGaps[static_cast<std::size_t>(size_ % chunkEntries)], halfGaps.data(),
+        halfGaps.size());
+    last_ += 2 * SumOfBytes(halfGaps.data(), halfGaps.size());
+    size_ += static_cast<std::int32_t>(halfGaps.size());
+}
+
+std::int32_t PrimeTable::AppendByHalfGaps(std::span<const std::uint8_t> halfGaps) {
+    std::size_t done = 0;
+    while (done < halfGaps.size()) {
+        const std::int32_t place = size_ % blockEntries;
+        if (place == 0 || WideBlockAt(size_) != nullptr) {
+            if (!Store(last_ + 2U * std::uint64_t{halfGaps[done]})) {
+                break;
+            }
+            ++done;
+            continue;
+        }
+        const std::int32_t room = std::min(blockEntries - place, maxSize - size_);
+        const auto count = std::min(static_cast<std::size_t>(room), halfGaps.size() - done);
+        if (count == 0) {
+            break;
+        }
+        AppendWithinBlock(halfGaps.subspan(done, count));
+        done += count;
+    }
+    lastReached_.store(last_, std::memory_order_relaxed);
+    return static_cast<std::int32_t>(done);
+}
+
+std::int32_t PrimeTable::AppendNextPrimes(std::span<const std::uint8_t> halfGaps) {
+    const bool wasConsecutive = IsConsecutive();
+    const std::int32_t done = AppendByHalfGaps(halfGaps);
+    if (wasConsecutive) {
+        NoteConsecutive(size_);
+    }
+    return done;
+}
+
+std::int32_t PrimeTable::CopyTo(std::int32_t rank, std::span<std::uint64_t> values) const {
+    std::size_t done = 0;
+    while (done < values.size() && rank < size_) {
+        const std::int32_t inBlock = std::min(blockEntries - rank % blockEntries, size_ - rank);
+        const auto count = std::min(static_cast<std::size_t>(inBlock), values.size() - done);
+        if (const WideBlock* wide = WideBlockAt(rank)) {
+            std::copy_n(wide->begin() + rank % blockEntries, count,
+                values.begin() + static_cast<std::ptrdiff_t>(done));
+        } else {
+            const Chunk& chunk = *chunks_[static_cast<std::size_t>(rank / chunkEntries)];
+            const std::uint8_t* halfGaps = &chunk.halfGaps[static_cast<std::size_t>(rank % chunkEntries)];
+            std::uint64_t value = (*this)[rank];
+            values[done] = value;
+            for (std::size_t i = 1; i < count; ++i) {
+                value += 2U * std::uint64_t{halfGaps[i]};
+                values[done + i] = value;
+            }
+        }
+        done += count;
+        rank += static_cast<std::int32_t>(count);
+    }
+    return static_cast<std::int32_t>(done);
+}
+
+std::int32_t PrimeTable::RankOf(std::uint64_t value) const {
+    std::int32_t low = 0;
+    std::int32_t high = size_ == 0 ? 0 : (size_ - 1) / blockEntries + 1;
+    while (low < high) {
+        const std::int32_t middle = low + (high - low) / 2;
+        if ((*this)[middle * blockEntries] <= value) {
+            low = middle + 1;
+        } else {
+            high = middle;
+        }
+    }
+    if (low == 0) {
+        return -1;
+    }
+    Cursor cursor(*this, (low - 1) * blockEntries);
+    while (cursor.Value() < value && cursor.Next()) {
+    }
+    return cursor.Value() == value ? cursor.Rank() : -1;
+}
+
+std::int32_t PrimeTable::SizeWithin(std::uint64_t bytes) const {
+    const std::uint64_t newChunks = bytes > bytes_ ? (bytes - bytes_) / sizeof(Chunk) : 0;
+    const std::uint64_t entries = (chunks_.size() + newChunks) * std::uint64_t{chunkEntries};
+    return static_cast<std::int32_t>(std::min<std::uint64_t>(entries, maxSize));
+}
+
+PrimeTable::Cursor::Cursor(const PrimeTable& table, std::int32_t rank)
+    : table_(&table), rank_(rank - rank % blockEntries) {
+    EnterBlock();
+    while (rank_ < rank) {
+        Next();
+    }
+}
+
+void PrimeTable::Cursor::EnterBlock() {
+    const Chunk& chunk = *table_->chunks_[static_cast<std::size_t>(rank_ / chunkEntries)];
+    const auto start = static_cast<std::size_t>(rank_ % chunkEntries);
+    halfGaps_ = &chunk.halfGaps[start];
+    wide_ = table_->WideBlockAt(rank_);
+    value_ = wide_ != nullptr ? (*wide_)[0] : chunk.firsts[start / blockEntries];
+}
+
+} // namespace tessarolyne

@@ -1,0 +1,62 @@
+#pragma once
+
+#include "platform/Clock.h"
+#include "platform/MemoryLimits.h"
+
+#include <atomic>
+#include <cstdint>
+#include <optional>
+#include <string_view>
+
+namespace tessarolyne {
+
+// Why a calculation ended.
+enum class RunEnd { Finished, Stopped, OutOfTime, OutOfMemory };
+
+// What the user reads in a message box when RunEnd::OutOfMemory ended a calculation.
+inline constexpr std::string_view outOfMemoryText =
+    "The calculation was ended: there is no memory left for more prime numbers.";
+
+// What may end one calculation before its time: the stop flag, the time budget, the memory budget; and which
+// of them did. One object serves one calculation on one thread; only the flag is shared with other threads.
+class RunControl {
+public:
+    // A calculation without a time limit. All three outlive the object.
+    RunControl(std::atomic<bool>& ArretUrg, const Clock& clock, const MemoryLimits& memory)
+        : stopFlag_(ArretUrg), clock_(clock), memory_(memory) {}
+
+    // A calculation that gives up once the clock's Ticks have passed `TicksFinCalc`.
+    RunControl(std::atomic<bool>& ArretUrg, const Clock& clock, const MemoryLimits& memory,
+        std::int64_t TicksFinCalc)
+        : stopFlag_(ArretUrg), clock_(clock), memory_(memory), ticksFinCalc_(TicksFinCalc) {}
+
+    RunControl(const RunControl&) = delete;
+    RunControl& operator=(const RunControl&) = delete;
+
+    // True when a time limit was given.
+    bool IsTimed() const { return ticksFinCalc_.has_value(); }
+
+    // True when the calculation has to end now. Raises the flag itself when the time is spent.
+    bool MustStop();
+
+    // Raises the flag for `reason`; the first reason stays.
+    void StopFor(RunEnd reason);
+
+    // Why the calculation ended, RunEnd::Finished as long as nothing has stopped it.
+    RunEnd End() const { return end_; }
+
+    // The size in bytes beyond which the calculation must not grow its data: `bytesNow` and half of the
+    // memory available when it is asked for the first time. Later calls repeat that answer, since memory that
+    // the calculation itself has taken must not count twice.
+    std::uint64_t ByteCeiling(std::uint64_t bytesNow);
+
+private:
+    std::atomic<bool>& stopFlag_;
+    const Clock& clock_;
+    const MemoryLimits& memory_;
+    std::optional<std::int64_t> ticksFinCalc_;
+    std::optional<std::uint64_t> byteCeiling_;
+    RunEnd end_ = RunEnd::Finished;
+};
+
+} // namespace tessarolyne

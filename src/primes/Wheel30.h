@@ -1,0 +1,43 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+
+namespace tessarolyne {
+
+// The bit map of the sieve: byte b stands for the numbers from 30 b to 30 b + 29, and its eight bits for
+// those of them that 2, 3 and 5 don't divide.
+namespace Wheel30 {
+
+// Bit k of byte b is the number 30 b + residues[k].
+inline constexpr std::array<std::uint8_t, 8> residues = {1, 7, 11, 13, 17, 19, 23, 29};
+
+// From one residue to the next, the last one to the first of the next byte.
+inline constexpr std::array<std::uint8_t, 8> steps = {6, 4, 2, 4, 2, 4, 6, 2};
+
+// The bit of each residue, 8 where 2, 3 or 5 divides.
+inline constexpr auto bitOfResidue = [] {
+    std::array<std::uint8_t, 30> bits{};
+    bits.fill(8);
+    for (std::uint8_t k = 0; k < 8; ++k) {
+        bits[residues[k]] = k;
+    }
+    return bits;
+}();
+
+// The bits of a byte whose residues are not above `residue`.
+inline constexpr auto bitsUpTo = [] {
+    std::array<std::uint8_t, 30> masks{};
+    for (std::size_t residue = 0; residue < 30; ++residue) {
+        for (std::size_t k = 0; k < 8; ++k) {
+            if (residues[k] <= residue) {
+                masks[residue] = static_cast<std::uint8_t>(masks[residue] | (1U << k));
+            }
+        }
+    }
+    return masks;
+}();
+
+} // namespace Wheel30
+
+} // namespace tessarolyne

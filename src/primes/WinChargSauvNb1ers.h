@@ -1,0 +1,55 @@
+#pragma once
+
+#include "platform/FileSystem.h"
+#include "platform/Label.h"
+#include "platform/ProgressBar.h"
+#include "primes/PrimeFile.h"
+#include "ui/BlockingOverlay.h"
+#include "ui/ModalWindow.h"
+
+#include <cstdint>
+
+namespace tessarolyne {
+
+class WinMain;
+
+// Shows how far the prime file is read or written, and does the one or the other: it lives for one operation,
+// which opens it, reports what went wrong, and closes it. While it is up it is drawn and nobody can stop it.
+class WinChargSauvNb1ers final : public ModalWindow, private PrimeFileProgress {
+public:
+    explicit WinChargSauvNb1ers(Program& program);
+
+    Label StaticTextFormNbre{*this, "StaticTextFormNbre", {20, 7, 360, 20}, lockLeftTop, NoTabStop(0)};
+    ProgressBar ProgressBarNb1ers{*this, "ProgressBarNb1ers", {20, 39, 360, 13}, lockLeftTop, NoTabStop(1)};
+    BlockingOverlay LabBlockUI{*this, fncts, NoTabStop(2)};
+
+    // Reads the bound file into the table; with none, or one that is no good, the table becomes 2, 3, 5, 7.
+    void LoadNb1ers();
+    // Writes the table to the bound file. A file that the user has just chosen takes the place of a link with
+    // ReplaceLink; a file that has been bound for long stays what it is.
+    void SaveNb1ers(LinkPolicy links = LinkPolicy::ReplaceTarget);
+
+    void Event_Open() override;
+    bool Event_CancelClose(bool appQuitting) override;
+
+private:
+    void Expect(std::int64_t maximum) override;
+    void Reach(std::int64_t index) override;
+    void Work() override;
+
+    void Start(const std::string& title);
+    void End();
+    void Draw();
+    bool ReadBoundFile();
+    void AskAboutOtherFile();
+    void Reset();
+    void Write(LinkPolicy links);
+    void CommitWhileDrawing(OutputFile& file);
+    void TellFailure(int beeps, const std::string& message);
+
+    std::int64_t deadline_ = 0; // in ticks, when the window has been up long enough to be seen
+    std::int64_t drawn_ = 0;    // in ticks, when it was drawn last
+    std::int64_t answered_ = 0; // when the window manager was last answered, in ticks
+};
+
+} // namespace tessarolyne

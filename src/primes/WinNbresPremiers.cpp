@@ -1,0 +1,201 @@
+#include "primes/WinNbresPremiers.h"
+
+#include "app/Program.h"
+#include "conversion/NumberFormat.h"
+#include "conversion/WinMain.h"
+#include "platform/Desktop.h"
+#include "platform/Numbers.h"
+#include "platform/Services.h"
+#include "platform/Stage.h"
+#include "platform/Text.h"
+#include "ui/FileItems.h"
+#include "ui/Localisation.h"
+
+#include <algorithm>
+
+namespace tessarolyne {
+
+namespace {
+
+constexpr WindowFrame frame{WindowFrame::Kind::Document, true, true, true, true, 520, 400, 520, 32000};
+
+constexpr int smallestTop = 38; // below a menu bar
+
+// Where the window comes when its stored place is no longer on the screen.
+constexpr int defaultFromRight = 510;
+constexpr int defaultTop = 50;
+constexpr int defaultWidth = 500;
+constexpr int defaultHeight = 540;
+
+constexpr int columns = 6;
+
+bool IsReturn(const std::string& key) {
+    return key == Chr(13) || key == Chr(3);
+}
+
+} // namespace
+
+WinNbresPremiers::WinNbresPremiers(Program& owner)
+    : ProgramWindow(owner, Localisation::WinNbresTitre(), 520, 585, frame),
+      ThreadCalcPrems(owner.services.loop) {
+    SetInitialState();
+    BindEvents();
+}
+
+void WinNbresPremiers::SetInitialState() {
+    PushButtonCalcPrems.Caption = Localisation::Btn_CalcPrems();
+    EditFieldFin.Mask = "999999999999";
+    EditFieldAffDu.Mask = "999999999";
+    EditFieldAffAu.Mask = "999999999";
+    EditFieldAffAu.HelpTag = Localisation::EditFieldAffAu_HT();
+    EditFieldNbNbresLigne.Mask = "999";
+    EditFieldNbNbresLigne.Format = "###";
+    EditFieldNbNbresLigne.HelpTag = Localisation::EdFieldNbNbresLigne_HT();
+    for (TextField* field : {&EditFieldFin, &EditFieldAffDu, &EditFieldAffAu, &EditFieldNbNbresLigne}) {
+        field->TextAlignment = Alignment::Right;
+    }
+    StaticTextAffDu.Text = Localisation::StTextAffDu();
+    StaticTextAffDu.TextAlignment = Alignment::Right;
+    StaticTextAffAu.Text = Localisation::StTextAffAu();
+    StaticTextAffAu.TextAlignment = Alignment::Center;
+    StaticTextEme.Text = Localisation::StTextEme();
+    StaticTextNbNbre1ers.Text = "… Nombres Premiers …";
+    TxtAreaListeNbres1ers.ReadOnly = true;
+    TxtAreaListeNbres1ers.TextSize = 12;
+    TxtAreaListeNbres1ers.TabColumns = columns;
+    PushButtonFichier.Caption = Localisation::Btn_ChoixFich();
+
+    EditFieldFin.AccessibleName = Localisation::Btn_CalcPrems();
+    EditFieldAffDu.AccessibleName = Localisation::StTextAffDu();
+    EditFieldAffAu.AccessibleName = Localisation::StTextAffDu() + " … " + Localisation::StTextAffAu();
+    TxtAreaListeNbres1ers.AccessibleName = Localisation::WinNbresTitre();
+    EditFieldNbNbresLigne.AccessibleName = Localisation::EdFieldNbNbresLigne_HT();
+}
+
+void WinNbresPremiers::BindEvents() {
+    EditFieldFin.KeyDown = [this](const std::string& key) { return EditFieldFin_KeyDown(EditFieldFin, key); };
+    EditFieldAffDu.KeyDown = [this](const std::string& key) {
+        return EditFieldAffDu_KeyDown(EditFieldAffDu, key);
+    };
+    EditFieldAffAu.KeyDown = [this](const std::string& key) {
+        return EditFieldAffAu_KeyDown(EditFieldAffAu, key);
+    };
+    PushButtonCalcPrems.Action = [this] { PushButtonCalcPrems_Action(PushButtonCalcPrems); };
+    PushButtonFichier.Action = [this] { PushButtonFichier_Action(PushButtonFichier); };
+    ThreadCalcPrems.Run = [this] { ThreadCalcPrems_Run(ThreadCalcPrems); };
+    ThreadCalcPrems.Failed = [this](const std::string& reason) {
+        program.winMain().ThreadFailed(WinMain::listRunHasEnded, reason);
+    };
+}
+
+void WinNbresPremiers::Event_Open() {
+    WinMain& main = program.winMain();
+    LabBlockUI.Open();
+    Fncts::DecPosCtrl(*this);
+    ShowBinding();
+    PlaceWindow();
+    main.BevelButtonListe.Value = true;
+    Ind_DerPrem = 0;
+    EditFieldNbNbresLigne.Text = Str(main.NbreNbPparLigne);
+    EditFieldAffDu.Text = "1";
+    EditFieldAffAu.Text = FormatWhole(largestSlice, false);
+    const std::string mask(main.CheckBoxFormatAuto.Value ? groupedMask : plainMask);
+    EditFieldAffDu.Format = mask;
+    EditFieldAffAu.Format = mask;
+    ProgressWheel2.Visible = true;
+    Show();
+    FaireListe(true, true);
+    EditFieldFin.SelStart = 0;
+    EditFieldFin.SelLength = static_cast<int>(Len(EditFieldFin.Text()));
+    EditFieldFin.SetFocus();
+    EditFieldFin.Format = mask;
+    ProgressWheel2.Visible = false;
+}
+
+void WinNbresPremiers::PlaceWindow() {
+    const ScreenSize screen = program.services.stage.Screen();
+    const auto [left, top, width, height] = app.WinNBP;
+    if (left < 0 || top < smallestTop || width < Frame.minWidth || height < Frame.minHeight ||
+        screen.Width < left + width || screen.Height < top + height) {
+        app.WinNBP = {ToInt16(screen.Width - defaultFromRight), defaultTop, defaultWidth, defaultHeight};
+    }
+    Left = app.WinNBP[0];
+    Top = app.WinNBP[1];
+    Resize(app.WinNBP[2], app.WinNBP[3]);
+}
+
+bool WinNbresPremiers::Event_CancelClose(bool appQuitting) {
+    WinMain& main = program.winMain();
+    if (main.CalculEnCours) {
+        main.AskToStopCalculation();
+        return true;
+    }
+    if (appQuitting) {
+        if (!app.DrapOkQuit) {
+            main.TimerQuit.Mode = 1;
+            return true;
+        }
+    } else if (!fncts.DrapMenu) {
+        fncts.Beep();
+        return true;
+    }
+    main.BevelButtonListe.Value = false;
+    KeepSettings();
+    DefNbreNbPparLigne();
+    return false;
+}
+
+void WinNbresPremiers::KeepSettings() {
+    app.WinNBP = {ToInt16(Left()), ToInt16(Top()), ToInt16(Width()), ToInt16(Height())};
+    if (const std::int16_t perLine = ToInt16(Val(EditFieldNbNbresLigne.Text())); perLine != 0) {
+        program.winMain().NbreNbPparLigne = perLine;
+    }
+}
+
+bool WinNbresPremiers::Event_KeyDown(const std::string& key) {
+    program.winMain().StopOnEscape(key);
+    return key != Chr(9);
+}
+
+bool WinNbresPremiers::EditFieldFin_KeyDown(TextField&, const std::string& key) {
+    if (!IsReturn(key)) {
+        return false;
+    }
+    PushButtonCalcPrems.Push();
+    return true;
+}
+
+bool WinNbresPremiers::EditFieldAffDu_KeyDown(TextField&, const std::string& key) {
+    if (!IsReturn(key)) {
+        return false;
+    }
+    FaireListe(true, true);
+    return true;
+}
+
+bool WinNbresPremiers::EditFieldAffAu_KeyDown(TextField&, const std::string& key) {
+    if (!IsReturn(key)) {
+        return false;
+    }
+    FaireListe(true, false);
+    return true;
+}
+
+void WinNbresPremiers::DefNbreNbPparLigne() {
+    std::int16_t& perLine = program.winMain().NbreNbPparLigne;
+    perLine = ToInt16(Val(EditFieldNbNbresLigne.Text()));
+    if (perLine == 0) {
+        perLine = 10;
+        EditFieldNbNbresLigne.Text = "10";
+        fncts.Beep();
+        fncts.MyDialogBox(
+            Localisation::Txt_VsPouvPasMettre0(), "", Localisation::Btn_Ok(), "", "", 1, nullptr);
+    }
+}
+
+void WinNbresPremiers::PushButtonFichier_Action(PushButton&) {
+    Desktop& desktop = program.services.desktop;
+    Btn_Fich(PasNil_Existe_Alias(app.FichNbPrems, true), desktop.OptionKeyIsDown(), desktop.ShiftKeyIsDown());
+}
+
+} // namespace tessarolyne

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "platform/Label.h"
+#include "platform/ProgressWheel.h"
+#include "platform/PushButton.h"
+#include "platform/TextArea.h"
+#include "platform/TextField.h"
+#include "platform/Thread.h"
+#include "ui/BlockingOverlay.h"
+#include "ui/ProgramWindow.h"
+
+#include <cstdint>
+#include <optional>
+#include <string>
+
+namespace tessarolyne {
+
+// The list of primes: a slice of the table that the main window owns, at most 2000 at a time, the run that
+// extends the table up to a limit, and the button to the prime file. The window exists while it is open; it
+// must be asked for only while BevelButtonListe of the main window says so.
+class WinNbresPremiers final : public ProgramWindow {
+public:
+    explicit WinNbresPremiers(Program& program);
+
+    PushButton PushButtonCalcPrems{*this, "PushButtonCalcPrems", {20, 14, 210, 20}, lockLeftTop, TabStop(0)};
+    TextField EditFieldFin{*this, "EditFieldFin", {242, 13, 170, 22}, lockLeftTop, TabStop(1)};
+    ProgressWheel ProgressWheel2{*this, "ProgressWheel2", {484, 14, 16, 16}, lockTopRight, NoTabStop(2)};
+    Label StaticTextAffDu{*this, "StaticTextAffDu", {20, 46, 155, 20}, lockLeftTop, NoTabStop(3)};
+    TextField EditFieldAffDu{*this, "EditFieldAffDu", {181, 45, 120, 22}, lockLeftTop, TabStop(4)};
+    Label StaticTextAffAu{*this, "StaticTextAffAu", {303, 46, 32, 20}, lockLeftTop, NoTabStop(5)};
+    TextField EditFieldAffAu{*this, "EditFieldAffAu", {339, 45, 120, 22}, lockLeftTop, TabStop(6)};
+    Label StaticTextEme{*this, "StaticTextEme", {463, 46, 37, 20}, lockLeftTop, NoTabStop(7)};
+    TextArea TxtAreaListeNbres1ers{*this, "TxtAreaListeNbres1ers", {20, 78, 480, 456}, lockAll, TabStop(8)};
+    Label StaticTextNbNbre1ers{
+        *this, "StaticTextNbNbre1ers", {20, 550, 261, 20}, lockLeftBottom, NoTabStop(9)};
+    TextField EditFieldNbNbresLigne{
+        *this, "EditFieldNbNbresLigne", {313, 549, 45, 22}, lockRightBottom, TabStop(10)};
+    PushButton PushButtonFichier{
+        *this, "PushButtonFichier", {370, 550, 130, 20}, lockRightBottom, TabStop(11)};
+    BlockingOverlay LabBlockUI{*this, fncts, NoTabStop(12)};
+
+    Thread ThreadCalcPrems;
+
+    // How many primes the list shows at most, so that the area is quick to fill.
+    static constexpr std::int32_t largestSlice = 2000;
+
+    // The upper bound of the table when the list was last built, or a run was stopped.
+    std::int32_t Ind_DerPrem = 0;
+
+    // Builds the list again; without `forcer` only if the table has grown. `garderDebut` says which end of
+    // the range stays when it has to be cut to 2000 primes.
+    void FaireListe(bool forcer, bool garderDebut);
+    // Ends a run of this window, on the main thread.
+    void ButtCalcPremsFin();
+    // Takes over the number of primes per line of the file; 0 is refused with a message.
+    void DefNbreNbPparLigne();
+    // Notes the window's place and the primes per line for the preferences, asking nothing.
+    void KeepSettings();
+    // Opens, loads or saves the prime file, as the state of the binding and the two keys decide.
+    void Btn_Fich(bool fichDispo, bool touchOption, bool touchMaj);
+
+    void Event_Open() override;
+    bool Event_CancelClose(bool appQuitting) override;
+    bool Event_KeyDown(const std::string& key) override;
+    bool EditFieldFin_KeyDown(TextField& champ, const std::string& key);
+    bool EditFieldAffDu_KeyDown(TextField& champ, const std::string& key);
+    bool EditFieldAffAu_KeyDown(TextField& champ, const std::string& key);
+    void PushButtonCalcPrems_Action(PushButton& bouton);
+    void PushButtonFichier_Action(PushButton& bouton);
+    void ThreadCalcPrems_Run(Thread& thread);
+
+private:
+    void SetInitialState();
+    void BindEvents();
+    void PlaceWindow();
+    std::string ListText(std::int32_t debut, std::int32_t fin) const;
+    void OpenBoundFile(bool fichDispo);
+    std::optional<FolderItem> ChooseAndLoad();
+    std::optional<FolderItem> ChooseAndSave();
+    void AskToKeepFile();
+    void ShowBinding();
+};
+
+} // namespace tessarolyne

@@ -1,0 +1,91 @@
+#include "ui/Fncts.h"
+
+#include "app/Program.h"
+#include "app/SafeAddress.h"
+#include "conversion/WinMain.h"
+#include "platform/Clock.h"
+#include "platform/Desktop.h"
+#include "platform/EventLoop.h"
+#include "platform/Numbers.h"
+#include "platform/Services.h"
+#include "platform/Text.h"
+#include "ui/FracTexte.h"
+
+namespace tessarolyne {
+
+namespace {
+
+// What the build says of itself: target, bitness, and the version of the tool chain.
+constexpr const char* buildTarget = "Mac INTEL - Cocoa";
+constexpr const char* buildBits = " 64-bit";
+constexpr const char* buildToolVersion = "2018r2";
+
+constexpr int ticksBetweenBeeps = 10;
+
+} // namespace
+
+void Fncts::Beep() {
+    program_.services.sounds.Beep();
+}
+
+void Fncts::BeepNbT(int nombre) {
+    for (int beep = 1; beep <= nombre; ++beep) {
+        if (beep > 1) {
+            Pause(ticksBetweenBeeps, false);
+        }
+        Beep();
+    }
+}
+
+void Fncts::Pause(int ticks, bool doEvents) {
+    if (doEvents) {
+        MsgBox("Error ! Please contact the authors, Fncts - Pause should no longer use App.DoEvents !");
+    }
+    Clock& clock = program_.services.clock;
+    const std::int64_t end = clock.Ticks() + ticks;
+    program_.services.loop.WaitUntil([&] { return clock.Ticks() >= end; });
+}
+
+void Fncts::PlayT(Sound& son, bool attendre) {
+    Sound clone = son.Clone();
+    Sound& played = son.IsPlaying() ? clone : son;
+    played.Play(program_.services.sounds);
+    if (attendre) {
+        program_.services.loop.WaitUntil([&] { return !played.IsPlaying(); });
+    }
+}
+
+void Fncts::PressPapTxt(const std::string& texte) {
+    program_.services.desktop.SetClipboardText(texte);
+}
+
+void Fncts::ShowURL(const std::string& adresse) {
+    if (!IsSafeOwnAddress(adresse) || !program_.services.desktop.OpenAddress(adresse)) {
+        MsgBox(adresse);
+    }
+}
+
+std::string Fncts::TypeCompil() {
+    return std::string(buildTarget) + buildBits + " (" + buildToolVersion + ")";
+}
+
+std::string Fncts::FracTexte(const std::string& texte, int partie) {
+    if (auto piece = TextPiece(texte, partie)) {
+        return *piece;
+    }
+    const std::string eol(endOfLine);
+    MsgBox("Error ! Please contact the authors." + eol + "FracTexte. Partie = " + Str(partie) + eol + " " +
+           eol + texte);
+    return {};
+}
+
+void Fncts::RestoreDrapMenu(bool found) {
+    DrapMenu = found && !program_.winMain().CalculationHoldsMenu();
+}
+
+void Fncts::Diagnose(const std::string& place) {
+    const std::string eol(endOfLine);
+    MsgBox("Error !" + eol + "Please contact the authors." + eol + place);
+}
+
+} // namespace tessarolyne

@@ -1,0 +1,113 @@
+#pragma once
+
+#include "platform/FolderItem.h"
+#include "platform/Sound.h"
+
+#include <atomic>
+#include <optional>
+#include <string>
+#include <string_view>
+
+namespace tessarolyne {
+
+class Program;
+struct FileDialog;
+class Window;
+
+// What the buttons of a message say when the pointer rests on them; empty for nothing.
+struct DialogHelpTags {
+    std::string action = {};
+    std::string cancel = {};
+    std::string alternate = {};
+};
+
+// The flags and small services that all windows share: questions and messages, beeps and sounds, the
+// clipboard, and the freezing of commands while something else goes on.
+class Fncts {
+public:
+    explicit Fncts(Program& program) : program_(program) {}
+
+    // Commands may be used: no calculation, dialog, load or save is under way.
+    bool DrapMenu = false;
+    // Every running calculation stops at its next look. Raised by the main thread and by a time limit, read
+    // by whichever thread computes.
+    std::atomic<bool> ArretUrg = false;
+    // One of the dialogs below is up.
+    bool DrapDiagBox = false;
+    // The update check reports every outcome, not only a new version.
+    bool AlertVerAjour = false;
+    // The update check's result until it has been dealt with.
+    std::string TexteVerMaJ;
+    // The encoding of all text files that the program reads and writes.
+    std::string DefAppEncod;
+
+    // What a copy button plays, and what a stop does.
+    Sound Bip{"Bip.wav"};
+    Sound Zoum{"Zoum.wav"};
+
+    // Asks, and gives 1 for the action button, 2 for cancel, 3 for the alternate button, 0 for no answer. An
+    // empty caption means no such button. `icone` is 0 for a note and 1 for a warning.
+    int MyDialogBox(const std::string& message, const std::string& explication,
+        const std::string& boutonAction, const std::string& boutonAnnuler, const std::string& boutonAutre,
+        int icone, Window* fenetre, const DialogHelpTags& bulles = {});
+
+    // Hands an address to the desktop without waiting. One that isn't safe to hand on, or that nothing takes,
+    // is shown to the user instead, to copy or not.
+    void ShowURL(const std::string& adresse);
+
+    // Deals with what the update check fetched into TexteVerMaJ: tells the user what is to be told, in the
+    // texts and captions that are handed in. True: the program is busy, nothing was done, call again later.
+    bool VrfVerMaJ(const std::string& shortVersion, const std::string& txtAJour, const std::string& txtNouv,
+        const std::string& txtImpo, const std::string& btnOk, const std::string& btnHistoric,
+        const std::string& btnSiteWeb, const std::string& btnFermer);
+
+    // Choosers of an existing file, and of a file to save. They begin in `depart` if it is a folder, else in
+    // its parent, else in the user's documents; a save suggests the name of a `depart` that is no folder,
+    // else `nomPropose`. Nil when the user cancels. A chosen alias comes as itself.
+    std::optional<FolderItem> MyDialogLoad(const std::optional<FolderItem>& depart, const std::string& invite,
+        const std::string& filtre, Window* fenetre);
+    std::optional<FolderItem> MyDialogSave(const std::optional<FolderItem>& depart, const std::string& invite,
+        const std::string& filtre, const std::string& nomPropose, Window* fenetre);
+
+    // Shows a fixed English diagnostic.
+    void MsgBox(const std::string& texte);
+
+    // The system's alert sound.
+    void Beep();
+    // `nombre` beeps, ten ticks apart; none for 0 or less.
+    void BeepNbT(int nombre);
+    // Waits that many ticks. `doEvents` is a fault of the caller.
+    void Pause(int ticks, bool doEvents);
+    // Plays the sound, also when it is playing already; with `attendre` returns when it has ended.
+    void PlayT(Sound& son, bool attendre);
+    // Puts the text on the clipboard.
+    void PressPapTxt(const std::string& texte);
+
+    // What the program was built for and with.
+    static std::string TypeCompil();
+
+    // The `partie`-th piece, from 1, of a text cut at its "¿%" marks. A piece that isn't there is reported,
+    // and empty.
+    std::string FracTexte(const std::string& texte, int partie);
+
+    // Covers (or with `montrer` false uncovers) all visible windows but `fenetre` with their overlays. True
+    // if they were covered, that is if `fenetre` can hold a sheet.
+    bool CtrlDsFenetrDiag(Window* fenetre, bool montrer);
+
+    // Moves each control of the window by the small amount that its class needs to stand in line.
+    static void DecPosCtrl(Window& fenetre);
+
+    // Gives DrapMenu the value that was found before; never true while a calculation keeps it down.
+    void RestoreDrapMenu(bool found);
+
+private:
+    class DialogProtocol;
+
+    std::optional<FolderItem> ChooseItem(
+        FileDialog dialog, const std::optional<FolderItem>& depart, Window* fenetre, bool toSave);
+    void Diagnose(const std::string& place);
+
+    Program& program_;
+};
+
+} // namespace tessarolyne

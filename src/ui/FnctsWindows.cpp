@@ -1,0 +1,86 @@
+#include "ui/Fncts.h"
+
+#include "app/Program.h"
+#include "platform/Label.h"
+#include "platform/TextField.h"
+#include "ui/BlockingOverlay.h"
+
+#include <vector>
+
+namespace tessarolyne {
+
+namespace {
+
+constexpr int restingSize = 16;
+
+std::vector<Control*> Overlays(const Window& window) {
+    std::vector<Control*> found;
+    for (Control* control : window.Controls()) {
+        if (control->Name == BlockingOverlay::overlayName) {
+            found.push_back(control);
+        }
+    }
+    return found;
+}
+
+void Spread(Control& overlay, const Window& window) {
+    overlay.Visible = true;
+    overlay.Top = 0;
+    overlay.Left = 0;
+    overlay.Width = window.Width();
+    overlay.Height = window.Height();
+}
+
+} // namespace
+
+bool Fncts::CtrlDsFenetrDiag(Window* fenetre, bool montrer) {
+    if (montrer && (fenetre == nullptr || !fenetre->Visible())) {
+        return false;
+    }
+    const auto windows = program_.app.Windows();
+    for (auto place = windows.rbegin(); place != windows.rend(); ++place) {
+        Window& window = **place;
+        if (!window.Visible() || &window == fenetre) {
+            continue;
+        }
+        const auto overlays = Overlays(window);
+        if (!montrer) {
+            for (Control* overlay : overlays) {
+                overlay->Visible = false;
+                overlay->Width = restingSize;
+                overlay->Height = restingSize;
+                overlay->LockRight = false;
+                overlay->LockBottom = false;
+            }
+            continue;
+        }
+        if (overlays.empty()) {
+            Diagnose("CtrlDsFenetrDiag, there is not 'LabBlockUI' in window '" + window.Title() + "'");
+            continue;
+        }
+        Control& overlay = *overlays.front();
+        Spread(overlay, window);
+        if (!overlay.LockLeft() || !overlay.LockTop()) {
+            Diagnose("CtrlDsFenetrDiag, 'LabBlockUI' should be Lock Left and Lock Top");
+            overlay.LockLeft = true;
+            overlay.LockTop = true;
+        }
+        overlay.LockRight = true;
+        overlay.LockBottom = true;
+        if (overlays.size() > 1) {
+            Diagnose(
+                "CtrlDsFenetrDiag, there is more than one 'LabBlockUI' in window '" + window.Title() + "'");
+        }
+    }
+    return montrer;
+}
+
+void Fncts::DecPosCtrl(Window& fenetre) {
+    for (Control* control : fenetre.Controls()) {
+        if (dynamic_cast<TextField*>(control) != nullptr) {
+            control->Top = control->Top() - 1;
+        }
+    }
+}
+
+} // namespace tessarolyne

@@ -1,0 +1,62 @@
+#include "ui/WinPrefs.h"
+
+#include "app/Program.h"
+#include "conversion/WinMain.h"
+#include "platform/Services.h"
+#include "platform/Stage.h"
+#include "ui/Localisation.h"
+
+#include <algorithm>
+
+namespace tessarolyne {
+
+namespace {
+
+constexpr int belowMainWindowsTop = 30;
+
+WindowFrame PreferencesFrame() {
+    WindowFrame frame;
+    frame.kind = WindowFrame::Kind::MovableModal;
+    frame.minimizeButton = false;
+    return frame;
+}
+
+} // namespace
+
+WinPrefs::WinPrefs(Program& owner)
+    : ModalWindow(owner, Localisation::WinPref_Title(), 400, 99, PreferencesFrame()) {
+    CheckBoxAutoUpdt.Caption = Localisation::Pref_ChBoxAutoUpdt();
+    PushButtAnnuler.Caption = Localisation::Btn_Annuler();
+    PushButtAnnuler.Cancel = true;
+    PushButtAnnuler.Action = [this] { PushButtAnnuler_Action(PushButtAnnuler); };
+    PushButtOk.Caption = Localisation::Btn_Ok();
+    PushButtOk.Default = true;
+    PushButtOk.Action = [this] { PushButtOk_Action(PushButtOk); };
+}
+
+// On a screen narrower than the window its right edge stays in sight.
+void WinPrefs::Event_Open() {
+    LabBlockUI.Open();
+    Fncts::DecPosCtrl(*this);
+    const WinMain& main = program.winMain();
+    const int centred = main.Left() + (main.Width() - Width()) / 2;
+    Top = main.Top() + belowMainWindowsTop;
+    Left = std::min(std::max(centred, 0), program.services.stage.Screen().Width - Width());
+    OpenModal();
+    CheckBoxAutoUpdt.Value = app.AutoCheckUpdt;
+}
+
+bool WinPrefs::Event_CancelClose(bool) {
+    return RefuseClose();
+}
+
+void WinPrefs::PushButtOk_Action(PushButton&) {
+    app.AutoCheckUpdt = CheckBoxAutoUpdt.Value;
+    EndModal();
+}
+
+void WinPrefs::PushButtAnnuler_Action(PushButton&) {
+    EndModal();
+}
+
+} // namespace tessarolyne

@@ -1,0 +1,141 @@
+#include "conversion/BaseConversion.h"
+
+#include <doctest/doctest.h>
+
+#include <algorithm>
+#include <cctype>
+#include <cstdint>
+#include <random>
+#include <string>
+
+using namespace tessarolyne;
+
+namespace {
+
+const ErrorTexts errors{"#Erreur Nbre !", "#Erreur Base !"};
+constexpr const char* largest = "18446744073709551615";
+
+std::string Convert(std::string_view nombre, int from, int to, std::string_view alphabet = alphabet09AZ) {
+    return ConvNbreBase(nombre, from, to, alphabet, errors);
+}
+
+// The digits by counting how often each power of the base goes in, from the highest down.
+std::string SlowDigits(std::uint64_t value, unsigned base, std::string_view alphabet) {
+    if (base == 10) {
+        return std::to_string(value);
+    }
+    std::uint64_t power = 1;
+    while (value / power >= base) {
+        power *= base;
+    }
+    std::string digits;
+    for (; power > 0; power /= base) {
+        std::size_t digit = 0;
+        for (; value >= power; value -= power) {
+            ++digit;
+        }
+        digits += alphabet[digit];
+    }
+    return digits;
+}
+
+} // namespace
+
+TEST_CASE("Known numbers in known bases, in both alphabets") {
+    CHECK(Convert("255", 10, 16) == "FF");
+    CHECK(Convert("255", 10, 16, alphabetAZ09) == "PP");
+    CHECK(Convert("255", 10, 2) == "11111111");
+    CHECK(Convert("0", 10, 16) == "0");
+    CHECK(Convert("0", 10, 16, alphabetAZ09) == "A");
+    CHECK(Convert("ff", 16, 10) == "255");
+    CHECK(Convert("Pp", 16, 10, alphabetAZ09) == "255");
+    CHECK(Convert("ZZ", 36, 10) == "1295");
+    CHECK(Convert("99", 36, 10, alphabetAZ09) == "1295");
+    CHECK(Convert("42", 10, 10, alphabetAZ09) == "42");
+    CHECK(Convert("999999999999", 10, 16) == "E8D4A50FFF");
+    CHECK(Convert("", 16, 10) == "0");
+    CHECK(Convert("", 10, 16) == errors.errNbre);
+}
+
+TEST_CASE("Every value up to 64 bits goes between every two bases and back as slow counting says") {
+    std::mt19937_64 random(6);
+    for (unsigned from = 2; from <= 36; ++from) {
+        for (unsigned to = 2; to <= 36; ++to) {
+            const std::string_view alphabet = random() % 2 == 0 ? alphabet09AZ : alphabetAZ09;
+            // In base 10 a value is read through a double, exact up to 2 to the power 53.
+            const std::uint64_t limit = std::uint64_t{1} << (from == 10 ? 53 : 63);
+            for (const std::uint64_t value : {std::uint64_t{0}, std::uint64_t{1}, std::uint64_t{from},
+                     std::uint64_t{to}, std::uint64_t{999999999999}, (std::uint64_t{1} << 53) - 1, limit,
+                     random() % 1000000000000, random() % limit}) {
+                CAPTURE(value);
+                std::string digits = SlowDigits(value, from, alphabet);
+                if (random() % 2 == 0) {
+                    std::transform(digits.begin(), digits.end(), digits.begin(),
+                        [](char c) { return static_cast<char>(std::tolower(c)); });
+                }
+                REQUIRE(Convert(digits, static_cast<int>(from), static_cast<int>(to), alphabet) ==
+                        SlowDigits(value, to, alphabet));
+            }
+        }
+    }
+}
+
+TEST_CASE("A base outside the alphabet is an error before anything else") {
+    for (const int bad : {-32768, -1, 0, 1, 37, 32767}) {
+        CHECK(Convert("x", bad, 10) == errors.errBase);
+        CHECK(Convert("x", 10, bad) == errors.errBase);
+    }
+    CHECK(Convert("1", 10, 4, "0123") == errors.errBase);
+    CHECK(Convert("3", 4, 2, "0123") == "11");
+    CHECK(Convert("éÀa", 3, 2, "Aàé") == "àAàAà");
+    CHECK(Convert("bAb", 3, 2, "aBA") == "BaBa"); // of two equal digits the first counts
+    CHECK(Convert("1", 2, 2, "") == errors.errBase);
+}
+
+TEST_CASE("A character outside the base makes the number bad wherever it stands") {
+    const std::string full(100, 'F');
+    for (const std::string& bad : {std::string("G"), std::string("1G"), std::string("-1"), std::string("1 0"),
+             full + "G", "g" + full, std::string("1.5"), std::string("1\0", 2), std::string("1\u0301"),
+             std::string("😀"), std::string("1\xC3"), std::string("１")}) {
+        CAPTURE(bad);
+        CHECK(Convert(bad, 16, 10) == errors.errNbre);
+        CHECK(Convert(bad, 16, 2) == errors.errNbre);
+    }
+    CHECK(Convert("ı", 36, 10) == errors.errNbre);
+    CHECK(Convert("2", 2, 10) == errors.errNbre);
+    CHECK(Convert("C", 2, 10, alphabetAZ09) == errors.errNbre);
+}
+
+TEST_CASE("In base 10 anything numeric is read and its fraction cut off") {
+    CHECK(Convert("12.7", 10, 10) == "12");
+    CHECK(Convert("1e3", 10, 10) == "1000");
+    CHECK(Convert("1 000", 10, 10) == "1000");
+    CHECK(Convert("-0.9", 10, 10) == "0");
+    CHECK(Convert("1,5", 10, 10) == errors.errNbre);
+    CHECK(Convert("FF", 10, 10) == errors.errNbre);
+}
+
+TEST_CASE("A value that doesn't fit or is negative is the largest that does") {
+    CHECK(Convert("FFFFFFFFFFFFFFFF", 16, 10) == largest);
+    CHECK(Convert("FFFFFFFFFFFFFFFE", 16, 10) == "18446744073709551614");
+    CHECK(Convert("10000000000000000", 16, 10) == largest);
+    CHECK(Convert("3W5E11264SGSF", 36, 10) == largest);
+    CHECK(Convert("3W5E11264SGSG", 36, 10) == largest);
+    CHECK(Convert("ZZZZZZZZZZZZZ0", 36, 16) == "FFFFFFFFFFFFFFFF");
+    for (const char* text : {"-1", "-1.5", "-1e300", "18446744073709551616", "1e300", "1e9999"}) {
+        CAPTURE(text);
+        CHECK(Convert(text, 10, 10) == largest);
+    }
+}
+
+TEST_CASE("A megabyte of anything is answered") {
+    constexpr std::size_t megabyte = 1 << 20;
+    const std::string ones(megabyte, '1');
+    const std::string zeros(megabyte, '0');
+    for (int base = 2; base <= 36; base += 2) {
+        CHECK(Convert(ones, base, 10) == largest);
+        CHECK(Convert(zeros + "10", base, 10) == std::to_string(base));
+        CHECK(Convert(ones + "!", base, 10) == errors.errNbre);
+    }
+    CHECK(Convert(std::string(megabyte, '\xF0'), 16, 2) == errors.errNbre);
+}

@@ -1,0 +1,125 @@
+#include "platform/MenuBar.h"
+#include "platform/Text.h"
+#include "primes/WinNbresPremiers.h"
+#include "support/TestWorld.h"
+
+#include <doctest/doctest.h>
+
+#include <algorithm>
+
+using namespace tessarolyne;
+using namespace tessarolyne::tests;
+
+namespace {
+
+std::vector<std::string> Disabled(const Window& window) {
+    std::vector<std::string> names;
+    for (const Control* control : window.Controls()) {
+        if (!control->Enabled()) {
+            names.push_back(control->Name);
+        }
+    }
+    std::sort(names.begin(), names.end());
+    return names;
+}
+
+} // namespace
+
+TEST_CASE("At rest after the start nothing runs and nothing waits") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    CHECK(Disabled(window) == std::vector<std::string>{"PushButtDecomposer"});
+    CHECK_FALSE(window.ProgressWheel1.Visible());
+    for (int member : {0, 1}) {
+        CHECK_FALSE(window.LabBlockUI[member].Visible());
+    }
+    for (const Timer* timer :
+        {&window.TimerTempo, &window.TimerQuit, &window.TimerThr, &window.TimerVerMaJ}) {
+        CHECK(timer->Mode == 0);
+    }
+    CHECK(window.PopupMenuBaseOrg.Rows().size() == 35);
+    CHECK(window.PopupMenuBaseOrg.Text() == "en base 16");
+    CHECK(window.PopupMenuBaseDest.Text() == "en base 2");
+    CHECK(window.StaticTextEnBase10.Text() == "en base 10");
+    CHECK(window.EditFieldNbre.HasFocus());
+    CHECK(window.FocusNbre);
+}
+
+TEST_CASE("Tab visits the starred controls in their order") {
+    TestWorld world;
+    std::vector<std::string> names;
+    for (const Control* control : world.Main().TabOrder(true)) {
+        names.push_back(control->Name);
+    }
+    CHECK(names == std::vector<std::string>{"EditFieldNbre", "EditFieldBaseOrg", "EditFieldMonnaies",
+                       "EditFieldMonnaie", "EditFieldCentimes", "EditFieldCentime", "CheckBoxMajusc",
+                       "PopupMenuLg", "CheckBoxTrUnion"});
+}
+
+TEST_CASE("A calculation disables what could disturb it, and nothing else") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    window.BevelButtonListe.UserPressed();
+    WinNbresPremiers& list = world.program->winNbresPremiers();
+    world.program->fncts.DrapMenu = false;
+    window.EnableMenuBoutons();
+    CHECK(Disabled(window).size() == 21);
+    for (const Control* control : std::initializer_list<Control*>{&window.EditFieldNbre,
+             &window.EditFieldBaseOrg, &window.GroupBox1, &window.StaticTextEnBase10}) {
+        CHECK(control->Enabled());
+    }
+    CHECK(Disabled(list) == std::vector<std::string>{"EditFieldAffAu", "EditFieldAffDu", "EditFieldFin",
+                                "EditFieldNbNbresLigne", "PushButtonCalcPrems", "PushButtonFichier",
+                                "TxtAreaListeNbres1ers"});
+    world.program->fncts.DrapMenu = true;
+    window.EnableMenuBoutons();
+    CHECK(Disabled(window) == std::vector<std::string>{"PushButtDecomposer"});
+    CHECK(Disabled(list).empty());
+}
+
+TEST_CASE("A shortcut whose command is off does nothing; quitting is never off") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    const MenuBar& menus = *world.program->app.GetMenuBar();
+    world.program->fncts.DrapMenu = false;
+    for (const char* name : {"FichChoixFichNbP", "FichSauvFichNbP", "AppleAPropos", "AppleVMaJ", "AppleDon",
+             "ApplePrefs", "AideAide"}) {
+        CAPTURE(name);
+        menus.Find(name)->UserChose(world.program->app); // a dialog would fail the test
+        CHECK_FALSE(menus.Find(name)->Enabled());
+        CHECK(menus.Find(name)->Action());
+    }
+    CHECK_FALSE(window.BevelButtonListe.Value());
+    CHECK(world.http.requests.empty());
+    menus.Find("FichierQuitter")->UserChose(world.program->app);
+    world.loop.Advance(50);
+    CHECK(world.loop.ExitCode() == 0);
+}
+
+TEST_CASE("The copy buttons copy what is shown, groups and errors included") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    world.Type(window.EditFieldNbre, "4660");
+    window.PushButtonPressPapBOrg.UserPressed();
+    CHECK(world.desktop.clipboard == "12 34");
+    window.PushButtonPressPapBDest.UserPressed();
+    CHECK(world.desktop.clipboard == "1 0010 0011 0100");
+    window.PushButtonPressPapPrem.UserPressed();
+    CHECK(world.desktop.clipboard == "2 x 2 x 5 x 233");
+    world.Type(window.EditFieldNbre, "1.5");
+    window.PushButtonPressPapBOrg.UserPressed();
+    CHECK(world.desktop.clipboard == "#Erreur Nbre !");
+    CHECK(world.sounds.played == std::vector<std::string>(4, "Bip.wav"));
+}
+
+TEST_CASE("The list button shows whether the list is open, and opens and closes it") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    window.BevelButtonListe.UserPressed();
+    CHECK(window.BevelButtonListe.Value());
+    CHECK(world.stage.Count<WinNbresPremiers>() == 1);
+    window.BevelButtonListe.UserPressed();
+    CHECK_FALSE(window.BevelButtonListe.Value());
+    world.loop.Advance(1);
+    CHECK(world.program->app.Windows().size() == 1);
+}

@@ -1,0 +1,68 @@
+#include "primes/WinNbresPremiers.h"
+#include "support/TestWorld.h"
+
+#include <doctest/doctest.h>
+
+using namespace tessarolyne;
+using namespace tessarolyne::tests;
+
+TEST_CASE("The switch brings what is on the screen into line, in both directions, but for the edited field") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    world.Type(window.EditFieldNbre, "1234567");
+    const std::string words = window.TxtAreaLettres.Text;
+    CHECK(window.EditFieldBaseOrg.Text() == "12 D6 87");
+    window.CheckBoxFormatAuto.UserPressed();
+    world.Settle();
+    CHECK(window.EditFieldNbre.Text() == "1234567");
+    CHECK(window.EditFieldBaseOrg.Text() == "12D687");
+    CHECK(window.EditFieldBaseDest.Text() == "100101101011010000111");
+    CHECK(window.TxtAreaDecomp1er.Text() == "127 x 9721");
+    window.CheckBoxFormatAuto.UserPressed();
+    world.Settle();
+    CHECK(window.EditFieldNbre.Text() == "1234567"); // it has the focus
+    CHECK(window.EditFieldBaseOrg.Text() == "12 D6 87");
+    window.CheckBoxFormatAuto.UserPressed();
+    world.Settle();
+    window.EditFieldMonnaie.UserFocused();
+    CHECK(window.EditFieldNbre.Text() == "1234567");
+    window.CheckBoxFormatAuto.UserPressed();
+    world.Settle();
+    CHECK(window.EditFieldNbre.Text() == "1 234 567");
+    CHECK(window.EditFieldBaseOrg.Text() == "12 D6 87");
+    CHECK(window.EditFieldBaseDest.Text() == "1 0010 1101 0110 1000 0111");
+    CHECK(window.TxtAreaDecomp1er.Text() == "127 x 9 721");
+    CHECK(window.TxtAreaLettres.Text() == words);
+    CHECK(window.TimerTempo.Mode == 0);
+    CHECK(window.DrapTimerNbre);
+    CHECK(world.program->app.initProg);
+}
+
+TEST_CASE("The switch leaves errors and empty fields alone") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    window.CheckBoxFormatAuto.UserPressed();
+    CHECK(window.EditFieldBaseDest.Text().empty());
+    CHECK(window.TxtAreaDecomp1er.Text().empty());
+    world.Type(window.EditFieldNbre, "1234.5");
+    window.EditFieldMonnaie.UserFocused();
+    CHECK(window.EditFieldNbre.Text() == "1234.50");
+    window.CheckBoxFormatAuto.UserPressed();
+    CHECK(window.EditFieldNbre.Text() == "1 234.50");
+    CHECK(window.EditFieldBaseOrg.Text() == "#Erreur Nbre !");
+    CHECK(window.EditFieldBaseDest.Text() == "#Erreur Nbre !");
+}
+
+TEST_CASE("The list window's numbers follow the switch; a field shows the bare number while it is edited") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    window.NbresPremCalc(20000, false);
+    window.BevelButtonListe.UserPressed();
+    WinNbresPremiers& list = world.program->winNbresPremiers();
+    CHECK(list.EditFieldAffAu.DisplayText() == "2 000");
+    CHECK(list.EditFieldFin.HasFocus());
+    CHECK(list.EditFieldFin.DisplayText() == "19997");
+    window.CheckBoxFormatAuto.UserPressed();
+    CHECK(list.EditFieldAffAu.DisplayText() == "2000");
+    CHECK(list.EditFieldAffAu.Text() == "2000");
+}

@@ -1,0 +1,186 @@
+#include "platform/Text.h"
+#include "support/TestWorld.h"
+#include "ui/Localisation.h"
+
+#include <doctest/doctest.h>
+
+using namespace tessarolyne;
+using namespace tessarolyne::tests;
+
+namespace {
+
+const std::string errNbre = "#Erreur Nbre !";
+
+} // namespace
+
+TEST_CASE("A number typed in decimal stands in both bases before the next key") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    world.Type(window.EditFieldNbre, "255");
+    CHECK(window.EditFieldBaseOrg.Text() == "FF");
+    CHECK(window.EditFieldBaseDest.Text() == "1111 1111");
+    CHECK(window.DrapTimerNbre);
+    world.Type(window.EditFieldNbre, "");
+    CHECK(window.EditFieldBaseOrg.Text().empty());
+    CHECK(window.EditFieldBaseDest.Text().empty());
+    CHECK(window.TxtAreaDecomp1er.Text().empty());
+    CHECK(window.TxtAreaLettres.Text().empty());
+}
+
+TEST_CASE("Digits typed in the source base, of either case, give the decimal number") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    world.Type(window.EditFieldBaseOrg, "1ff");
+    CHECK(window.EditFieldNbre.Text() == "511");
+    CHECK(window.EditFieldBaseDest.Text() == "1 1111 1111");
+    CHECK(window.EditFieldBaseOrg.Text() == "1ff");
+    CHECK_FALSE(window.DrapTimerNbre);
+    window.EditFieldNbre.UserFocused();
+    CHECK(window.EditFieldBaseOrg.Text() == "1 ff");
+}
+
+TEST_CASE("What isn't a whole number within the limit is refused in place, and the source text stays") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    const int beeps = world.sounds.beeps;
+
+    SUBCASE("a fraction, without a beep") {
+        world.Type(window.EditFieldNbre, "12,5");
+        CHECK(window.EditFieldNbre.Text() == "12.5");
+        CHECK(window.EditFieldBaseOrg.Text() == errNbre);
+        CHECK(window.EditFieldBaseDest.Text() == errNbre);
+        CHECK(window.TxtAreaDecomp1er.Text() == errNbre);
+        CHECK(world.sounds.beeps == beeps);
+    }
+    SUBCASE("a decimal number above the limit") {
+        world.Type(window.EditFieldNbre, "999999999999.01");
+        CHECK(window.EditFieldBaseOrg.Text() == errNbre);
+        CHECK(window.EditFieldBaseDest.Text() == errNbre);
+        CHECK(world.sounds.beeps == beeps + 1);
+    }
+    SUBCASE("digits above the limit") {
+        world.Type(window.EditFieldBaseOrg, "E8D4A51000"); // the limit and one
+        CHECK(window.EditFieldNbre.Text() == "Plus grand nombre possible = 999 999 999 999");
+        CHECK(window.EditFieldBaseOrg.Text() == "E8D4A51000");
+        CHECK(window.EditFieldBaseDest.Text() == errNbre);
+        CHECK(window.TxtAreaLettres.Text() == errNbre);
+        CHECK(world.sounds.beeps == beeps + 1);
+    }
+    SUBCASE("a character outside the base") {
+        world.Type(window.EditFieldBaseOrg, "g");
+        CHECK(window.EditFieldNbre.Text() == errNbre);
+        CHECK(window.TxtAreaDecomp1er.Text() == errNbre);
+        CHECK(world.sounds.beeps == beeps + 1);
+        world.Type(window.EditFieldNbre, "7"); // replaces the message
+        CHECK(window.EditFieldBaseOrg.Text() == "7");
+    }
+    SUBCASE("the limit itself passes") {
+        world.Type(window.EditFieldNbre, "999999999999");
+        CHECK(window.EditFieldBaseOrg.Text() == "E8 D4 A5 0F FF");
+        CHECK(world.sounds.beeps == beeps);
+    }
+}
+
+TEST_CASE("A field shows the bare number while it is edited and its groups when it is left") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    world.Type(window.EditFieldNbre, "1234567.5");
+    window.EditFieldBaseOrg.UserFocused();
+    CHECK(window.EditFieldNbre.Text() == "1 234 567.50");
+    CHECK(window.EditFieldBaseOrg.Text() == errNbre);
+    CHECK(window.TimerTempo.Mode == 0);
+    window.EditFieldNbre.UserFocused();
+    CHECK(window.EditFieldNbre.Text() == "1234567.50");
+    CHECK(window.EditFieldNbre.SelStart() == 10);
+    CHECK(window.EditFieldBaseOrg.Text() == errNbre);
+}
+
+TEST_CASE("A burst of keys costs one recalculation, and the same text none") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    int conversions = 0;
+    window.EditFieldBaseDest.TextChange = [&] { ++conversions; };
+    window.EditFieldNbre.UserFocused();
+    for (const char* key : {"1", "2", "3"}) {
+        window.EditFieldNbre.UserTyped(key);
+    }
+    CHECK(window.TimerTempo.Mode == 1);
+    world.Settle();
+    CHECK(conversions == 1);
+    CHECK(window.TimerTempo.Mode == 0);
+    window.EditFieldNbre.UserReplaced(0, 3, "123");
+    CHECK(window.TimerTempo.Mode == 0);
+}
+
+TEST_CASE("A change of base or alphabet converts the source again and nothing else") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    world.Type(window.EditFieldNbre, "255");
+    window.PopupMenuBaseDest.UserChose(6);
+    CHECK(window.EditFieldBaseDest.Text() == "377");
+    window.RadioButton09AZ[1].UserPressed();
+    CHECK_FALSE(window.RadioButton09AZ[0].Value());
+    CHECK(window.EditFieldBaseOrg.Text() == "PP");
+    CHECK(window.EditFieldNbre.Text() == "255");
+
+    world.Type(window.EditFieldBaseOrg, "BA"); // 16
+    CHECK(window.EditFieldNbre.Text() == "16");
+    const std::string words = window.TxtAreaLettres.Text;
+    window.PopupMenuBaseOrg.UserChose(0);
+    CHECK(window.EditFieldNbre.Text() == "2");
+    CHECK(window.TxtAreaLettres.Text() == words); // until the next recalculation
+    window.RadioButton09AZ[0].UserPressed();
+    CHECK(window.EditFieldNbre.Text() == errNbre);
+}
+
+TEST_CASE("Pasted numbers are taken as people write them, within the mask") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    window.EditFieldNbre.UserFocused();
+    window.EditFieldNbre.UserTyped("1\xC2\xA0"
+                                   "234\xE2\x80\xAF"
+                                   "567,5\n");
+    CHECK(window.EditFieldNbre.Text() == "1234567.5");
+    window.EditFieldNbre.UserReplaced(0, 9, "1234567890123");
+    CHECK(window.EditFieldNbre.Text() == "123456789012");
+    window.EditFieldBaseOrg.UserFocused();
+    window.EditFieldBaseOrg.UserReplaced(0, 20, "F\tF\r\n");
+    CHECK(window.EditFieldBaseOrg.Text() == "F F");
+}
+
+TEST_CASE("Any text whatever in the source base is answered at once") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    window.EditFieldBaseOrg.UserFocused();
+    const auto paste = [&](const std::string& text) {
+        window.EditFieldBaseOrg.UserReplaced(0, static_cast<int>(Len(window.EditFieldBaseOrg.Text())), text);
+        world.Settle();
+    };
+    paste(std::string(1'000'000, 'F'));
+    CHECK(window.EditFieldNbre.Text() == "Plus grand nombre possible = 999 999 999 999");
+    for (const char* text : {"😀", "e\xCC\x81", "\xFF\xFE", "\x01\x7F", "-1", "１"}) {
+        CAPTURE(text);
+        paste(text);
+        CHECK(window.EditFieldNbre.Text() == errNbre);
+    }
+    paste(std::string(1'000'000, '0') + "ff");
+    CHECK(window.EditFieldNbre.Text() == "255");
+}
+
+TEST_CASE("A recalculation waits for the end of a calculation and of a dialog, and then comes once") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    window.EditFieldNbre.UserFocused();
+    window.CalculEnCours = true;
+    window.EditFieldNbre.UserTyped("255");
+    world.loop.Advance(100);
+    CHECK(window.EditFieldBaseOrg.Text().empty());
+    window.CalculEnCours = false;
+    world.program->fncts.DrapDiagBox = true;
+    world.loop.Advance(100);
+    CHECK(window.EditFieldBaseOrg.Text().empty());
+    world.program->fncts.DrapDiagBox = false;
+    world.loop.Advance(25);
+    CHECK(window.EditFieldBaseOrg.Text() == "FF");
+    CHECK(window.TimerTempo.Mode == 0);
+}

@@ -1,0 +1,73 @@
+#include "conversion/NumberFormat.h"
+
+#include <doctest/doctest.h>
+
+#include <random>
+#include <string>
+
+using namespace tessarolyne;
+
+TEST_CASE("A separator stands between groups counted from the right, never at an end") {
+    CHECK(FormatString("1234", " ", 0) == "1234");
+    CHECK(FormatString("1234", " ", -3) == "1234");
+    CHECK(FormatString("1234", " ", 3) == "1 234");
+    CHECK(FormatString("", " ", 3) == "");
+    CHECK(FormatString("1234567", " ", 3) == "1 234 567");
+    CHECK(FormatString("123456", " ", 3) == "123 456");
+    CHECK(FormatString("123", " ", 3) == "123");
+    CHECK(FormatString("aé€😀", "··", 1) == "a··é··€··😀");
+    CHECK(FormatString(std::string(40000, '1'), " ", 3).size() == 53333);
+}
+
+TEST_CASE("A decimal number is shown in groups or bare, with two decimals if it has any") {
+    CHECK(FormatNbre("1234567", true) == "1 234 567");
+    CHECK(FormatNbre("1 234 567", false) == "1234567");
+    CHECK(FormatNbre("1234.5", true) == "1 234.50");
+    CHECK(FormatNbre("1234.5", false) == "1234.50");
+    CHECK(FormatNbre("999999999999.99", true) == "999 999 999 999.99");
+    CHECK(FormatNbre("12.", true) == "12");
+    CHECK(FormatNbre(".5", true) == "0.50");
+    CHECK(FormatNbre("007.00", true) == "7");
+    CHECK(FormatNbre("-1234", true) == "-1 234");
+}
+
+TEST_CASE("A text that is no number passes unchanged") {
+    for (const char* text :
+        {"", " ", "#Erreur Nbre !", "Plus grand nombre possible = 999 999 999 999", "1,5", "1\u202F234"}) {
+        CHECK(FormatNbre(text, true) == text);
+        CHECK(FormatNbre(text, false) == text);
+    }
+}
+
+TEST_CASE("What FormatNbre gives it takes again, and its forms turn into each other") {
+    std::mt19937_64 random(7);
+    std::string edges[] = {"0.004", "-0.004", "1234.996", "1234.995", "0.995", "1e300", "1e999", "-1e18",
+        "1e-300", "4503599627370496.5", "999999999999.994"};
+    for (int round = 0; round < 20000; ++round) {
+        const std::string text = round < 11 ? edges[round]
+                                            : std::to_string(random() % 1000000000000 >> random() % 40) +
+                                                  "." + std::to_string(random() % 100000 >> random() % 17);
+        CAPTURE(text);
+        const std::string shown = FormatNbre(text, true);
+        const std::string bare = FormatNbre(text, false);
+        REQUIRE(FormatNbre(shown, true) == shown);
+        REQUIRE(FormatNbre(bare, false) == bare);
+        REQUIRE(FormatNbre(shown, false) == bare);
+        REQUIRE(FormatNbre(bare, true) == shown);
+    }
+}
+
+TEST_CASE("The base decides the size of the groups") {
+    CHECK(FormatType("11111111", 2, true) == "1111 1111");
+    CHECK(FormatType("101", 2, true) == "101");
+    CHECK(FormatType("10101", 2, true) == "1 0101");
+    CHECK(FormatType("1234567", 8, true) == "1 234 567");
+    CHECK(FormatType("1234567", 10, true) == "1 234 567");
+    CHECK(FormatType("FF", 16, true) == "FF");
+    CHECK(FormatType("1FF", 16, true) == "1 FF");
+    CHECK(FormatType("ABCDEF", 36, true) == "A BCDEF");
+    CHECK(FormatType("ABCDEF", 3, true) == "A BCDEF");
+    CHECK(FormatType("FF FF", 16, false) == "FFFF");
+    CHECK(FormatType("F FFF", 16, true) == "FF FF");
+    CHECK(FormatType(" ", 16, true) == "");
+}

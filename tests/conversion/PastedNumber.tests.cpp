@@ -1,0 +1,68 @@
+#include "conversion/PastedNumber.h"
+
+#include <doctest/doctest.h>
+
+#include <string>
+#include <utility>
+
+using namespace tessarolyne;
+
+TEST_CASE("A number as people write it becomes digits with a point") {
+    const std::pair<const char*, const char*> cases[] = {
+        {"1234567", "1234567"},
+        {"1 234 567", "1234567"},
+        {"1\u00A0234\u202F567\u2009890", "1234567890"},
+        {"1\u3000234\t567", "1234567"},
+        {"1'234'567.89", "1234567.89"},
+        {"1’234,5", "1234.5"},
+        {"1,234,567", "1234567"},
+        {"1.234.567", "1234567"},
+        {"1,234.50", "1234.50"},
+        {"1.234,50", "1234.50"},
+        {"1 234,5", "1234.5"},
+        {"12,345", "12345"},
+        {"12.345", "12345"},
+        {"12,34", "12.34"},
+        {"12.3", "12.3"},
+        {"0,5", "0.5"},
+        {",5", ".5"},
+        {" \n1 234,56\r\n", "1234.56"},
+        {"12\n345", "12345"},
+        {"-1.234,50", "-1234.50"},
+        {"\u22121 234", "-1234"},
+        {"+7", "+7"},
+        {"12 , 50", "12.50"},
+    };
+    for (const auto& [pasted, expected] : cases) {
+        CAPTURE(pasted);
+        CHECK(NumberAsWritten(pasted) == expected);
+    }
+}
+
+TEST_CASE("What is no such number, or could be two, stays as it is") {
+    for (const char* text :
+        {"", " ", "\n", "abc", "12 €", ".", ",", "12.", "12,", "1.2.3", "1,23,456", "1,234,50", "1.234,567",
+            "1,234,567.8.9", "0.123", "0,123", "1234,567", "1234.567", "12,345678", "--1", "1-2", "'12",
+            "12'", "1''2", "1,'23", "1\u0301", "\xC2", "1\xA0", "FF FF", "1,234 .567,8"}) {
+        CAPTURE(text);
+        CHECK(NumberAsWritten(text) == text);
+    }
+}
+
+TEST_CASE("Digits keep their blanks as plain ones and lose their line ends") {
+    CHECK(DigitsAsPasted("FF\u00A0FF\u202F0\t1\r\n") == "FF FF 0 1");
+    CHECK(DigitsAsPasted("a\nb\u2028c\u0085d") == "abcd");
+    CHECK(DigitsAsPasted("é\xC2'\u200B,") == "é\xC2'\u200B,");
+}
+
+TEST_CASE("A megabyte is read like a short text") {
+    const std::string ones(1 << 20, '1');
+    CHECK(NumberAsWritten("1 " + ones + ",5") == "1" + ones + ".5");
+    std::string groups = "1";
+    for (int i = 0; i < 250000; ++i) {
+        groups += ".234";
+    }
+    CHECK(NumberAsWritten(groups).size() == 750001);
+    CHECK(NumberAsWritten(groups + ".") == groups + ".");
+    CHECK(DigitsAsPasted(std::string(1 << 20, '\t')) == std::string(1 << 20, ' '));
+}

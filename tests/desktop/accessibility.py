@@ -1,0 +1,93 @@
+"""The program as assistive technology sees it: a tree of controls with names, roles, states and texts.
+
+Call it only when the screen is up: the library binds itself to the bus it finds at its first call.
+"""
+
+import gi
+
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi  # noqa: E402
+
+
+def find_application(pid):
+    """The tree's root of the process, or None as long as it has not registered."""
+    desktop = Atspi.get_desktop(0)
+    for index in range(desktop.get_child_count()):
+        child = desktop.get_child_at_index(index)
+        if child is not None and child.get_process_id() == pid:
+            return child
+    return None
+
+
+def descendants(accessible):
+    """All that is below, parents before their children."""
+    for index in range(accessible.get_child_count()):
+        child = accessible.get_child_at_index(index)
+        if child is not None:
+            yield child
+            yield from descendants(child)
+
+
+def _has(accessible, state):
+    return accessible.get_state_set().contains(state)
+
+
+class Control:
+    """One control of the running program. Every property is read afresh from the program."""
+
+    def __init__(self, accessible):
+        self._accessible = accessible
+
+    def __repr__(self):
+        return f"{self.role} “{self.name}”"
+
+    @property
+    def name(self):
+        return self._accessible.get_name()
+
+    @property
+    def role(self):
+        return self._accessible.get_role_name()
+
+    @property
+    def text(self):
+        """The text of a field or area; of a combo box, the row that is chosen."""
+        if self._accessible.get_role() == Atspi.Role.COMBO_BOX:
+            return self._accessible.get_description()
+        return Atspi.Text.get_text(self._accessible, 0, Atspi.Text.get_character_count(self._accessible))
+
+    @property
+    def focused(self):
+        return _has(self._accessible, Atspi.StateType.FOCUSED)
+
+    @property
+    def focusable(self):
+        return _has(self._accessible, Atspi.StateType.FOCUSABLE)
+
+    @property
+    def enabled(self):
+        return _has(self._accessible, Atspi.StateType.ENABLED)
+
+    @property
+    def checked(self):
+        return _has(self._accessible, Atspi.StateType.CHECKED)
+
+    @property
+    def expanded(self):
+        """Of a combo box: whether its list is open."""
+        return _has(self._accessible, Atspi.StateType.EXPANDED)
+
+    @property
+    def showing(self):
+        return _has(self._accessible, Atspi.StateType.SHOWING)
+
+    @property
+    def bounds(self):
+        """Left, top, width and height on the screen, in pixels."""
+        box = Atspi.Component.get_extents(self._accessible, Atspi.CoordType.SCREEN)
+        return box.x, box.y, box.width, box.height
+
+    @property
+    def centre(self):
+        left, top, width, height = self.bounds
+        return left + width // 2, top + height // 2

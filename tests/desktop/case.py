@@ -1,0 +1,113 @@
+"""The base of all tests that drive the program in its window."""
+
+import shutil
+import tempfile
+import unittest
+from pathlib import Path
+
+from accessibility import Control, descendants
+from controls import CONTROLS
+from program import PROGRAM, Program
+from screen import OUTPUT, Screen
+
+
+class ProgramTestCase(unittest.TestCase):
+    """A fresh program in an empty home for each class; its tests run on it in the order of their names.
+
+    Tests press keys and click like a user and read the accessibility tree; they never reach into the program.
+    A failure leaves a picture of the screen and the program's messages in build/desktop-tests/.
+    """
+
+    @classmethod
+    def setUpClass(cls):
+        if not PROGRAM.is_file():
+            raise AssertionError(f"there is no {PROGRAM}: build the preset `release` first")
+        cls.screen = Screen.shared()
+        (OUTPUT / f"{cls.__name__}.log").unlink(missing_ok=True)
+        cls._home = tempfile.mkdtemp(prefix="tessarolyne-home-")
+        cls.addClassCleanup(shutil.rmtree, cls._home, ignore_errors=True)
+        cls.write_preferences(cls.PREFERENCES)
+        cls.start_program()
+        cls.addClassCleanup(lambda: cls.program.kill())
+
+    # What stands in the preferences file of the empty home: the start asks nothing.
+    PREFERENCES = "Deja Envoye Don 03 :@: True\n"
+
+    @classmethod
+    def write_preferences(cls, text):
+        cls.preferences_file.parent.mkdir(parents=True, exist_ok=True)
+        cls.preferences_file.write_text(text)
+
+    @classmethod
+    @property
+    def preferences_file(cls):
+        return Path(cls._home) / ".config" / "Tessarolyne Prefs.txt"
+
+    @classmethod
+    def start_program(cls):
+        """Starts the program, again in the same home when it ran before."""
+        cls._controls = {}
+        cls.program = Program(cls.screen, cls._home, cls.__name__)
+
+    def run(self, result=None):
+        result = result if result is not None else self.defaultTestResult()
+        bad_before = len(result.failures) + len(result.errors)
+        super().run(result)
+        if len(result.failures) + len(result.errors) > bad_before:
+            picture = self.screen.take_picture(self.id())
+            print(f"\nPicture of the failure: {picture}\nThe program's messages:\n{self.program.log()}", flush=True)
+        return result
+
+    def all_controls(self):
+        """Everything below the program's root, menus included."""
+        return [Control(accessible) for accessible in descendants(self.program.accessible)]
+
+    def control(self, told_name):
+        """The control of the main window that the program calls `told_name`."""
+        if told_name not in self._controls:
+            name, role = CONTROLS[told_name]
+            self._controls[told_name] = self.program.wait_for(
+                lambda: next((c for c in self.all_controls() if c.role == role and c.name == name), None),
+                lambda: f"a {role} “{name}” ({told_name}) among {self.all_controls()}",
+            )
+        return self._controls[told_name]
+
+    def wait_for_text(self, told_name, text):
+        """Waits until the control shows exactly this text."""
+        control = self.control(told_name)
+        self.program.wait_for(
+            lambda: control.text == text, lambda: f"{told_name} to show “{text}”; it shows “{control.text}”"
+        )
+
+    def wait_for_focus(self, told_name):
+        control = self.control(told_name)
+        self.program.wait_for(lambda: control.focused, lambda: f"{told_name} to have the focus, not {self.focused()}")
+
+    def focused(self):
+        """The controls that say they have the focus."""
+        return [control for control in self.all_controls() if control.focused]
+
+    def focus(self, told_name):
+        """Clicks into a field and waits until it has the focus."""
+        self.screen.click(*self.control(told_name).centre)
+        self.wait_for_focus(told_name)
+
+    def choose(self, told_name, row):
+        """Chooses a row of a popup by keys: opens it, goes to the first row and down.
+
+        Waits for the list to open and to close again: while it is up it takes every click for its own.
+        """
+        popup = self.control(told_name)
+        self.screen.click(*popup.centre)
+        self.program.wait_for(lambda: popup.expanded, lambda: f"the list of {told_name} to open")
+        self.screen.press("Home", *["Down"] * row, "Return")
+        self.program.wait_for(lambda: not popup.expanded, lambda: f"the list of {told_name} to close")
+
+    def press_button(self, told_name):
+        self.screen.click(*self.control(told_name).centre)
+
+    def clear(self, told_name):
+        """Empties a field by keys."""
+        self.focus(told_name)
+        self.screen.press("ctrl+a", "Delete")
+        self.wait_for_text(told_name, "")

@@ -1,0 +1,143 @@
+"""A virtual screen of our own: X server, window manager, session bus and accessibility bus.
+
+One serves all tests of a run, because the accessibility library stays bound to the first bus that it sees.
+Nothing of the user's session is touched, and several runs can go on side by side.
+"""
+
+import atexit
+import os
+import select
+import shutil
+import subprocess
+import tempfile
+from pathlib import Path
+
+from waiting import wait_until
+
+ROOT = Path(__file__).resolve().parents[2]
+OUTPUT = ROOT / "build" / "desktop-tests"
+
+
+class Screen:
+    """Started at the first use by Screen.shared(), ended with the interpreter. Knows nothing of the program."""
+
+    _shared = None
+
+    @classmethod
+    def shared(cls):
+        if cls._shared is None:
+            cls._shared = cls()
+        return cls._shared
+
+    def __init__(self):
+        self._processes = []
+        OUTPUT.mkdir(parents=True, exist_ok=True)
+        for picture in OUTPUT.glob("*.png"):
+            picture.unlink()
+        self._folder = Path(tempfile.mkdtemp(prefix="tessarolyne-screen-"))
+        atexit.register(self.end)
+        # Whatever the user's session sets (styles, scale factors, input methods) stays outside.
+        self.environment = {
+            "PATH": "/usr/local/bin:/usr/bin:/bin",
+            "LANG": "C.UTF-8",
+            "HOME": str(self._folder),
+            "XDG_RUNTIME_DIR": str(self._folder),
+            "GSETTINGS_BACKEND": "memory",
+            "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
+        }
+        self.environment["DISPLAY"] = self._start_x_server()
+        self._start_window_manager()
+        # The bus starts the accessibility bus itself when the first one asks for it.
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_and_read(
+            "dbus", ["dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address={fd}"]
+        )
+        # This process reads the accessibility tree and takes pictures: it belongs to the screen too.
+        for name in ("DISPLAY", "DBUS_SESSION_BUS_ADDRESS"):
+            os.environ[name] = self.environment[name]
+        os.environ.pop("AT_SPI_BUS_ADDRESS", None)
+        os.environ.pop("WAYLAND_DISPLAY", None)
+
+    def end(self):
+        """Ends what was started, the last first. The buses' own children end with their bus."""
+        for process in reversed(self._processes):
+            process.terminate()
+            try:
+                process.wait(timeout=5)
+            except subprocess.TimeoutExpired:
+                process.kill()
+                process.wait()
+        self._processes.clear()
+        shutil.rmtree(self._folder, ignore_errors=True)
+
+    def run(self, *command):
+        """Runs a command on the screen and gives what it printed; fails when the command fails."""
+        return subprocess.run(
+            command, env=self.environment, stdin=subprocess.DEVNULL, capture_output=True, text=True, check=True
+        ).stdout
+
+    def press(self, *keys):
+        """Presses keys one after the other, as "Tab" or "ctrl+q", on whatever has the focus.
+
+        Only keys of the US layout: for others xdotool changes the layout for a moment, and the program may read
+        the key after it was changed back.
+        """
+        self.run("xdotool", "key", "--clearmodifiers", "--delay", "0", *keys)
+
+    def type(self, text):
+        """Types a text, of the US layout's characters, on whatever has the focus."""
+        self.run("xdotool", "type", "--clearmodifiers", "--delay", "1", "--", text)
+
+    def click(self, x, y):
+        """Clicks the left button at a point of the screen, in pixels."""
+        self.run("xdotool", "mousemove", str(x), str(y), "click", "1")
+
+    def take_picture(self, name):
+        """Writes a picture of the whole screen among the build's outputs and gives its path."""
+        path = OUTPUT / f"{name}.png"
+        self.run("import", "-silent", "-window", "root", str(path))
+        return path
+
+    def _start(self, name, command, **options):
+        """Starts a process that ends with this one, however this one ends."""
+        with open(OUTPUT / f"{name}.log", "wb") as log:
+            process = subprocess.Popen(
+                ["setpriv", "--pdeathsig", "TERM", *command],
+                env=self.environment,
+                stdin=subprocess.DEVNULL,
+                stdout=log,
+                stderr=subprocess.STDOUT,
+                start_new_session=True,
+                **options,
+            )
+        self._processes.append(process)
+        return process
+
+    def _start_and_read(self, name, command, seconds=20):
+        """Starts a process that says one line on a descriptor ({fd} in its command) once it is ready."""
+        reading, writing = os.pipe()
+        try:
+            self._start(name, [part.format(fd=writing) for part in command], pass_fds=(writing,))
+        finally:
+            os.close(writing)
+        with os.fdopen(reading) as pipe:
+            if not select.select([pipe], [], [], seconds)[0]:
+                raise RuntimeError(f"{name} did not start within {seconds} s; see {OUTPUT / name}.log")
+            line = pipe.readline().strip()
+        if not line:
+            raise RuntimeError(f"{name} ended at once; see {OUTPUT / name}.log")
+        return line
+
+    def _start_x_server(self):
+        number = self._start_and_read(
+            "xvfb",
+            ["Xvfb", "-displayfd", "{fd}", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"],
+        )
+        return f":{number}"
+
+    def _start_window_manager(self):
+        """Waits for its start-up command, which it runs, in its home, when it has taken over the screen.
+
+        A window that is mapped while the window manager takes over may never be shown.
+        """
+        self._start("openbox", ["openbox", "--sm-disable", "--startup", "touch managed"])
+        wait_until((self._folder / "managed").exists, "the window manager to take over", 20)

@@ -1,0 +1,56 @@
+"""Each choice of the main window acts at once, and every output can be read from outside."""
+
+from case import ProgramTestCase
+
+HINT = "Pour les grands nombres, cliquez Décomposer.\nCela peut être long."
+
+
+class Outputs(ProgramTestCase):
+    def enter(self, number):
+        self.clear("EditFieldNbre")
+        self.screen.type(number)
+
+    def test_bases_and_alphabets(self):
+        self.enter("255")
+        self.wait_for_text("EditFieldBaseOrg", "FF")
+        self.choose("PopupMenuBaseDest", 6)
+        self.wait_for_text("EditFieldBaseDest", "377")
+        self.choose("PopupMenuBaseOrg", 0)
+        self.wait_for_text("EditFieldBaseOrg", "1111 1111")
+        self.press_button("RadioButton09AZ 1")
+        self.wait_for_text("EditFieldBaseOrg", "BBBB BBBB")
+        self.press_button("RadioButton09AZ 0")
+        self.wait_for_text("EditFieldBaseOrg", "1111 1111")
+        self.press_button("CheckBoxFormatAuto")
+        self.wait_for_text("EditFieldBaseOrg", "11111111")
+        self.press_button("CheckBoxFormatAuto")
+        self.wait_for_text("EditFieldBaseOrg", "1111 1111")
+
+    def test_digits_typed_in_the_source_base(self):
+        self.choose("PopupMenuBaseOrg", 14)
+        self.clear("EditFieldBaseOrg")
+        self.screen.type("ff")
+        self.wait_for_text("EditFieldNbre", "255")
+
+    def test_factors_at_once_or_by_the_button(self):
+        self.enter("1000002")
+        self.wait_for_text("TxtAreaDecomp1er", "2 x 3 x 166 667")
+        self.enter("999999999989")
+        self.wait_for_text("TxtAreaDecomp1er", HINT)
+        self.press_button("PushButtDecomposer")
+        self.wait_for_text("TxtAreaDecomp1er", "999 999 999 989")
+
+    def test_the_amount_in_each_language_with_each_option(self):
+        self.enter("21.80")
+        self.wait_for_text("TxtAreaLettres", "vingt et un euros quatre-vingts centimes")
+        self.choose("PopupMenuLg", 2)
+        self.wait_for_text("TxtAreaLettres", "vingt et un euros huitante centimes")
+        self.choose("PopupMenuLg", 0)
+        self.wait_for_text("TxtAreaLettres", "twenty one euros eighty centimes")
+        self.press_button("CheckBoxTrUnion")
+        self.wait_for_text("TxtAreaLettres", "twenty-one euros eighty centimes")
+        self.press_button("CheckBoxMajusc")
+        self.wait_for_text("TxtAreaLettres", "Twenty-one euros eighty centimes")
+        self.clear("EditFieldMonnaies")
+        self.screen.type("pounds")
+        self.wait_for_text("TxtAreaLettres", "Twenty-one pounds eighty centimes")

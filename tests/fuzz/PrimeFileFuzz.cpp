@@ -1,0 +1,36 @@
+// Any bytes whatever as a prime file: the quick reader finds what the plain one finds, wherever the chunks
+// end, and what it found comes back from the file that is written of it.
+#include "primes/PlainPrimeFile.h"
+
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+
+using namespace tessarolyne;
+using namespace tessarolyne::tests;
+
+namespace {
+
+void Must(bool holds, const char* what) {
+    if (!holds) {
+        std::fprintf(stderr, "does not hold: %s\n", what);
+        std::abort();
+    }
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string bytes(data, data + size);
+    const auto plain = ReadPlainly(bytes);
+    Must(ReadQuickly(bytes, 4096) == plain, "both readers find the same");
+    Must(ReadQuickly(bytes, 3 + size % 61) == plain, "the chunks don't matter");
+
+    PrimeTable table;
+    for (const auto number : plain.numbers) {
+        Must(table.Append(number), "there is memory for what was read");
+    }
+    const int perLine = static_cast<int>(size % 12) - 1;
+    Must(ReadQuickly(Written(table, perLine), 4096).numbers == plain.numbers, "what was read comes back");
+    return 0;
+}

@@ -1,0 +1,93 @@
+// Any bytes whatever as what the update check fetched: what is read is what a slow and obvious reading finds,
+// doesn't depend on the kind of line ending, and no address passes that could lead elsewhere than it says.
+#include "app/SafeAddress.h"
+#include "app/VersionFile.h"
+#include "platform/Text.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <vector>
+
+using namespace tessarolyne;
+
+namespace {
+
+void Must(bool holds, const char* what) {
+    if (!holds) {
+        std::fprintf(stderr, "does not hold: %s\n", what);
+        std::abort();
+    }
+}
+
+std::vector<std::string> Lines(const std::string& text) {
+    std::vector<std::string> lines(1);
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        if (text[i] == '\r' || text[i] == '\n') {
+            if (text.compare(i, 2, "\r\n") == 0) {
+                ++i;
+            }
+            lines.emplace_back();
+        } else {
+            lines.back() += text[i];
+        }
+    }
+    return lines;
+}
+
+void CheckReading(const std::string& bytes, const VersionReply& reply) {
+    auto lines = Lines(bytes);
+    if (lines.size() == 1) {
+        Must(reply.kind == VersionReply::Kind::ErrorCode && reply.errorCode == bytes, "one line is a code");
+        return;
+    }
+    Must(reply.requestedUrl == lines[0], "the first line is the address that was asked for");
+    for (std::size_t i = 1; i < lines.size(); ++i) {
+        if (const auto cut = lines[i].find("Older versions"); cut != std::string::npos) {
+            lines[i].resize(cut);
+            lines.resize(i + 1);
+        }
+    }
+    lines.resize(std::max<std::size_t>(lines.size(), 4));
+    const bool isVersionFile = lines[1].starts_with("Release Notes") && lines[2].starts_with("http://") &&
+                               lines[3].starts_with("v.");
+    Must((reply.kind == VersionReply::Kind::VersionFile) == isVersionFile, "three lines make a version file");
+    if (isVersionFile) {
+        Must(reply.downloadPage == lines[2] && reply.version == lines[3], "lines two and three");
+        Must(reply.notes.size() <= bytes.size() * 5 / 4 + 1, "bullets are all that is added");
+        Must(!reply.notes.ends_with('\r') && reply.notes.find('\n') == std::string::npos, "breaks are CR");
+    }
+}
+
+// A browser's view of the address, in which user information, a backslash or a blank could hide the host.
+void CheckAddress(const std::string& address) {
+    if (!IsSafeAddress(address)) {
+        return;
+    }
+    Must(address.size() <= longestAddress, "short enough");
+    for (const char c : address) {
+        Must(c > ' ' && c < 127 && c != '\\' && c != '"' && c != '<' && c != '`', "plain characters only");
+    }
+    const auto authority = address.substr(7, address.find_first_of("/?#", 7) - 7);
+    Must(!authority.empty() && authority[0] != ':', "there is a host");
+    Must(
+        authority.find('@') == std::string::npos && authority.find('%') == std::string::npos, "host as seen");
+}
+
+} // namespace
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string bytes(data, data + size);
+    const auto reply = ReadVersionReply(bytes);
+    CheckReading(bytes, reply);
+    for (const char* ending : {"\r", "\n", "\r\n"}) {
+        Must(ReadVersionReply(ReplaceLineEndings(bytes, ending)) == reply, "line endings are all alike");
+    }
+    CheckAddress(reply.downloadPage);
+    CheckAddress(HistoryPage(reply.requestedUrl));
+    CheckAddress("http://" + bytes);
+    return 0;
+}

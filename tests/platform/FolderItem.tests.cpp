@@ -1,0 +1,89 @@
+#include "platform/FolderItem.h"
+#include "support/MemoryFileSystem.h"
+
+#include <doctest/doctest.h>
+
+using namespace tessarolyne;
+
+TEST_CASE("A native path is taken without empty parts, and only if it is absolute and plain") {
+    MemoryFileSystem files;
+    const auto path = [&](std::string_view text) {
+        const auto item = FolderItem::FromNativePath(files, text);
+        return item ? item->NativePath() : "nil";
+    };
+    CHECK(path("/") == "/");
+    CHECK(path("//a///b/./c/") == "/a/b/c");
+    CHECK(path("a/b") == "nil");
+    CHECK(path("") == "nil");
+    CHECK(path("/a/../b") == "nil");
+    CHECK(path(std::string_view("/a\0b", 4)) == "nil");
+}
+
+TEST_CASE("A folder has children by every name that a file can bear and no other") {
+    MemoryFileSystem disk;
+    CHECK(disk.At("/").TrueChild("a:b\n%")->NativePath() == "/a:b\n%");
+    CHECK(disk.At("/x").TrueChild("..a")->NativePath() == "/x/..a");
+    for (const std::string_view name : {std::string_view(""), std::string_view("."), std::string_view(".."),
+             std::string_view("a/b"), std::string_view("a\0b", 3)}) {
+        CHECK_FALSE(disk.At("/x").TrueChild(name).has_value());
+        CHECK_FALSE(disk.At("/x").Child(name).has_value());
+    }
+}
+
+TEST_CASE("An alias is itself for TrueChild and its target for Child, and dangling it exists") {
+    MemoryFileSystem disk;
+    disk.AddFolder("/f");
+    disk.AddLink("/f/first", "/f/second");
+    disk.AddLink("/f/second", "/target");
+    disk.AddFile("/target");
+    const auto folder = disk.At("/f");
+    CHECK(folder.TrueChild("first")->NativePath() == "/f/first");
+    CHECK(folder.TrueChild("first")->IsAlias());
+    CHECK(folder.Child("first")->NativePath() == "/target");
+    disk.entries.erase("/target");
+    CHECK(folder.Child("first")->NativePath() == "/f/first");
+    CHECK(folder.Child("first")->Exists());
+    CHECK_FALSE(folder.Child("none")->Exists());
+    disk.AddLink("/f/toFolder", "/f");
+    CHECK_FALSE(folder.TrueChild("toFolder")->Directory());
+    CHECK(folder.Child("toFolder")->Directory());
+}
+
+TEST_CASE("The root of a volume has the volume's name and no parent") {
+    MemoryFileSystem disk;
+    disk.volumes.push_back({"Stick", "/media/u/Stick"});
+    CHECK(disk.At("/").Name() == "Root");
+    CHECK_FALSE(disk.At("/").Parent().has_value());
+    CHECK(disk.At("/a").Parent() == disk.At("/"));
+    CHECK(disk.At("/media/u/Stick/x").Parent()->Name() == "Stick");
+    CHECK_FALSE(disk.At("/media/u/Stick").Parent().has_value());
+    CHECK(disk.At("/media/u").Parent() == disk.At("/media"));
+    CHECK(FolderItem::Volumes(disk).size() == 2);
+}
+
+TEST_CASE("A URL brings back every path, and others are refused") {
+    MemoryFileSystem disk;
+    std::string everyByte = "/";
+    for (int byte = 1; byte < 256; ++byte) {
+        everyByte += byte == '/' ? '_' : static_cast<char>(byte);
+    }
+    const auto item = disk.At(everyByte);
+    CHECK(FolderItem::GetTrueFolderItem(disk, item.URLPath()) == item);
+    CHECK(disk.At("/a b/é").URLPath() == "file:///a%20b/%C3%A9");
+    CHECK(FolderItem::GetTrueFolderItem(disk, "file://localhost/a%2fb")->NativePath() == "/a/b");
+    for (const char* bad :
+        {"", "/a", "http://h/a", "file://host/a", "file:///a%2", "file:///a%zz", "file:///a%00b"}) {
+        CHECK_FALSE(FolderItem::GetTrueFolderItem(disk, bad).has_value());
+    }
+    disk.AddLink("/l", "/t");
+    disk.AddFile("/t");
+    CHECK(FolderItem::GetFolderItem(disk, "file:///l")->NativePath() == "/t");
+    CHECK(FolderItem::GetTrueFolderItem(disk, "file:///l")->NativePath() == "/l");
+}
+
+TEST_CASE("A known folder that the system doesn't have is nil") {
+    MemoryFileSystem disk;
+    CHECK_FALSE(SpecialFolder::Preferences(disk).has_value());
+    disk.known[KnownFolder::Documents] = "/home/u/Documents";
+    CHECK(SpecialFolder::Documents(disk)->NativePath() == "/home/u/Documents");
+}

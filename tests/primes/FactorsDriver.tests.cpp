@@ -1,0 +1,184 @@
+#include "support/TestWorld.h"
+
+#include "platform/Text.h"
+
+#include <doctest/doctest.h>
+
+using namespace tessarolyne;
+using namespace tessarolyne::tests;
+
+namespace {
+
+const std::string hint = "Pour les grands nombres, cliquez Décomposer.\rCela peut être long.";
+const std::string errNbre = "#Erreur Nbre !";
+
+// A number with two large factors, too hard for the half second of a typist on a short table.
+constexpr const char* hardNumber = "999999999989";
+
+void GrowTable(TestWorld& world, std::uint64_t limit) {
+    world.Main().NbresPremCalc(limit, false);
+}
+
+} // namespace
+
+TEST_CASE("Factors stand in rising order, grouped or bare as the switch says") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    const auto& factors = window.TxtAreaDecomp1er.Text;
+    world.Type(window.EditFieldNbre, "1000002");
+    CHECK(factors() == "2 x 3 x 166 667");
+    CHECK(window.Nbres_Premiers.Back() == 166667);
+    window.CheckBoxFormatAuto.UserPressed();
+    world.Settle();
+    CHECK(factors() == "2 x 3 x 166667");
+    world.Type(window.EditFieldNbre, "1");
+    CHECK(factors() == "1");
+    world.Type(window.EditFieldNbre, "999999999999");
+    CHECK(factors() == "3 x 3 x 3 x 7 x 11 x 13 x 37 x 101 x 9901");
+    for (const char* refused : {"0", "12.5", "."}) {
+        CAPTURE(refused);
+        world.Type(window.EditFieldNbre, refused);
+        CHECK(factors() == errNbre);
+        CHECK_FALSE(window.PushButtDecomposer.Enabled());
+        CHECK_FALSE(window.CalculEnCours);
+    }
+}
+
+TEST_CASE("A number at or above the table's last prime is factored on the spot, one below it on the thread") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    window.EditFieldNbre.Text = "11";
+    for (int again = 0; again < 2; ++again) {
+        window.DecompPremDeb(false);
+        CHECK(window.TxtAreaDecomp1er.Text() == "11");
+        CHECK(window.Nbres_Premiers.Back() == 11);
+        CHECK(window.ThreadDecPrems.State() == Thread::notRunning);
+        CHECK(window.ThrNo == 0);
+    }
+    window.EditFieldNbre.Text = "6";
+    window.DecompPremDeb(false);
+    CHECK(window.TxtAreaDecomp1er.Text() == "…");
+    CHECK(window.ProgressWheel1.Visible());
+    CHECK_FALSE(world.program->fncts.DrapMenu);
+    CHECK_FALSE(window.PopupMenuLg.Enabled());
+    CHECK(window.EditFieldNbre.Enabled());
+    world.Settle();
+    CHECK(window.TxtAreaDecomp1er.Text() == "2 x 3");
+    CHECK_FALSE(window.ProgressWheel1.Visible());
+    CHECK(world.program->fncts.DrapMenu);
+    CHECK(window.PopupMenuLg.Enabled());
+    CHECK(window.ThrNo == 3);
+}
+
+TEST_CASE("A hard number gives the hint and the button, and the button its factors") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    world.Type(window.EditFieldNbre, hardNumber);
+    CHECK(window.TxtAreaDecomp1er.Text() == hint);
+    CHECK(window.PushButtDecomposer.Enabled());
+    const auto reached = window.Nbres_Premiers.UpperBound();
+    CHECK(reached > 3);
+    CHECK(world.program->fncts.ArretUrg);
+
+    window.PushButtDecomposer.UserPressed();
+    CHECK(window.TxtAreaDecomp1er.Text() == "…");
+    CHECK_FALSE(window.PushButtDecomposer.Enabled());
+    world.Settle();
+    CHECK(window.TxtAreaDecomp1er.Text() == "999 999 999 989");
+    CHECK_FALSE(window.PushButtDecomposer.Enabled());
+}
+
+TEST_CASE("Escape stops a run once, with its sound, and the hint stands; with no run it does nothing") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    CHECK_FALSE(window.EditFieldNbre.UserPressedKey(Chr(27)));
+    CHECK(window.UserPressedKey(Chr(27)));
+    CHECK_FALSE(window.UserPressedKey(Chr(9)));
+    CHECK(world.sounds.played.empty());
+
+    world.memory.available = std::uint64_t{1} << 40; // a long way to the largest factor
+    window.EditFieldNbre.Text = "999999999998";      // twice a large prime
+    window.DecompPremDeb(true);
+    CHECK_FALSE(window.EditFieldNbre.UserPressedKey(Chr(27)));
+    CHECK(window.UserPressedKey(Chr(27)));
+    CHECK(world.sounds.played == std::vector<std::string>{"Zoum.wav"});
+    world.Settle();
+    CHECK(window.TxtAreaDecomp1er.Text() == hint);
+    CHECK(window.PushButtDecomposer.Enabled());
+    CHECK(world.program->fncts.ArretUrg);
+    CHECK(window.Nbres_Premiers[3] == 7);
+}
+
+TEST_CASE("A result waits for the dialog that is up, and the timer is ready for the next") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    GrowTable(world, 1000);
+    window.EditFieldNbre.Text = "6";
+    world.program->fncts.DrapDiagBox = true;
+    window.DecompPremDeb(false);
+    world.loop.Until([&] { return window.TimerThr.Period == 50; });
+    world.loop.Advance(200);
+    CHECK(window.CalculEnCours);
+    CHECK(window.TxtAreaDecomp1er.Text() == "…");
+    world.program->fncts.DrapDiagBox = false;
+    world.loop.Advance(50);
+    CHECK(window.TxtAreaDecomp1er.Text() == "2 x 3");
+    CHECK(window.TimerThr.Period == 1);
+    CHECK(window.TimerThr.Mode == 0);
+}
+
+TEST_CASE("A product that isn't the number is shown all the same, and reported once") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    window.Nbre_Decompose = {2, 3, 7};
+    world.dialogs.Expect(DialogButton::Action);
+    window.DecompPremFin(1000);
+    CHECK(window.TxtAreaDecomp1er.Text() == "2 x 3 x 7");
+    CHECK(window.PushButtDecomposer.Enabled());
+    CHECK(world.dialogs.asked.back().message ==
+          "Il y a une erreur de décomposition !\rNombre Décomposé = 1 000 \rNombre Recomposé = 42 ");
+    window.DecompPremFin(1000);
+    world.dialogs.Expect(DialogButton::Action);
+    window.DecompPremFin(1001);
+    CHECK(world.dialogs.asked.size() == 2);
+}
+
+TEST_CASE("A run that memory ends leaves its hint and one message") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    world.memory.available = 0;
+    window.EditFieldNbre.Text = "12";
+    window.DecompPremDeb(true);
+    world.Settle();
+    CHECK(window.TxtAreaDecomp1er.Text() == "2 x 2 x 3"); // nothing had to grow
+    world.dialogs.ExpectTell();
+    window.NbresPremCalc(100'000'000, false);
+    window.TellWhyRunEnded();
+    window.TellWhyRunEnded();
+    CHECK(world.dialogs.told.size() == 1);
+}
+
+TEST_CASE("A hand-over of a step that doesn't exist is an internal error, and the program goes on") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    window.ThrNo = 9;
+    window.TimerThr.Mode = 1;
+    world.dialogs.ExpectTell();
+    world.loop.Advance(5);
+    CHECK(
+        world.dialogs.told.back() == "Error ! Please contact the authors, TimerThr\nThrNo 9 , Which Case ?");
+}
+
+TEST_CASE("A failure inside the thread ends the run like a stop, and the program goes on") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    GrowTable(world, 1000);
+    window.EditFieldNbre.Text = "6";
+    window.ThreadDecPrems.Run = [] { throw std::runtime_error("planted"); };
+    world.dialogs.ExpectTell();
+    window.DecompPremDeb(false);
+    world.Settle();
+    CHECK(window.TxtAreaDecomp1er.Text() == hint);
+    CHECK(world.program->fncts.DrapMenu);
+    CHECK(world.dialogs.told.back() == "Error ! Please contact the authors.\nThread, planted");
+}

@@ -1,0 +1,103 @@
+#pragma once
+
+#include "platform/Numbers.h"
+#include "primes/PrimeFile.h"
+#include "support/MemoryFileSystem.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace tessarolyne::tests {
+
+// What is in a prime file and what is told while it is read.
+struct PrimeFileReading {
+    std::vector<std::uint64_t> numbers;
+    std::int64_t maximum = -1;
+    std::vector<std::int64_t> reached;
+
+    bool operator==(const PrimeFileReading&) const = default;
+};
+
+// A reader that takes the whole file apart line by line and field by field: slow, and plainly the format.
+inline PrimeFileReading ReadPlainly(std::string bytes) {
+    if (bytes.starts_with("\xEF\xBB\xBF")) {
+        bytes.erase(0, 3);
+    }
+    std::replace(bytes.begin(), bytes.end(), '\r', '\n'); // CRLF makes an empty line, which says nothing
+    const auto cut = [](const std::string& text, char separator) {
+        std::vector<std::string> parts(1);
+        for (const char c : text) {
+            c == separator ? parts.push_back({}) : parts.back().push_back(c);
+        }
+        return parts;
+    };
+    std::vector<std::string> lines = cut(bytes, '\n');
+    PrimeFileReading reading;
+    reading.maximum = 200'000;
+    if (const auto mark = lines.front().find(" : "); mark != std::string::npos) {
+        const auto count = ToUInt64(Val(lines.front().substr(mark + 3)));
+        reading.maximum = static_cast<std::int64_t>(std::min<std::uint64_t>(count, INT64_MAX));
+        lines.erase(lines.begin());
+    }
+    const std::int64_t step = reading.maximum / 500;
+    for (const std::string& line : lines) {
+        for (const std::string& field : cut(line, '\t')) {
+            const std::uint64_t number = ToUInt64(Val(field));
+            if (number == 0) {
+                break;
+            }
+            const auto index = static_cast<std::int64_t>(reading.numbers.size());
+            if (step == 0 ? index == 0 : index % step == 0) {
+                reading.reached.push_back(index);
+            }
+            reading.numbers.push_back(number);
+        }
+    }
+    return reading;
+}
+
+// Remembers what it is told since the last count.
+class RecordingProgress final : public PrimeFileProgress {
+public:
+    void Expect(std::int64_t value) override {
+        maximum = value;
+        reached.clear();
+    }
+    void Reach(std::int64_t index) override { reached.push_back(index); }
+
+    std::int64_t maximum = -1;
+    std::vector<std::int64_t> reached;
+};
+
+inline std::vector<std::uint64_t> NumbersOf(const PrimeTable& table) {
+    std::vector<std::uint64_t> numbers(static_cast<std::size_t>(table.Size()));
+    table.CopyTo(0, numbers);
+    return numbers;
+}
+
+inline PrimeFileReading ReadQuickly(const std::string& bytes, std::size_t chunkSize) {
+    MemoryInputFile file(bytes);
+    PrimeTable table;
+    RecordingProgress progress;
+    ReadPrimeFile(file, table, progress, UINT64_MAX, chunkSize);
+    return {NumbersOf(table), progress.maximum, progress.reached};
+}
+
+// Keeps what is written.
+class TextFile final : public OutputFile {
+public:
+    void Write(std::string_view bytes) override { text += bytes; }
+    void Commit() override {}
+    std::string text;
+};
+
+inline std::string Written(const PrimeTable& table, int perLine) {
+    TextFile file;
+    PrimeFileProgress nobody;
+    WritePrimeFile(table, "Label", perLine, file, nobody);
+    return file.text;
+}
+
+} // namespace tessarolyne::tests

@@ -1,0 +1,88 @@
+#include "primes/Primality.h"
+
+#include "primes/Reference.h"
+
+#include <doctest/doctest.h>
+
+#include <algorithm>
+#include <random>
+
+using namespace tessarolyne;
+
+TEST_CASE("Up to a million the primes are those of the sieve") {
+    const auto primes = Reference::Primes(1'000'000);
+    auto next = primes.begin();
+    std::size_t wrong = 0;
+    for (std::uint64_t n = 0; n <= 1'000'000; ++n) {
+        const bool isPrime = next != primes.end() && *next == n;
+        wrong += static_cast<std::size_t>(IsPrime(n) != isPrime);
+        next += isPrime ? 1 : 0;
+    }
+    CHECK(wrong == 0);
+}
+
+TEST_CASE("Numbers that pass the test for some bases are told from primes") {
+    // Strong pseudoprimes to the first bases (OEIS A014233), and to 2, 13 and 23.
+    for (const std::uint64_t n : {2047ULL, 1373653ULL, 25326001ULL, 3215031751ULL, 2152302898747ULL,
+             3474749660383ULL, 341550071728321ULL, 3825123056546413051ULL, 1122004669633ULL}) {
+        CHECK_FALSE(IsPrime(n));
+    }
+    for (const std::uint64_t n :
+        {999'999'999'989ULL, 50'685'770'143ULL, 1'122'004'669'613ULL + 38, 4'294'967'291ULL, 4'294'967'311ULL,
+            9'223'372'036'854'775'783ULL, 18'446'744'073'709'551'557ULL}) {
+        const bool byDivision = [n] {
+            for (std::uint64_t d = 3; d < 2'000'000 && d * d <= n; d += 2) {
+                if (n % d == 0) {
+                    return false;
+                }
+            }
+            return true;
+        }();
+        CHECK(IsPrime(n) == byDivision);
+    }
+}
+
+TEST_CASE("The factors are primes, rise, and make up the number") {
+    std::mt19937_64 random(4);
+    std::vector<std::uint64_t> numbers = {2, 4, 999'999'999'999, 999'983ULL * 999'983,
+        2147483647ULL * 2147483629, std::uint64_t{1} << 62, 3'486'784'401, 521ULL * 521 * 521,
+        4294967291ULL * 2147483647, 9223372036854775807ULL};
+    for (int i = 0; i < 3000; ++i) {
+        numbers.push_back(1 + random() % 999'999'999'999);
+        numbers.push_back(1 + (random() >> (1 + random() % 62)));
+    }
+    for (const std::uint64_t n : numbers) {
+        const PrimeFactors factors(n);
+        std::uint64_t product = 1;
+        for (const std::uint64_t factor : factors.All()) {
+            product *= factor;
+        }
+        REQUIRE(product == n);
+        REQUIRE(std::is_sorted(factors.All().begin(), factors.All().end()));
+        REQUIRE(std::all_of(factors.All().begin(), factors.All().end(), IsPrime));
+    }
+    CHECK(PrimeFactors(1).All().empty());
+}
+
+TEST_CASE("The whole root of a number is right beside every square") {
+    std::mt19937_64 random(5);
+    for (int i = 0; i < 20'000; ++i) {
+        const std::uint64_t root =
+            i < 4 ? 0xFFFFFFFF - static_cast<std::uint64_t>(i) : 1 + random() % 0xFFFFFFFF;
+        REQUIRE(FloorSquareRoot(root * root) == root);
+        REQUIRE(FloorSquareRoot(root * root - 1) == root - 1);
+        REQUIRE(FloorSquareRoot(root * root + 2 * root) == root);
+    }
+}
+
+TEST_CASE("The estimated number of primes is never too high, and close") {
+    // pi(10^k) from k = 5 to 12.
+    const std::vector<double> counts = {
+        9592, 78498, 664579, 5761455, 50847534, 455052511, 4118054813, 37607912018};
+    std::uint64_t power = 100'000;
+    for (const double count : counts) {
+        CHECK(LeastPrimeCount(power) <= count);
+        CHECK(LeastPrimeCount(power) >= 0.99 * count);
+        power *= 10;
+    }
+}

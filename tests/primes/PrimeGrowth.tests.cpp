@@ -1,0 +1,272 @@
+#include "primes/PrimeGrowth.h"
+
+#include "primes/Primality.h"
+#include "primes/Reference.h"
+#include "primes/RunFixture.h"
+
+#include <doctest/doctest.h>
+
+#include <algorithm>
+#include <random>
+#include <thread>
+
+using namespace tessarolyne;
+using Reference::Numbers;
+
+namespace {
+
+constexpr std::int64_t forEver = std::numeric_limits<std::int64_t>::max();
+
+// Grows a table of `start` to each limit in turn, by the routine and by the slow way.
+void CheckAgainstReference(const Numbers& start, const std::vector<std::uint64_t>& limits) {
+    Numbers expected = start;
+    PrimeTable table;
+    REQUIRE(AppendAll(table, start));
+    for (const std::uint64_t limit : limits) {
+        RunFixture run;
+        std::int64_t divisions = forEver;
+        const std::uint64_t last = Reference::NbresPremCalc(expected, limit, divisions);
+        REQUIRE(NbresPremCalc(table, limit, run.untimed) == last);
+        REQUIRE(run.untimed.End() == RunEnd::Finished);
+        REQUIRE_FALSE(run.ArretUrg);
+    }
+    CHECK(Entries(table) == expected);
+}
+
+const Numbers firstFour = {2, 3, 5, 7};
+
+const std::vector<Numbers> oddTables = {
+    {2, 3, 5, 7, 1'000'003},                   // a gap
+    {2, 3, 5, 7, 8},                           // even from here on
+    {2, 3, 5, 7, 11, 13, 9},                   // not rising
+    {2, 3, 5, 7, 7, 7},                        // repeated
+    {2, 3, 5, 7, 3},                           // begins again below the first division
+    {2, 3, 5, 7, 11, 1'000'000'007, 13, 17},   // a large one ends every division
+    {2, 3, 5, 7, 11, 13, 17, 19, 23, 27},      // ends on no prime
+    {2, 3, 5, 7, 121, 11, 169, 13},            // composite divisors
+    {2, 3, 5, 7, 999'999'999'989},             // divisors run out
+    {2, 3, 5, 7, 18'446'744'073'709'551'613U}, // wraps round
+};
+
+} // namespace
+
+TEST_CASE("Every limit up to some thousand gives the entries that division gives") {
+    for (std::uint64_t limit = 0; limit < 3000; ++limit) {
+        CheckAgainstReference(firstFour, {limit});
+    }
+    CheckAgainstReference(firstFour, std::vector<std::uint64_t>(500, 0));
+}
+
+TEST_CASE("Growth in portions gives what division gives, from any start to any limit") {
+    std::mt19937_64 random(6);
+    for (int i = 0; i < 15; ++i) {
+        std::vector<std::uint64_t> limits;
+        for (std::uint64_t at = 0; at < 300'000; at += random() % (i < 5 ? 5'000U : 90'000U)) {
+            limits.push_back(at);
+            limits.push_back(0);
+        }
+        CheckAgainstReference(firstFour, limits);
+    }
+}
+
+TEST_CASE("The sieve misses and adds nothing at the edges of bytes, windows, blocks and squares") {
+    const auto primes = Reference::Primes(4'000'000);
+    std::vector<std::uint64_t> limits = {1'999'993, 1'999'993 + 30 * 224 * 1024};
+    for (const std::uint64_t window : {1U, 2U, 3U}) {
+        limits.push_back(30 * 28 * 1024 * window); // from the start, and below from behind a run of its own
+    }
+    for (const std::uint64_t prime : {7U, 163U, 167U, 251U, 257U, 911U, 1409U, 1999U}) {
+        limits.push_back(prime * prime);
+    }
+    for (const std::uint64_t limit : limits) {
+        for (std::uint64_t near = limit - 32; near <= limit + 32 && near < 4'000'000; near += 3) {
+            PrimeTable table;
+            RunFixture run;
+            REQUIRE(AppendAll(table, firstFour));
+            NbresPremCalc(table, near, run.untimed);
+            const auto count = std::upper_bound(primes.begin(), primes.end(), near | 1) - primes.begin();
+            REQUIRE(table.Size() == count);
+            REQUIRE(table.Back() == primes[static_cast<std::size_t>(count - 1)]);
+            NbresPremCalc(table, 3'999'999, run.untimed);
+            REQUIRE(table.Size() == static_cast<std::int32_t>(primes.size()));
+        }
+    }
+}
+
+TEST_CASE("Twenty million numbers are decided as by the plain sieve") {
+    const auto primes = Reference::Primes(20'000'001);
+    PrimeTable table;
+    RunFixture run;
+    REQUIRE(AppendAll(table, firstFour));
+    CHECK(NbresPremCalc(table, 20'000'000, run.untimed) == primes.back());
+    CHECK(Entries(table) == primes);
+    CHECK(table.IsConsecutive());
+}
+
+TEST_CASE("Round 2^32, and where the ranks end, the primes are right") {
+    for (const std::uint64_t around : {std::uint64_t{1} << 32, std::uint64_t{50'685'770'143}}) {
+        PrimeTable table;
+        RunFixture run;
+        REQUIRE(AppendAll(table, firstFour));
+        NbresPremCalc(table, 230'000, run.untimed);
+        // The primes in between are left out: the sieve needs those below the root alone.
+        std::uint64_t prime = around - 400'000;
+        while (!IsPrime(prime)) {
+            --prime;
+        }
+        REQUIRE(table.AppendNextPrime(prime));
+        const std::int32_t first = table.UpperBound();
+        CHECK(
+            GrowConsecutive(table, around + 400'001, PrimeTable::maxSize, run.untimed) == GrowthEnd::Reached);
+        std::int32_t rank = first;
+        for (std::uint64_t n = prime; n <= around + 400'001; ++n) {
+            if (IsPrime(n)) {
+                REQUIRE(rank < table.Size());
+                REQUIRE(table[rank] == n);
+                ++rank;
+            }
+        }
+        CHECK(rank == table.Size());
+    }
+}
+
+TEST_CASE("A table that a file made odd grows by division, whatever it holds") {
+    for (const Numbers& odd : oddTables) {
+        CheckAgainstReference(odd, {0, 0, 0});
+        if (odd.back() < odd.back() + 200) { // behind the largest number no limit would ever be reached
+            CheckAgainstReference(odd, {0, odd.back() + 1, odd.back() + 200, 0, 7, 50});
+        }
+    }
+}
+
+TEST_CASE("One wrong entry is found wherever it is, and those before it stay known") {
+    const auto primes = Reference::Primes(1'300'000);
+    for (const std::size_t rank : {4U, 5U, 52U, 53U, 54U, 55U, 255U, 256U, 257U, 65535U, 65536U, 99'000U}) {
+        Numbers odd = primes;
+        odd[rank] += 2;
+        PrimeTable table;
+        REQUIRE(AppendAll(table, odd));
+        RunFixture run;
+        CHECK(VerifyPrimes(table, forEver, run.untimed));
+        CHECK(table.IsOdd());
+        CHECK(table.ConsecutiveCount() == static_cast<std::int32_t>(rank));
+        CHECK(table.ConsecutiveBack() == primes[rank - 1]);
+    }
+    PrimeTable table;
+    REQUIRE(AppendAll(table, primes));
+    RunFixture run;
+    CHECK(VerifyPrimes(table, 500'000, run.untimed));
+    CHECK_FALSE(table.IsConsecutive());
+    CHECK(table.ConsecutiveBack() >= 500'000);
+    RunFixture stopped(1);
+    CHECK_FALSE(VerifyPrimes(table, forEver, stopped.timed));
+    CHECK(VerifyPrimes(table, forEver, run.untimed));
+    CHECK(table.IsConsecutive());
+}
+
+TEST_CASE("A stop at any look leaves a valid shorter table, from which the next run goes on") {
+    std::vector<Numbers> tables = oddTables;
+    tables.push_back(firstFour);
+    for (const Numbers& start : tables) {
+        const std::uint64_t limit = std::min<std::uint64_t>(start.back() + 3000, std::uint64_t{1} << 40);
+        Numbers expected = start;
+        std::int64_t divisions = forEver;
+        Reference::NbresPremCalc(expected, limit, divisions);
+        for (std::int64_t looks = 0; looks < 300; looks = looks * 4 / 3 + 1) {
+            PrimeTable table;
+            REQUIRE(AppendAll(table, start));
+            RunFixture run(looks);
+            const std::uint64_t last = NbresPremCalc(table, limit, run.timed);
+            CHECK(last == table.Back());
+            CHECK((run.timed.End() == RunEnd::OutOfTime) == run.ArretUrg);
+            const auto entries = Entries(table);
+            REQUIRE(entries.size() <= expected.size());
+            CHECK(std::equal(entries.begin(), entries.end(), expected.begin()));
+            RunFixture again;
+            NbresPremCalc(table, limit, again.untimed);
+            CHECK(Entries(table) == expected);
+        }
+    }
+}
+
+TEST_CASE("With the stop flag raised before, nothing is added unless no division comes first") {
+    for (const Numbers& start : oddTables) {
+        Numbers expected = start;
+        std::int64_t divisions = 0;
+        Reference::NbresPremCalc(expected, 0, divisions);
+        PrimeTable table;
+        REQUIRE(AppendAll(table, start));
+        RunFixture run;
+        run.ArretUrg = true;
+        CHECK(NbresPremCalc(table, 0, run.untimed) == expected.back());
+        CHECK(Entries(table) == expected);
+    }
+    for (const std::uint64_t limit : {std::uint64_t{0}, std::uint64_t{100}, std::uint64_t{5'000'000}}) {
+        PrimeTable table;
+        REQUIRE(AppendAll(table, firstFour));
+        RunFixture run(0);
+        CHECK(NbresPremCalc(table, limit, run.timed) == 7);
+        CHECK(run.ArretUrg);
+        CHECK(table.Size() == 4);
+        RunFixture byUser;
+        byUser.ArretUrg = true;
+        CHECK(NbresPremCalc(table, limit, byUser.untimed) == 7);
+        CHECK(byUser.untimed.End() == RunEnd::Stopped);
+    }
+}
+
+TEST_CASE("The end of the memory ends a run like a stop") {
+    const auto primes = Reference::Primes(3'000'000);
+    PrimeTable table;
+    REQUIRE(AppendAll(table, firstFour));
+    RunFixture tight(forEver, 200'000); // half of it is one chunk beside the one that is begun
+    NbresPremCalc(table, 3'000'000, tight.untimed);
+    CHECK(tight.untimed.End() == RunEnd::OutOfMemory);
+    CHECK(tight.ArretUrg);
+    CHECK(table.Size() == 2 * 65536);
+    CHECK(Entries(table) == Numbers(primes.begin(), primes.begin() + table.Size()));
+
+    for (int allocations = 4; allocations < 8; ++allocations) {
+        ShortMemory memory(allocations);
+        PrimeTable shortTable(&memory);
+        REQUIRE(AppendAll(shortTable, firstFour));
+        RunFixture run;
+        NbresPremCalc(shortTable, 30'000'000, run.untimed);
+        CHECK(run.untimed.End() == RunEnd::OutOfMemory);
+        CHECK(shortTable.Size() % 65536 == 0);
+        memory.left = 100;
+        RunFixture again;
+        NbresPremCalc(shortTable, 2'999'999, again.untimed);
+        CHECK(shortTable.RankOf(2'999'999) == static_cast<std::int32_t>(primes.size() - 1));
+    }
+}
+
+TEST_CASE("Another thread may stop a run at any moment and watch how far it is") {
+    const auto primes = Reference::Primes(3'000'000);
+    PrimeTable table;
+    REQUIRE(AppendAll(table, firstFour));
+    for (int cycle = 0; cycle < 60; ++cycle) {
+        RunFixture run;
+        std::jthread worker([&] { NbresPremCalc(table, 1'000'000'000'000, run.untimed); });
+        const std::uint64_t start = table.LastReached();
+        std::uint64_t reached = start;
+        while (reached < start + static_cast<std::uint64_t>(cycle % 3)) {
+            reached = table.LastReached();
+        }
+        run.ArretUrg = true;
+        worker.join();
+        REQUIRE(run.untimed.End() == RunEnd::Stopped);
+        REQUIRE(table.LastReached() >= reached);
+        if (table.Back() > 200'000'000) {
+            table.Clear();
+            REQUIRE(AppendAll(table, firstFour));
+        }
+    }
+    RunFixture run;
+    REQUIRE(VerifyPrimes(table, forEver, run.untimed));
+    REQUIRE(table.IsConsecutive());
+    const auto known = static_cast<std::size_t>(std::min<std::int32_t>(table.Size(), 200'000));
+    for (std::size_t rank = 0; rank < known; ++rank) {
+        REQUIRE(table[static_cast<std::int32_t>(rank)] == primes[rank]);
+    }
+}

@@ -1,0 +1,137 @@
+#include "primes/PrimeTable.h"
+
+#include "primes/Reference.h"
+#include "primes/RunFixture.h"
+
+#include <doctest/doctest.h>
+
+#include <random>
+
+using namespace tessarolyne;
+
+namespace {
+
+// A sequence in which stretches like a table of primes alternate with everything a file may hold.
+std::vector<std::uint64_t> AnySequence(std::mt19937_64& random, std::size_t size) {
+    std::vector<std::uint64_t> values;
+    std::uint64_t value = random() % 100;
+    while (values.size() < size) {
+        const std::uint64_t kind = random() % 8;
+        for (std::uint64_t left = random() % 700; left > 0 && values.size() < size; --left) {
+            switch (kind) {
+            case 0:
+                value = random();
+                break;
+            case 1:
+                value = random() % 2;
+                break;
+            case 2:
+                value += random() % 4; // repeated ones and odd gaps
+                break;
+            case 3:
+                value += 500 + 2 * (random() % 10); // round the widest gap that fits a byte
+                break;
+            default:
+                value += 2 * (random() % 256);
+            }
+            values.push_back(value);
+        }
+    }
+    return values;
+}
+
+void CheckSame(const PrimeTable& table, const std::vector<std::uint64_t>& values) {
+    REQUIRE(table.Size() == static_cast<std::int32_t>(values.size()));
+    REQUIRE(table.UpperBound() == table.Size() - 1);
+    CHECK(table.Back() == (values.empty() ? 0 : values.back()));
+    CHECK(Entries(table) == values);
+    std::size_t wrong = 0;
+    for (std::size_t rank = 0; rank < values.size(); ++rank) {
+        wrong += static_cast<std::size_t>(table[static_cast<std::int32_t>(rank)] != values[rank]);
+    }
+    CHECK(wrong == 0);
+}
+
+} // namespace
+
+TEST_CASE("A table gives back any sequence, by rank and in passing, also after it was emptied") {
+    std::mt19937_64 random(1);
+    PrimeTable table;
+    for (const std::size_t size : {0U, 1U, 255U, 256U, 257U, 5000U, 65535U, 65536U, 65537U, 150000U}) {
+        const auto values = AnySequence(random, size);
+        REQUIRE(AppendAll(table, values));
+        CheckSame(table, values);
+        CHECK(table.LastReached() == table.Back());
+        table.Clear();
+        CHECK(table.Bytes() == 0);
+    }
+}
+
+TEST_CASE("Primes that come by their gaps stand as if they had come one by one") {
+    const auto primes = Reference::Primes(2'000'000);
+    std::vector<std::uint8_t> halfGaps;
+    for (std::size_t i = 4; i < primes.size(); ++i) {
+        halfGaps.push_back(static_cast<std::uint8_t>((primes[i] - primes[i - 1]) / 2));
+    }
+    std::mt19937_64 random(2);
+    for (const std::uint64_t largestPortion : {3U, 300U, 200'000U}) {
+        PrimeTable table;
+        for (const std::uint64_t first : {2U, 3U, 5U, 7U}) {
+            REQUIRE(table.AppendNextPrime(first));
+        }
+        std::span<const std::uint8_t> left = halfGaps;
+        while (!left.empty()) {
+            const auto portion = std::min<std::size_t>(left.size(), random() % largestPortion);
+            REQUIRE(table.AppendNextPrimes(left.first(portion)) == static_cast<std::int32_t>(portion));
+            left = left.subspan(portion);
+        }
+        CheckSame(table, primes);
+        CHECK(table.IsConsecutive());
+        CHECK(table.ConsecutiveBack() == primes.back());
+        CHECK(table.Bytes() < primes.size() + 150'000); // a byte each, and the chunk that is begun
+    }
+}
+
+TEST_CASE("A value is found by its rank exactly when it is in a rising table") {
+    PrimeTable table;
+    CHECK(table.RankOf(2) == -1);
+    const auto primes = Reference::Primes(900'000);
+    REQUIRE(AppendAll(table, primes));
+    std::int32_t rank = 0;
+    std::size_t wrong = 0;
+    for (std::uint64_t value = 0; value < 900'100; ++value) {
+        const bool isNext = rank < table.Size() && primes[static_cast<std::size_t>(rank)] == value;
+        wrong += static_cast<std::size_t>(table.RankOf(value) != (isNext ? rank : -1));
+        rank += isNext ? 1 : 0;
+    }
+    CHECK(wrong == 0);
+}
+
+TEST_CASE("Entries that a file gave are not taken for primes until they have been compared") {
+    PrimeTable table;
+    REQUIRE(AppendAll(table, {2, 3, 5, 7}));
+    CHECK_FALSE(table.IsConsecutive());
+    CHECK(table.ConsecutiveBack() == 0);
+    table.NoteConsecutive(4);
+    REQUIRE(table.AppendNextPrime(11));
+    CHECK(table.IsConsecutive());
+    REQUIRE(table.Append(13));
+    REQUIRE(table.AppendNextPrime(17));
+    CHECK(table.ConsecutiveCount() == 5);
+    CHECK(table.ConsecutiveBack() == 11);
+}
+
+TEST_CASE("Without memory an append says so and leaves what stands") {
+    std::mt19937_64 random(3);
+    const auto values = AnySequence(random, 140'000);
+    bool reachedTheEnd = false;
+    for (int allocations = 0; !reachedTheEnd; allocations = allocations * 3 / 2 + 1) {
+        ShortMemory memory(allocations);
+        PrimeTable table(&memory);
+        reachedTheEnd = AppendAll(table, values);
+        CheckSame(table, {values.begin(), values.begin() + table.Size()});
+        memory.left = 1'000'000;
+        CHECK(AppendAll(table, {values.begin() + table.Size(), values.end()}));
+        CheckSame(table, values);
+    }
+}

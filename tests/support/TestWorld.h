@@ -1,0 +1,159 @@
+#pragma once
+
+#include "app/Program.h"
+#include "conversion/WinMain.h"
+#include "platform/Desktop.h"
+#include "platform/Dialogs.h"
+#include "platform/Http.h"
+#include "platform/MemoryLimits.h"
+#include "platform/Services.h"
+#include "platform/Sound.h"
+#include "platform/Stage.h"
+#include "support/MemoryFileSystem.h"
+#include "support/VirtualLoop.h"
+
+#include <algorithm>
+#include <deque>
+#include <functional>
+#include <memory>
+#include <optional>
+#include <string>
+#include <typeindex>
+#include <vector>
+
+namespace tessarolyne::tests {
+
+// Remembers which windows were shown.
+class TestStage final : public Stage {
+public:
+    void Present(Window& window) override { classes_.emplace_back(typeid(window)); }
+    ScreenSize Screen() const override { return size; }
+
+    // How many windows of that class were shown.
+    template <typename WindowClass>
+    int Count() const {
+        return static_cast<int>(
+            std::count(classes_.begin(), classes_.end(), std::type_index(typeid(WindowClass))));
+    }
+
+    ScreenSize size{1280, 1024};
+
+private:
+    std::vector<std::type_index> classes_;
+};
+
+// Counts beeps and remembers which sounds were started. A sound lasts 100 ms.
+class TestSounds final : public Sounds {
+public:
+    explicit TestSounds(VirtualLoop& loop) : loop_(loop) {}
+    void Beep() override { ++beeps; }
+    std::unique_ptr<Playing> Play(const std::string& file) override;
+
+    int beeps = 0;
+    std::vector<std::string> played;
+
+private:
+    VirtualLoop& loop_;
+};
+
+// Answers dialogs as the test has laid down. A dialog that no test expected fails it.
+class ScriptedDialogs final : public Dialogs {
+public:
+    ~ScriptedDialogs() override;
+
+    DialogButton Ask(const MessageDialog& dialog) override;
+    void Tell(const std::string& text) override;
+    std::optional<FolderItem> ChooseFile(const FileDialog& dialog) override;
+    std::optional<FolderItem> ChooseTarget(const FileDialog& dialog) override;
+
+    // The next question, its answer, and what happens while it is up.
+    void Expect(DialogButton answer, std::function<void()> meanwhile = {});
+    void ExpectTell() { ++expectedTells_; }
+    void ExpectFile(std::optional<FolderItem> answer) { fileAnswers_.push_back(std::move(answer)); }
+    std::size_t StillExpected() const { return answers_.size() + fileAnswers_.size(); }
+
+    std::vector<MessageDialog> asked;
+    std::vector<std::string> told;
+    std::vector<FileDialog> fileDialogs;
+
+private:
+    struct Answer {
+        DialogButton button;
+        std::function<void()> meanwhile;
+    };
+    std::optional<FolderItem> NextFile(const FileDialog& dialog);
+
+    std::deque<Answer> answers_;
+    std::deque<std::optional<FolderItem>> fileAnswers_;
+    int expectedTells_ = 0;
+};
+
+class TestDesktop final : public Desktop {
+public:
+    void SetClipboardText(const std::string& text) override { clipboard = text; }
+    bool OptionKeyIsDown() const override { return option; }
+    bool ShiftKeyIsDown() const override { return shift; }
+    bool OpenAddress(const std::string& address) override {
+        opened.push_back(address);
+        return takesAddresses;
+    }
+    bool OpenFile(const FolderItem& item) override {
+        opened.push_back(item.NativePath());
+        return true;
+    }
+
+    std::string clipboard;
+    std::vector<std::string> opened;
+    bool option = false;
+    bool shift = false;
+    bool takesAddresses = true;
+};
+
+// Keeps requests until the test answers them.
+class TestHttp final : public HttpService {
+public:
+    void Get(const std::string& url, std::function<void(const HttpReply&)> reply) override {
+        requests.push_back({url, std::move(reply)});
+    }
+
+    struct Request {
+        std::string url;
+        std::function<void(const HttpReply&)> reply;
+    };
+    std::vector<Request> requests;
+};
+
+class PlentyOfMemory final : public MemoryLimits {
+public:
+    std::uint64_t AvailableBytes() const override { return available; }
+    std::uint64_t available = std::uint64_t{1} << 30;
+};
+
+// A program in a world of its own: no screen, no sound, a clock that stands still, files in memory. By
+// default the start is over and asked nothing: a preferences file says that all prompts are settled.
+class TestWorld {
+public:
+    enum class Launch { Settled, First, NotYet };
+    explicit TestWorld(Launch launch = Launch::Settled);
+    ~TestWorld();
+
+    WinMain& Main() { return program->winMain(); }
+    // What the user does: into the field, replacing all of it, key by key; time passes as it does for a
+    // typist.
+    void Type(TextField& field, const std::string& text);
+    // Lets the recalculation happen and its thread, if it needs one, end.
+    void Settle();
+
+    VirtualLoop loop;
+    TestStage stage;
+    TestSounds sounds{loop};
+    ScriptedDialogs dialogs;
+    TestDesktop desktop;
+    TestHttp http;
+    MemoryFileSystem files;
+    PlentyOfMemory memory;
+    Services services{loop, loop, stage, dialogs, desktop, sounds, http, files, memory};
+    std::unique_ptr<Program> program;
+};
+
+} // namespace tessarolyne::tests

@@ -1,0 +1,117 @@
+#include "ui/FileItems.h"
+#include "support/MemoryFileSystem.h"
+#include "ui/FileTypes.h"
+
+#include <doctest/doctest.h>
+
+using namespace tessarolyne;
+
+namespace {
+
+struct Disk : MemoryFileSystem {
+    Disk() {
+        AddFolder("/home");
+        AddFolder("/home/u");
+    }
+    std::string PathOf(std::string_view chemin, bool vraiItem = true) {
+        const auto item = GetFitemAbsPath(*this, chemin, vraiItem);
+        return item ? item->NativePath() : "nil";
+    }
+};
+
+} // namespace
+
+TEST_CASE("The colon path and the item are each other's inverse for every byte that a name can have") {
+    Disk disk;
+    for (int byte = 1; byte < 256; ++byte) {
+        if (byte == '/') {
+            continue;
+        }
+        const std::string name(1, static_cast<char>(byte));
+        if (name != ".") {
+            CAPTURE(byte);
+            disk.AddFile("/home/u/" + name);
+            disk.AddFolder("/home/u/" + name + name + name);
+            for (const auto& path : {"/home/u/" + name, "/home/u/" + name + name + name}) {
+                CHECK(disk.PathOf(AbsPath_f(disk.At(path), true)) == path);
+                CHECK(disk.PathOf(AbsPath_f(disk.At(path), false)) == path);
+            }
+        }
+    }
+    disk.AddFile("/home/u/a:b");
+    CHECK(AbsPath_f(disk.At("/home/u/a:b"), true) == "Root:home:u:a/b");
+    CHECK(AbsPath_f(disk.At("/home/u"), true) == "Root:home:u:");
+    CHECK(AbsPath_f(disk.At("/home/u"), false) == "Root:home:u");
+}
+
+TEST_CASE("A volume's name alone is the volume, with and without the mark") {
+    Disk disk;
+    CHECK(AbsPath_f(disk.At("/"), true) == "Root:");
+    CHECK(disk.PathOf("Root") == "/");
+    CHECK(disk.PathOf("Root:") == "/");
+}
+
+TEST_CASE("A path that leads into no folder is nil, a file missing from a folder is an item") {
+    Disk disk;
+    CHECK(disk.PathOf("Root:home:u:none") == "/home/u/none");
+    for (const char* path : {"", ":", ":home", "Other:home", "Root:none:x", "Root::x", "Root:home::u",
+             "Root::", "Root:home:..", "Root:home:.:u", "root:home"}) {
+        CAPTURE(path);
+        CHECK(disk.PathOf(path) == "nil");
+    }
+}
+
+TEST_CASE("Of two volumes of one name the one with the file wins, else the first with the folder") {
+    Disk disk;
+    disk.volumes = {{"S", "/none"}, {"S", "/a"}, {"S", "/b"}};
+    for (const char* folder : {"/a", "/b", "/a/f", "/b/f"}) {
+        disk.AddFolder(folder);
+    }
+    CHECK(disk.PathOf("S") == "/a");
+    CHECK(disk.PathOf("S:f:x") == "/a/f/x");
+    disk.AddFile("/b/f/x");
+    CHECK(disk.PathOf("S:f:x") == "/b/f/x");
+    disk.AddFile("/a/f/x");
+    CHECK(disk.PathOf("S:f:x") == "/a/f/x");
+    CHECK(disk.PathOf("S:g:x") == "nil");
+}
+
+TEST_CASE("An alias can be used as long as it leads somewhere, and is given as asked") {
+    Disk disk;
+    disk.AddLink("/home/u/alias", "/home/u/file");
+    const auto alias = disk.At("/home/u/alias");
+    CHECK(PasNil_Existe_Alias(alias, false));
+    CHECK_FALSE(PasNil_Existe_Alias(alias, true));
+    CHECK(GetTargetItem_f(alias) == alias);
+    disk.AddFile("/home/u/file");
+    CHECK(PasNil_Existe_Alias(alias, true));
+    CHECK(GetTargetItem_f(alias) == disk.At("/home/u/file"));
+    CHECK(MemeItem(alias) == alias);
+    CHECK(disk.PathOf("Root:home:u:alias", true) == "/home/u/alias");
+    CHECK(disk.PathOf("Root:home:u:alias", false) == "/home/u/file");
+
+    CHECK_FALSE(PasNil_Existe_Alias(std::nullopt, false));
+    CHECK_FALSE(PasNil_Existe_Alias(disk.At("/home/u/none"), false));
+    CHECK_FALSE(GetTargetItem_f(std::nullopt).has_value());
+    CHECK_FALSE(MemeItem(std::nullopt).has_value());
+    CHECK(GetTargetItem_f(disk.At("/")) == disk.At("/"));
+    CHECK(MemeItem(disk.At("/")) == disk.At("/"));
+}
+
+TEST_CASE("A package is a folder that the system calls one") {
+    Disk disk;
+    const auto folder = disk.At("/home/u");
+    CHECK(DossPasPack_f(folder));
+    disk.packages = {"file:///home/u"};
+    CHECK(IsPackage_f(folder));
+    CHECK_FALSE(DossPasPack_f(folder));
+    disk.AddFile("/home/u/f");
+    CHECK_FALSE(DossPasPack_f(disk.At("/home/u/f")));
+}
+
+TEST_CASE("A dialog's filter leads back to the text type") {
+    const FileType* type = FileTypes::OfFilter(FileTypes::QueText.Text());
+    REQUIRE(type != nullptr);
+    CHECK(type->Extensions == ".txt");
+    CHECK(FileTypes::OfFilter("picture") == nullptr);
+}
