@@ -23,9 +23,11 @@ class Program:
         environment["HOME"] = str(home)
         for name, folder in (("CONFIG", ".config"), ("DATA", ".local/share"), ("CACHE", ".cache")):
             environment[f"XDG_{name}_HOME"] = str(Path(home) / folder)
+        # A shell's background job ignores SIGINT, and hands that on; the program honours it.
+        command = ["setpriv", "--pdeathsig", "TERM", "env", "--default-signal", str(PROGRAM)]
         with open(self._log_path, "ab") as log:
             self._process = subprocess.Popen(
-                ["setpriv", "--pdeathsig", "TERM", str(PROGRAM)],
+                command,
                 env=environment,
                 cwd=home,
                 stdin=subprocess.DEVNULL,
