@@ -5,7 +5,7 @@ import re
 import subprocess
 from pathlib import Path
 
-from accessibility import find_application
+from accessibility import Control, descendants, find_application
 from controls import WINDOW_TITLE
 from screen import OUTPUT, ROOT
 from waiting import wait_until
@@ -41,6 +41,8 @@ class Program:
             self.accessible = self.wait_for(
                 lambda: find_application(self._process.pid), "the program to join the accessibility bus"
             )
+            # The window manager calls the window active a moment before the program takes its first key.
+            self.wait_for(self._has_focus, "the program to take the keyboard")
         except BaseException:
             self.kill()
             raise
@@ -123,6 +125,9 @@ class Program:
             check=False,
         )
         return found.stdout.split("\n")[0]
+
+    def _has_focus(self):
+        return any(Control(accessible).focused for accessible in descendants(self.accessible))
 
     def _active_window(self):
         active = self._screen.run("xprop", "-root", "_NET_ACTIVE_WINDOW")
