@@ -3,9 +3,11 @@
 # To be sourced. Debian 12's names; elsewhere nothing is installed and the user is told.
 
 # To build the program and to start it. fonts-dejavu-core alone holds every symbol that the windows show
-# (U+270E, U+2325, U+21E7, U+261E); xdotool is what looks whether the window came up.
+# (U+270E, U+2325, U+21E7, U+261E); xdotool is what looks whether the window came up; lrelease of qt6-l10n-tools
+# compiles our translations, and qt6-translations-l10n has Qt's own.
 # shellcheck disable=SC2034
-packagesToRun=(g++ cmake ninja-build qt6-base-dev qt6-qpa-plugins fonts-dejavu-core xdotool)
+packagesToRun=(g++ cmake ninja-build qt6-base-dev qt6-qpa-plugins qt6-l10n-tools qt6-translations-l10n
+    fonts-dejavu-core xdotool)
 
 # Where there is no display: a virtual one, a window manager on it, and what takes its picture.
 # shellcheck disable=SC2034

@@ -2,10 +2,12 @@
 #include "app/Version.h"
 #include "desktop/QtApplication.h"
 #include "desktop/QtServices.h"
+#include "desktop/QtTranslations.h"
 #include "machine/PosixFileSystem.h"
 #include "machine/Signals.h"
 #include "machine/SystemClock.h"
 #include "machine/SystemMemory.h"
+#include "platform/System.h"
 
 using namespace tessarolyne;
 
@@ -16,6 +18,8 @@ int main() {
     Signals endSignals;
 
     QtApplication desktop("Tessarolyne", shortVersion, applicationIdentifier);
+    const QtTranslations translations;
+    System::UseTranslations(&translations);
     QtServices services(files);
     Services world = services.With(clock, files, memory);
     Program program(world);

@@ -3,11 +3,8 @@
 #include "desktop/QtText.h"
 
 #include <QEvent>
-#include <QLibraryInfo>
-#include <QLocale>
 #include <QSessionManager>
 #include <QSocketNotifier>
-#include <QTranslator>
 
 #include <utility>
 
@@ -43,7 +40,6 @@ QtApplication::QtApplication(
     setApplicationVersion(ToQt(version));
     setDesktopFileName(ToQt(identifier));
     setQuitOnLastWindowClosed(false);
-    LoadQtTexts();
     connect(this, &QGuiApplication::commitDataRequest, this, [this](QSessionManager&) {
         if (OnSessionEnds) {
             OnSessionEnds();
@@ -52,18 +48,6 @@ QtApplication::QtApplication(
 }
 
 QtApplication::~QtApplication() = default;
-
-// Qt's own words (context menus, "OK", the file chooser) in the user's language, where they are installed.
-void QtApplication::LoadQtTexts() {
-    if (QLocale().language() == QLocale::English || QLocale().language() == QLocale::C) {
-        return;
-    }
-    qtTexts_ = std::make_unique<QTranslator>();
-    const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
-    if (qtTexts_->load(QLocale(), QStringLiteral("qtbase"), QStringLiteral("_"), folder)) {
-        installTranslator(qtTexts_.get());
-    }
-}
 
 void QtApplication::WatchDescriptor(int descriptor, std::function<void()> readable) {
     auto watch = std::make_unique<QSocketNotifier>(descriptor, QSocketNotifier::Read);

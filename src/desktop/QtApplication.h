@@ -8,7 +8,6 @@
 #include <vector>
 
 class QSocketNotifier;
-class QTranslator;
 
 namespace tessarolyne {
 
@@ -41,10 +40,7 @@ public:
     bool event(QEvent* event) override;
 
 private:
-    void LoadQtTexts();
-
     std::vector<std::unique_ptr<QSocketNotifier>> watches_;
-    std::unique_ptr<QTranslator> qtTexts_;
 };
 
 } // namespace tessarolyne

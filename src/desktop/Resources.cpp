@@ -11,20 +11,29 @@ namespace tessarolyne {
 namespace {
 
 // From the folder of the program: bin/ of an installed tree, a bundle, the top of a build, a folder inside
-// it.
-constexpr const char* places[] = {"../share/tessarolyne", "../Resources", "resources", "../resources"};
+// it, and what the build itself has made.
+constexpr const char* places[] = {
+    "../share/tessarolyne", "../Resources", "resources", "../resources", "share/tessarolyne"};
+
+QString FirstPlace(const std::string& name, bool (QFileInfo::*fits)() const) {
+    const QDir program(QCoreApplication::applicationDirPath());
+    for (const char* place : places) {
+        const QFileInfo item(program.filePath(QLatin1String(place) + u'/' + ToQt(name)));
+        if ((item.*fits)()) {
+            return item.canonicalFilePath();
+        }
+    }
+    return {};
+}
 
 } // namespace
 
 QString ResourcePath(const std::string& name) {
-    const QDir program(QCoreApplication::applicationDirPath());
-    for (const char* place : places) {
-        const QFileInfo file(program.filePath(QLatin1String(place) + u'/' + ToQt(name)));
-        if (file.isFile()) {
-            return file.canonicalFilePath();
-        }
-    }
-    return {};
+    return FirstPlace(name, &QFileInfo::isFile);
+}
+
+QString ResourceFolder(const std::string& name) {
+    return FirstPlace(name, &QFileInfo::isDir);
 }
 
 } // namespace tessarolyne

@@ -10,4 +10,7 @@ namespace tessarolyne {
 // Empty if there is no such file.
 QString ResourcePath(const std::string& name);
 
+// The same for a folder of them ("translations").
+QString ResourceFolder(const std::string& name);
+
 } // namespace tessarolyne

@@ -33,6 +33,9 @@ class ProgramTestCase(unittest.TestCase):
     # What stands in the preferences file of the empty home: the start asks nothing.
     PREFERENCES = "Deja Envoye Don 03 :@: True\n"
 
+    # What the program's environment has besides the screen's; there it speaks French, as in the C locale.
+    ENVIRONMENT = {}
+
     @classmethod
     def write_preferences(cls, text):
         cls.preferences_file.parent.mkdir(parents=True, exist_ok=True)
@@ -47,7 +50,7 @@ class ProgramTestCase(unittest.TestCase):
     def start_program(cls):
         """Starts the program, again in the same home when it ran before."""
         cls._controls = {}
-        cls.program = Program(cls.screen, cls._home, cls.__name__)
+        cls.program = Program(cls.screen, cls._home, cls.__name__, cls.ENVIRONMENT)
 
     def run(self, result=None):
         result = result if result is not None else self.defaultTestResult()

@@ -16,10 +16,10 @@ PROGRAM = Path(os.environ.get("TESSAROLYNE_PROGRAM", ROOT / "build" / "release" 
 class Program:
     """One run: from the start to the end of the process. Several runs may follow each other in one home."""
 
-    def __init__(self, screen, home, log_name):
+    def __init__(self, screen, home, log_name, extra_environment):
         self._screen = screen
         self._log_path = OUTPUT / f"{log_name}.log"
-        environment = dict(screen.environment)
+        environment = screen.environment | extra_environment
         environment["HOME"] = str(home)
         for name, folder in (("CONFIG", ".config"), ("DATA", ".local/share"), ("CACHE", ".cache")):
             environment[f"XDG_{name}_HOME"] = str(Path(home) / folder)

@@ -1,0 +1,226 @@
+#include "app/Version.h"
+#include "conversion/WinMain.h"
+#include "desktop/QtText.h"
+#include "desktop/QtTranslations.h"
+#include "desktop/WindowView.h"
+#include "primes/WinChargSauvNb1ers.h"
+#include "primes/WinNbresPremiers.h"
+#include "support/TestWorld.h"
+#include "ui/Localisation.h"
+#include "ui/WinInfos.h"
+#include "ui/WinPrefs.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QFile>
+#include <QFontInfo>
+#include <QGroupBox>
+#include <QLineEdit>
+#include <QXmlStreamReader>
+
+#include <doctest/doctest.h>
+
+#include <map>
+#include <string>
+#include <vector>
+
+using namespace tessarolyne;
+
+namespace {
+
+// The font of the width test, wider than those that desktops have, in the usual size.
+constexpr const char* fontFamily = "DejaVu Sans";
+constexpr int fontPixels = 12;
+
+struct Entry {
+    QString source;
+    QString translation;
+    bool finished = false;
+};
+
+// A translators' file: its language and its entries by key.
+struct Catalogue {
+    explicit Catalogue(const QString& path);
+
+    QString language;
+    std::map<std::string, Entry> entries;
+};
+
+Catalogue::Catalogue(const QString& path) {
+    QFile file(path);
+    REQUIRE(file.open(QIODevice::ReadOnly));
+    QXmlStreamReader xml(&file);
+    std::string key;
+    while (!xml.atEnd()) {
+        if (xml.readNext() != QXmlStreamReader::StartElement) {
+            continue;
+        }
+        if (xml.name() == u"TS"_qs) {
+            language = xml.attributes().value(u"language"_qs).toString();
+        } else if (xml.name() == u"message"_qs) {
+            key = FromQt(xml.attributes().value(u"id"_qs).toString());
+            CHECK_MESSAGE(entries.count(key) == 0, key << " stands there twice");
+        } else if (xml.name() == u"source"_qs) {
+            entries[key].source = xml.readElementText();
+        } else if (xml.name() == u"translation"_qs) {
+            entries[key].finished = !xml.attributes().hasAttribute(u"type"_qs);
+            entries[key].translation = xml.readElementText();
+        }
+    }
+    CHECK_MESSAGE(!xml.hasError(), xml.errorString().toStdString());
+}
+
+const std::map<std::string, std::string>& BuiltIn() {
+    static const std::map<std::string, std::string> texts = {
+#define TEXT(name, text) {"Localisation." #name, text},
+#include "ui/Localisation.def"
+#undef TEXT
+    };
+    return texts;
+}
+
+QStringList Languages() {
+    QStringList languages;
+    for (const QString& file : QDir(QStringLiteral(CATALOGUES)).entryList({u"tessarolyne_*.ts"_qs})) {
+        languages += file.mid(12).chopped(3);
+    }
+    return languages;
+}
+
+QString Edge(const QString& text, bool behind) {
+    const QString core = text.trimmed();
+    const qsizetype at = text.indexOf(core);
+    return behind ? text.mid(at + core.size()) : text.left(at);
+}
+
+// Uses the compiled catalogues as a desktop with these languages does.
+class Speaking {
+public:
+    explicit Speaking(const std::vector<std::string>& wanted)
+        : translations_(QStringLiteral(COMPILED_CATALOGUES), wanted) {
+        System::UseTranslations(&translations_);
+    }
+    ~Speaking() { System::UseTranslations(nullptr); }
+
+private:
+    const QtTranslations translations_;
+};
+
+// An application that needs no display, with the pinned font.
+void UseQt() {
+    static int count = 1;
+    static char name[] = "desktop.translations.tests";
+    static char* arguments[] = {name, nullptr};
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    static const QApplication application(count, arguments);
+    QFont font(QString::fromLatin1(fontFamily));
+    font.setPixelSize(fontPixels);
+    REQUIRE(QFontInfo(font).family() == QLatin1String(fontFamily));
+    QApplication::setFont(font);
+}
+
+// Every text of the window in its place: the views make a caption smaller that is too wide, so none may be.
+void CheckWidths(Window& window) {
+    constexpr int titleButtons = 110;
+    constexpr int frame = 8;
+    const WindowView view(window, nullptr, false);
+    const QFontMetrics metrics(QApplication::font());
+    const auto fits = [&](const QString& text, int room) {
+        CHECK_MESSAGE(metrics.horizontalAdvance(text) <= room, text.toStdString());
+    };
+    fits(view.windowTitle(), view.width() - titleButtons);
+    for (const QWidget* widget : view.findChildren<QWidget*>()) {
+        if (const auto* box = qobject_cast<const QGroupBox*>(widget)) {
+            fits(box->title(), box->width() - 2 * frame);
+        } else if (const auto* edit = qobject_cast<const QLineEdit*>(widget)) {
+            fits(edit->text(), edit->width() - frame);
+        }
+        CAPTURE(widget->objectName().toStdString());
+        CAPTURE(widget->accessibleName().toStdString());
+        CHECK(QFontInfo(widget->font()).pixelSize() >= fontPixels);
+    }
+}
+
+} // namespace
+
+TEST_CASE("A translators' file has known keys and whole texts, and a language's own file has them all") {
+    const QStringList languages = Languages();
+    REQUIRE(languages.contains(u"en"_qs));
+    for (const QString& language : languages) {
+        CAPTURE(language.toStdString());
+        const Catalogue catalogue(QStringLiteral(CATALOGUES "/tessarolyne_") + language + u".ts"_qs);
+        CHECK(catalogue.language == language);
+        for (const auto& [key, entry] : catalogue.entries) {
+            CAPTURE(key);
+            const auto builtIn = BuiltIn().find(key);
+            REQUIRE(builtIn != BuiltIn().end());
+            const QString french = WithLineFeeds(builtIn->second);
+            const QString& text = entry.translation;
+            CHECK(entry.source.toStdString() == french.toStdString());
+            CHECK(entry.finished);
+            CHECK(!text.trimmed().isEmpty());
+            CHECK(text.count(u"¿%"_qs) == french.count(u"¿%"_qs));
+            for (const bool behind : {false, true}) {
+                CHECK(Edge(text, behind).toStdString() == Edge(french, behind).toStdString());
+            }
+        }
+        for (const auto& [key, text] : BuiltIn()) {
+            const bool mayLack = language.contains(u'_');
+            CHECK_MESSAGE((mayLack || catalogue.entries.count(key) == 1), key << " is missing");
+        }
+    }
+}
+
+TEST_CASE("A text comes from the region's catalogue, else the language's, else it is the built-in one") {
+    UseQt();
+    const struct {
+        std::vector<std::string> wanted;
+        std::string words, currencies, cancel, cancelOfQt;
+    } rows[] = {
+        {{"en"}, "en", "euros/cents", "Cancel", "Cancel"},
+        {{"en-GB", "fr"}, "en", "pounds/pence", "Cancel", "Cancel"},
+        {{"en_US.UTF-8"}, "en", "dollars/cents", "Cancel", "Cancel"},
+        {{"fr_CH"}, "ch be", "francs/centimes", "Annuler", "Annuler"},
+        {{"fr_BE"}, "ch be", "euros/centimes", "Annuler", "Annuler"},
+        {{"fr_FR", "en"}, "fr", "euros/centimes", "Annuler", "Annuler"},
+        {{"de"}, "fr", "euros/centimes", "Annuler", "Annuler"},
+    };
+    for (const auto& row : rows) {
+        CAPTURE(row.wanted.front());
+        const Speaking speaking(row.wanted);
+        CHECK(Localisation::A_LangLoc() == row.words);
+        CHECK(Localisation::Txt_Monnaies() + "/" + Localisation::Txt_Centimes() == row.currencies);
+        CHECK(Localisation::Btn_Annuler() == row.cancel);
+        CHECK(Localisation::Btn_Annuler("en-AU") == "Cancel");
+        CHECK(QCoreApplication::translate("QPlatformTheme", "Cancel").toStdString() == row.cancelOfQt);
+    }
+}
+
+TEST_CASE("Every text of every language fits into its place at the pinned font") {
+    UseQt();
+    const QStringList languages = Languages() + QStringList(u"fr"_qs);
+    for (const QString& language : languages) {
+        CAPTURE(language.toStdString());
+        const Speaking speaking({FromQt(language)});
+        tests::TestWorld world;
+        WinMain& main = world.Main();
+        for (const char* digits : {"FF", "FFFFFFFFFFF", "!"}) {
+            world.Type(main.EditFieldBaseOrg, digits);
+            CheckWidths(main);
+        }
+        WinNbresPremiers& list = world.program->winNbresPremiers();
+        list.StaticTextNbNbre1ers.Text = "50 000 000" + Localisation::Txt_NombresPremiers();
+        for (const auto& caption :
+            {Localisation::Btn_ChoixFich(), Localisation::Btn_ChangFich(), Localisation::Btn_SauvFich()}) {
+            list.PushButtonFichier.Caption = caption;
+            CheckWidths(list);
+        }
+        CheckWidths(world.program->winInfos());
+        CheckWidths(world.program->winPrefs());
+        WinChargSauvNb1ers& progress = world.program->winChargSauvNb1ers();
+        for (const auto& title : {Localisation::WinChargNb1ersTitre(), Localisation::WinSauvNb1ersTitre()}) {
+            progress.Title = title;
+            CheckWidths(progress);
+        }
+    }
+}

@@ -1,0 +1,476 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="en" sourcelanguage="fr">
+<context>
+    <name></name>
+    <message id="Localisation.A_LangLoc">
+        <source>fr</source>
+        <extracomment>Not a text: which words numbers are spelled in at first, one of &quot;en&quot;, &quot;fr&quot; and &quot;ch be&quot;.</extracomment>
+        <translation>en</translation>
+    </message>
+    <message id="Localisation.BevelButtListe">
+        <source>Liste Nb 1ers</source>
+        <translation>Prime List</translation>
+    </message>
+    <message id="Localisation.Btn_Annuler">
+        <source>Annuler</source>
+        <translation>Cancel</translation>
+    </message>
+    <message id="Localisation.Btn_CalcPrems">
+        <source>Calculer Nbres 1ers jusqu&apos;à :</source>
+        <translation>Calculate Primes up to:</translation>
+    </message>
+    <message id="Localisation.Btn_ChangFich">
+        <source>Changer Fichier</source>
+        <translation>Change File</translation>
+    </message>
+    <message id="Localisation.Btn_ChangFich_HT">
+        <source>⇧ clic pour sauvegarder ce fichier
+⌥ clic pour éditer le fichier texte dans TextEdit</source>
+        <translation>⇧ click to save this file
+⌥ click to edit the text file in TextEdit</translation>
+    </message>
+    <message id="Localisation.Btn_ChoixFich">
+        <source>Choisir Fichier</source>
+        <translation>Choose File</translation>
+    </message>
+    <message id="Localisation.Btn_Decomposer">
+        <source>Décomposer</source>
+        <translation>Factor</translation>
+    </message>
+    <message id="Localisation.Btn_DejDon">
+        <source>J&apos;ai déjà donné !</source>
+        <translation>I Have Already Donated!</translation>
+    </message>
+    <message id="Localisation.Btn_Enreg">
+        <source>Enregistrer</source>
+        <translation>Save</translation>
+    </message>
+    <message id="Localisation.Btn_FaireDon">
+        <source>Faire un don…</source>
+        <translation>Make a Donation…</translation>
+    </message>
+    <message id="Localisation.Btn_FAQ">
+        <source>FAQ</source>
+        <translation>FAQ</translation>
+    </message>
+    <message id="Localisation.Btn_Fermer">
+        <source>Fermer</source>
+        <translation>Close</translation>
+    </message>
+    <message id="Localisation.Btn_Garder">
+        <source>Garder</source>
+        <translation>Keep</translation>
+    </message>
+    <message id="Localisation.Btn_Historic">
+        <source>Historique</source>
+        <translation>History</translation>
+    </message>
+    <message id="Localisation.Btn_LireAbout">
+        <source>Lire À propos</source>
+        <translation>Read About</translation>
+    </message>
+    <message id="Localisation.Btn_NePasEnreg">
+        <source>Ne pas enregistrer</source>
+        <translation>Don&apos;t Save</translation>
+    </message>
+    <message id="Localisation.Btn_NePasQuit">
+        <source>Ne pas quitter</source>
+        <translation>Don&apos;t Quit</translation>
+    </message>
+    <message id="Localisation.Btn_NePlusUtiliser">
+        <source>Ne plus utiliser</source>
+        <translation>Stop Using It</translation>
+    </message>
+    <message id="Localisation.Btn_Ok">
+        <source>Ok</source>
+        <translation>OK</translation>
+    </message>
+    <message id="Localisation.Btn_SauvFich">
+        <source>Sauver Fichier</source>
+        <translation>Save File</translation>
+    </message>
+    <message id="Localisation.Btn_SauvFich_HT">
+        <source>⇧ clic pour choisir un fichier existant
+⌥ clic pour éditer le fichier texte dans TextEdit</source>
+        <translation>⇧ click to choose an existing file
+⌥ click to edit the text file in TextEdit</translation>
+    </message>
+    <message id="Localisation.Btn_SiteWeb">
+        <source>Site Web</source>
+        <translation>Website</translation>
+    </message>
+    <message id="Localisation.Btn_StopEtQuit">
+        <source>Stopper et quitter</source>
+        <translation>Stop and Quit</translation>
+    </message>
+    <message id="Localisation.ChBoxFormatAuto">
+        <source>Format Auto</source>
+        <translation>Auto Format</translation>
+    </message>
+    <message id="Localisation.ChBoxMajusc">
+        <source>Première lettre en majuscule</source>
+        <translation>Start with a capital letter</translation>
+    </message>
+    <message id="Localisation.EdFieldNbNbresLigne_HT">
+        <source>Entrer ici la quantité de nombres premiers que vous voulez par ligne dans le fichier</source>
+        <translation>Enter here how many primes you want on each line of the file</translation>
+    </message>
+    <message id="Localisation.EditFieldAffAu_HT">
+        <source>Entrer 0 afin d&apos;afficher jusqu&apos;au dernier nombre premier</source>
+        <translation>Enter 0 to show everything up to the last prime</translation>
+    </message>
+    <message id="Localisation.GpBox1">
+        <source>Conversion de Base</source>
+        <translation>Base Conversion</translation>
+    </message>
+    <message id="Localisation.GpBox2">
+        <source>Décomposition en Nombres Premiers</source>
+        <translation>Prime Factors</translation>
+    </message>
+    <message id="Localisation.GpBox3">
+        <source>Conversion en Lettres</source>
+        <translation>Number in Words</translation>
+    </message>
+    <message id="Localisation.Infos_StTextCopRight">
+        <source>© 2026 Les auteurs de Tessarolyne. Licence MIT.</source>
+        <translation>© 2026 The authors of Tessarolyne. MIT License.</translation>
+    </message>
+    <message id="Localisation.Infos_Text_Don">
+        <source>Un don serait apprécié afin de m&apos;aider à continuer le développement de ce programme, car cela a un coût. Outre le temps passé, je dois payer mes licences.
+ 
+Il suffit de cliquer le bouton PayPal ci-dessous, même si vous ne faites pas de don, pour ne plus voir apparaître cette fenêtre.
+ 
+Merci beaucoup.</source>
+        <translation>A donation would be appreciated, to help me continue developing this program, because that has its cost. Apart from the time I spend, I have to pay for the tools I use.
+ 
+Just click the PayPal button below, even if you don&apos;t donate, and this window will not appear again.
+ 
+Thank you very much.</translation>
+    </message>
+    <message id="Localisation.Infos_Texte">
+        <source>Ce programme permet plusieurs choses :
+ 
+☞ Convertir un nombre de n&apos;importe quelle base en n&apos;importe quelle base (vous pouvez entrer votre nombre dans la zone du haut en base 10, ou dans la zone au-dessous dans la base spécifiée).
+ 
+☞ Décomposer un nombre en nombres premiers. La liste des nombres premiers peut être conservée dans un fichier.
+ 
+☞ Transcrire ce nombre en lettres. Les transcriptions française et anglaise sont l&apos;œuvre des auteurs de Tessarolyne (@TESSAROLYNE_SITE@ et @TESSAROLYNE_SITE_2@).
+ 
+Saisissez simplement les devises dans les zones prévues (⌥ clic ✎ pour remettre les valeurs par défaut).
+ 
+Cliquez sur le bouton ✎ afin de copier la zone correspondante dans le presse-papiers.
+ 
+Pressez la touche Escape pour stopper un calcul.
+ 
+Ce programme est un logiciel libre : vous pouvez le redistribuer selon les termes de la licence MIT.
+ 
+Cordialement,
+Les auteurs de Tessarolyne
+ 
+Toutes les suggestions sont les bienvenues.
+Si vous remarquez des dysfonctionnements, merci de nous le faire savoir. 
+ 
+Ce programme crée un fichier nommé “Tessarolyne Prefs.txt” dans le dossier Préférences.
+ 
+Les auteurs déclinent toutes responsabilités quant à l&apos;utilisation de ce logiciel. Ils ne sauraient être tenus responsables d&apos;une quelconque perte de données suite à l&apos;utilisation de ce logiciel.
+ 
+Un grand merci aux personnes suivantes pour les tests et les localisations.
+Localisation anglaise : les auteurs de Tessarolyne</source>
+        <extracomment>The @…@ are the authors&apos; sites; the build puts them in.</extracomment>
+        <translation>This program can do several things:
+ 
+☞ Convert a number from any base to any base (you can enter your number in the upper field in base 10, or in the field below it in the base given there).
+ 
+☞ Break a number down into its prime factors. The list of primes can be kept in a file.
+ 
+☞ Write the number out in words. The French and English transcriptions are the work of the authors of Tessarolyne (@TESSAROLYNE_SITE@ and @TESSAROLYNE_SITE_2@).
+ 
+Simply type the currencies into their fields (⌥ click ✎ to restore the default values).
+ 
+Click the ✎ button to copy the field beside it to the clipboard.
+ 
+Press the Escape key to stop a calculation.
+ 
+This program is free software: you may redistribute it under the terms of the MIT License.
+ 
+Kind regards,
+The authors of Tessarolyne
+ 
+All suggestions are welcome.
+If you notice anything that does not work, please let us know. 
+ 
+This program creates a file named “Tessarolyne Prefs.txt” in the Preferences folder.
+ 
+The authors decline all responsibility for the use of this software. They cannot be held liable for any loss of data that results from its use.
+ 
+Many thanks to the following people for their tests and translations.
+English translation: the authors of Tessarolyne</translation>
+    </message>
+    <message id="Localisation.Menu_Aide">
+        <source>Aide</source>
+        <translation>Help</translation>
+    </message>
+    <message id="Localisation.Menu_AideAide">
+        <source>Aide Tessarolyne</source>
+        <translation>Tessarolyne Help</translation>
+    </message>
+    <message id="Localisation.Menu_AppleApropos">
+        <source>À propos de Tessarolyne</source>
+        <translation>About Tessarolyne</translation>
+    </message>
+    <message id="Localisation.Menu_AppleVMaJ">
+        <source>Vérifier les mises à jour…</source>
+        <translation>Check for Updates…</translation>
+    </message>
+    <message id="Localisation.Menu_ChoiFichNbP">
+        <source>Choisir Fichier des Nombres Premiers…</source>
+        <translation>Choose Prime File…</translation>
+    </message>
+    <message id="Localisation.Menu_Edit">
+        <source>Édition</source>
+        <translation>Edit</translation>
+    </message>
+    <message id="Localisation.Menu_EditClear">
+        <source>Effacer</source>
+        <translation>Clear</translation>
+    </message>
+    <message id="Localisation.Menu_EditCopy">
+        <source>Copier</source>
+        <translation>Copy</translation>
+    </message>
+    <message id="Localisation.Menu_EditCut">
+        <source>Couper</source>
+        <translation>Cut</translation>
+    </message>
+    <message id="Localisation.Menu_EditPaste">
+        <source>Coller</source>
+        <translation>Paste</translation>
+    </message>
+    <message id="Localisation.Menu_EditSelectAll">
+        <source>Tout sélectionner</source>
+        <translation>Select All</translation>
+    </message>
+    <message id="Localisation.Menu_Fichier">
+        <source>Fichier</source>
+        <translation>File</translation>
+    </message>
+    <message id="Localisation.Menu_Preferences">
+        <source>Préférences…</source>
+        <translation>Preferences…</translation>
+    </message>
+    <message id="Localisation.Menu_SauvFichNbP">
+        <source>Enregistrer Nombres Premiers sous…</source>
+        <translation>Save Primes As…</translation>
+    </message>
+    <message id="Localisation.Pref_ChBoxAutoUpdt">
+        <source>Vérifier automatiquement les mises à jour</source>
+        <translation>Check for updates automatically</translation>
+    </message>
+    <message id="Localisation.StTextAffAu">
+        <source>au</source>
+        <extracomment>Between two ranks.</extracomment>
+        <translation>to</translation>
+    </message>
+    <message id="Localisation.StTextAffDu">
+        <source>Afficher Nbres 1ers du</source>
+        <extracomment>Followed by a rank, then StTextAffAu, a rank, StTextEme: “Show primes from no. 1 to 500 incl.”</extracomment>
+        <translation>Show primes from no.</translation>
+    </message>
+    <message id="Localisation.StTextEme">
+        <source>ème</source>
+        <extracomment>Behind the last rank; very short.</extracomment>
+        <translation>incl.</translation>
+    </message>
+    <message id="Localisation.StTextFormNbre">
+        <source>Formatage des nombres</source>
+        <translation>Formatting the numbers</translation>
+    </message>
+    <message id="Localisation.Txt_AideNonDispo">
+        <source>L&apos;aide n&apos;est pas disponible pour ¿%.
+Veuillez lire “¿%”.
+ 
+Cette version a été compilée pour ¿%.</source>
+        <extracomment>The name of the program, the menu item about it, and the kind of build.</extracomment>
+        <translation>Help is not available for ¿%.
+Please read “¿%”.
+ 
+This version was built for ¿%.</translation>
+    </message>
+    <message id="Localisation.Txt_Attente">
+        <source>…</source>
+        <translation>…</translation>
+    </message>
+    <message id="Localisation.Txt_CalculEnCours">
+        <source>Des calculs sont en cours, souhaitez-vous les stopper ?</source>
+        <translation>Calculations are in progress. Do you want to stop them?</translation>
+    </message>
+    <message id="Localisation.Txt_CeciEffSonCont">
+        <source>Cela aura pour effet d&apos;effacer son contenu actuel.</source>
+        <translation>This will erase its current contents.</translation>
+    </message>
+    <message id="Localisation.Txt_CeFichContPasNb1er">
+        <source>Ce fichier ne contient pas de nombres premiers.
+Souhaitez-vous enregistrer vos nombres premiers dans ce fichier ?</source>
+        <translation>This file does not contain primes.
+Do you want to save your primes in this file?</translation>
+    </message>
+    <message id="Localisation.Txt_Centime">
+        <source>centime</source>
+        <translation>cent</translation>
+    </message>
+    <message id="Localisation.Txt_Centimes">
+        <source>centimes</source>
+        <translation>cents</translation>
+    </message>
+    <message id="Localisation.Txt_EnBase">
+        <source>en base </source>
+        <extracomment>A number follows.</extracomment>
+        <translation>in base </translation>
+    </message>
+    <message id="Localisation.Txt_EntrerNbreAuDessousDe">
+        <source>Vous devez entrer un nombre en dessous d&apos;un billion (mille milliards) !</source>
+        <extracomment>Shown in the place of the words: of 1 000 000 000 and above in English.</extracomment>
+        <translation>You must enter a smaller number: this one is too large to be put into words!</translation>
+    </message>
+    <message id="Localisation.Txt_EntrerUnNbrePositif">
+        <source>Vous devez entrer un nombre positif !</source>
+        <translation>You must enter a positive number!</translation>
+    </message>
+    <message id="Localisation.Txt_ErrBase">
+        <source>#Erreur Base !</source>
+        <translation>#Base Error!</translation>
+    </message>
+    <message id="Localisation.Txt_ErrDeDecomp">
+        <source>Il y a une erreur de décomposition !
+Nombre Décomposé = ¿% 
+Nombre Recomposé = ¿% </source>
+        <extracomment>Two numbers.</extracomment>
+        <translation>There is an error in the factors!
+Number Factored = ¿% 
+Number Recomposed = ¿% </translation>
+    </message>
+    <message id="Localisation.Txt_ErreurEcritFich">
+        <source>Il y a eu une erreur pendant l&apos;écriture du fichier.</source>
+        <translation>An error occurred while the file was being written.</translation>
+    </message>
+    <message id="Localisation.Txt_ErreurLectFich">
+        <source>Il y a eu une erreur pendant la lecture du fichier.</source>
+        <translation>An error occurred while the file was being read.</translation>
+    </message>
+    <message id="Localisation.Txt_ErrNbre">
+        <source>#Erreur Nbre !</source>
+        <translation>#Number Error!</translation>
+    </message>
+    <message id="Localisation.Txt_ErrTranscBase">
+        <source>Il y a une erreur de transcription de base !
+Résultat ¿% 
+depuis base 10 = ¿% 
+depuis base ¿% = ¿% </source>
+        <extracomment>Txt_EnBase with a base, a number, a base, a number.</extracomment>
+        <translation>There is an error in the base conversion!
+Result ¿% 
+from base 10 = ¿% 
+from base ¿% = ¿% </translation>
+    </message>
+    <message id="Localisation.Txt_IlYaNouvNbPrem">
+        <source>Il y a ¿% nouveaux nombres premiers, souhaitez vous les enregistrer ?</source>
+        <extracomment>How many, 1 or more.</extracomment>
+        <translation>New primes found: ¿%. Do you want to save them?</translation>
+    </message>
+    <message id="Localisation.Txt_MerciContactAuteur">
+        <source>Merci de contacter l&apos;auteur du logiciel</source>
+        <translation>Please contact the author of the software</translation>
+    </message>
+    <message id="Localisation.Txt_Monnaie">
+        <source>euro</source>
+        <translation>euro</translation>
+    </message>
+    <message id="Localisation.Txt_Monnaies">
+        <source>euros</source>
+        <translation>euros</translation>
+    </message>
+    <message id="Localisation.Txt_NbreDeNbPrem">
+        <source>Nombre de Nombres Premiers</source>
+        <extracomment>The first line of a prime file; &quot; : &quot; and a number follow.</extracomment>
+        <translation>Number of Primes</translation>
+    </message>
+    <message id="Localisation.Txt_NombresPremiers">
+        <source> nombres premiers</source>
+        <extracomment>A number stands before it, 4 or more.</extracomment>
+        <translation> primes</translation>
+    </message>
+    <message id="Localisation.Txt_PasDeFichNbPremSelect">
+        <source>Pas de fichier de nombres premiers sélectionné</source>
+        <translation>No prime file selected</translation>
+    </message>
+    <message id="Localisation.Txt_PlusGdNbrePossible">
+        <source>Plus grand nombre possible = </source>
+        <extracomment>A number follows.</extracomment>
+        <translation>Largest possible number = </translation>
+    </message>
+    <message id="Localisation.Txt_PourLesGdsNbres">
+        <source>Pour les grands nombres, cliquez Décomposer.
+Cela peut être long.</source>
+        <translation>For large numbers, click Factor.
+This may take a while.</translation>
+    </message>
+    <message id="Localisation.Txt_Rempl_Imposs">
+        <source>Remplacement impossible !</source>
+        <translation>This file cannot be replaced!</translation>
+    </message>
+    <message id="Localisation.Txt_ResetMonnaiDef">
+        <source>Remettre les devises par défaut ?</source>
+        <translation>Restore the default currencies?</translation>
+    </message>
+    <message id="Localisation.Txt_SelectDossSauv">
+        <source>Sélectionner le dossier de sauvegarde :</source>
+        <translation>Select the folder to save in:</translation>
+    </message>
+    <message id="Localisation.Txt_SelectFichierNbPrem">
+        <source>Sélectionner le Fichier des Nombres Premiers :</source>
+        <translation>Select the prime file:</translation>
+    </message>
+    <message id="Localisation.Txt_SiVsVoulezConservNbPrem">
+        <source>Si vous souhaitez conserver les nombres premiers calculés, vous devrez sélectionner un fichier depuis la fenêtre Liste des Nombres Premiers.</source>
+        <translation>If you want to keep the primes that have been calculated, you need to select a file in the List of Primes window.</translation>
+    </message>
+    <message id="Localisation.Txt_Ver_a_jour">
+        <source>Cette version est à jour.</source>
+        <translation>This version is up to date.</translation>
+    </message>
+    <message id="Localisation.Txt_Ver_MaJ_impo">
+        <source>Impossible de vérifier les mises à jour pour le moment, veuillez vérifier votre connexion internet ou réessayer plus tard.</source>
+        <translation>Updates cannot be checked for at the moment. Please check your internet connection or try again later.</translation>
+    </message>
+    <message id="Localisation.Txt_Ver_Nouv">
+        <source>Une nouvelle mise à jour est disponible.</source>
+        <translation>A new update is available.</translation>
+    </message>
+    <message id="Localisation.Txt_VoulVsConservFich">
+        <source>Souhaitez-vous conserver le fichier de nombres premiers que vous aviez préalablement sélectionné ou ne plus utiliser de fichier ?</source>
+        <translation>Do you want to keep the prime file that you selected earlier, or stop using a file?</translation>
+    </message>
+    <message id="Localisation.Txt_VsPouvPasMettre0">
+        <source>Vous ne pouvez pas mettre 0 nombre premier par ligne, cette valeur a été remise à 10 !</source>
+        <translation>You cannot have 0 primes per line. The value has been set back to 10!</translation>
+    </message>
+    <message id="Localisation.WinChargNb1ersTitre">
+        <source>Chargement des Nombres Premiers</source>
+        <translation>Loading Primes</translation>
+    </message>
+    <message id="Localisation.WinNbresTitre">
+        <source>Liste des Nombres Premiers</source>
+        <extracomment>Also the name that is proposed for the file of primes.</extracomment>
+        <translation>List of Primes</translation>
+    </message>
+    <message id="Localisation.WinPref_Title">
+        <source>Préférences</source>
+        <translation>Preferences</translation>
+    </message>
+    <message id="Localisation.WinSauvNb1ersTitre">
+        <source>Sauvegarde des Nombres Premiers</source>
+        <translation>Saving Primes</translation>
+    </message>
+</context>
+</TS>
