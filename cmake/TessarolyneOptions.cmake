@@ -5,6 +5,7 @@ option(TESSAROLYNE_BUILD_DESKTOP "Build the Qt windows and the program itself" O
 option(TESSAROLYNE_BUILD_TESTS "Build the tests" OFF)
 option(TESSAROLYNE_BUILD_BENCHMARKS "Build the side-by-side benchmarks" OFF)
 option(TESSAROLYNE_BUILD_FUZZERS "Build the libFuzzer targets (clang only)" OFF)
+option(TESSAROLYNE_PRECOMPILE "Precompile what most files include: a faster build from scratch" OFF)
 option(TESSAROLYNE_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)
 set(TESSAROLYNE_SANITIZE "" CACHE STRING "Sanitizers, as in -fsanitize= (for instance address,undefined)")
 
