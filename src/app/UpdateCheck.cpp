@@ -33,7 +33,7 @@ void WinMain::BindUpdateCheck() {
     };
     SocketVerMaJ.Error = [this](int code) { SocketVerMaJ_Error(SocketVerMaJ, code); };
     TimerVerMaJ.Action = [this] { TimerVerMaJ_Action(TimerVerMaJ); };
-    slowCheck_.Action = [this] { ProgressWheel1.Visible = true; };
+    slowCheck_.Action = [this] { TurnWheel(checkTakesTime_, true); };
 }
 
 // A clock that was set back makes no new day.
@@ -64,7 +64,7 @@ void WinMain::VersionFileHasCome() {
     fetchesUnderWay_ = std::max(0, fetchesUnderWay_ - 1);
     if (fetchesUnderWay_ == 0) {
         slowCheck_.Mode = 0;
-        ProgressWheel1.Visible = ThreadDecPrems.State() == Thread::running;
+        TurnWheel(checkTakesTime_, false);
     }
 }
 

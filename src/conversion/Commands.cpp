@@ -56,6 +56,11 @@ void WinMain::HoldMenuForCalculation(bool hold) {
     EnableMenuBoutons();
 }
 
+void WinMain::TurnWheel(bool& reason, bool on) {
+    reason = on;
+    ProgressWheel1.Visible = factorsTakeTime_ || checkTakesTime_;
+}
+
 void WinMain::CopyToClipboard(const std::string& texte) {
     fncts.PlayT(fncts.Bip, false);
     fncts.PressPapTxt(texte);

@@ -226,6 +226,7 @@ private:
     void StartAutomaticCheck();
     void FetchVersionFile();
     void VersionFileHasCome();
+    void TurnWheel(bool& reason, bool on);
 
     bool ConvertDecimal(std::string& decimal, std::string& source, int baseOrg, std::string_view alphabet);
     void ConvertSourceBase(std::string& decimal, std::string& source, int baseOrg, std::string_view alphabet);
@@ -250,7 +251,10 @@ private:
     bool startIsOver_ = false; // there are settings to save; unlike App.initProg it stays up
     bool calculationHoldsMenu_ = false;
     bool recalculationDue_ = false; // a change of the number that a quit under way has put off
-    Timer slowCheck_;               // until a check from the menu has to show that it is under way
+    // ProgressWheel1 turns as long as either holds.
+    bool factorsTakeTime_ = false;
+    bool checkTakesTime_ = false;
+    Timer slowCheck_; // until a check from the menu has to show that it is under way
     int fetchesUnderWay_ = 0;
     RunEnd lastRunEnd_{};
     std::string lastTextNbre_;    // what EditFieldNbre held at its last TextChange

@@ -33,7 +33,7 @@ void WinMain::TimerThr_Action(Timer& timer) {
     }
     if (ThrNo == factorsAreThere) {
         HoldMenuForCalculation(false);
-        ProgressWheel1.Visible = false;
+        TurnWheel(factorsTakeTime_, false);
         DecompPremFin(ThrPn1);
     } else if (ThrNo == listRunHasEnded) {
         program.winNbresPremiers().ButtCalcPremsFin();

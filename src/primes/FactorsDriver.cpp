@@ -42,7 +42,7 @@ void WinMain::DecompPremDeb(bool force) {
 }
 
 void WinMain::RunFactorsOnThread(std::uint64_t n) {
-    ProgressWheel1.Visible = true;
+    TurnWheel(factorsTakeTime_, true);
     TxtAreaDecomp1er.Text = Localisation::Txt_Attente();
     HoldMenuForCalculation(true);
     ThrPn1 = n;

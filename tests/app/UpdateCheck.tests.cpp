@@ -272,6 +272,23 @@ TEST_CASE("A check from the menu shows that it is under way once it takes longer
     CHECK_FALSE(wheel.Visible());
 }
 
+TEST_CASE("The wheel turns until both the check and the factors are there, whichever comes first") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    ChooseCheck(world);
+    world.loop.Advance(500);
+    world.Type(window.EditFieldNbre, "6");
+    CHECK(window.TxtAreaDecomp1er.Text() == "2 x 3");
+    CHECK(window.ProgressWheel1.Visible());
+    window.DecompPremDeb(false);
+    Answer(world, File(here));
+    CHECK(window.ProgressWheel1.Visible());
+    world.dialogs.Expect(DialogButton::Action);
+    world.Settle();
+    CHECK_FALSE(window.ProgressWheel1.Visible());
+    world.loop.Advance(1000);
+}
+
 TEST_CASE("While the commands are off the menu sends no request") {
     TestWorld world;
     world.program->fncts.DrapMenu = false;
