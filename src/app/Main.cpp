@@ -17,7 +17,7 @@ int main() {
     SystemMemory memory;
     Signals endSignals;
 
-    QtApplication desktop("Tessarolyne", shortVersion, applicationIdentifier);
+    QtApplication desktop("Tessarolyne", applicationIdentifier);
     const QtTranslations translations;
     System::UseTranslations(&translations);
     QtServices services(files);

@@ -1,5 +1,6 @@
 #include "app/Program.h"
 
+#include "app/Version.h"
 #include "conversion/MenuBar1.h"
 #include "conversion/WinMain.h"
 #include "platform/EventLoop.h"
@@ -9,10 +10,15 @@
 #include "ui/WinInfos.h"
 #include "ui/WinPrefs.h"
 
+#include <utility>
+
 namespace tessarolyne {
 
-Program::Program(Services& world)
-    : services(world), fncts(*this), app(*this, world), menuBar_(std::make_unique<MenuBar1>()) {
+Program::Program(Services& world) : Program(world, versionFileAddress) {}
+
+Program::Program(Services& world, std::string versionFileUrl)
+    : services(world), versionFile(std::move(versionFileUrl)), fncts(*this), app(*this, world),
+      menuBar_(std::make_unique<MenuBar1>()) {
     app.UseMenuBar(menuBar_.get());
     app.OnWindowClosed = [this](Window& window) { LetGo(window); };
 }

@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace tessarolyne {
@@ -21,7 +22,9 @@ struct Services;
 // windows, each made at its first use. A second Program knows nothing of the first.
 class Program {
 public:
+    // `versionFile` is where the update check asks; the build's own address if none is given.
     explicit Program(Services& services);
+    Program(Services& services, std::string versionFile);
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;
@@ -41,6 +44,7 @@ public:
     WinPrefs& winPrefs();
 
     Services& services;
+    const std::string versionFile;
     Fncts fncts;
     App app;
 

@@ -2,7 +2,6 @@
 // that no dialog ever opens inside the former. What is said to the user is said by Fncts.VrfVerMaJ.
 
 #include "app/Program.h"
-#include "app/Version.h"
 #include "conversion/WinMain.h"
 #include "platform/EventLoop.h"
 #include "platform/Numbers.h"
@@ -56,7 +55,7 @@ bool WinMain::AppleVMaJ_Action() {
 
 void WinMain::FetchVersionFile() {
     ++fetchesUnderWay_;
-    SocketVerMaJ.Get(versionFileAddress);
+    SocketVerMaJ.Get(program.versionFile);
 }
 
 void WinMain::VersionFileHasCome() {

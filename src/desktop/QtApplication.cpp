@@ -33,11 +33,9 @@ detail::QtArguments::QtArguments() : texts{"tessarolyne"} {
     count = static_cast<int>(texts.size());
 }
 
-QtApplication::QtApplication(
-    const std::string& name, const std::string& version, const std::string& identifier)
+QtApplication::QtApplication(const std::string& name, const std::string& identifier)
     : QApplication(count, pointers.data()) {
     setApplicationName(ToQt(name));
-    setApplicationVersion(ToQt(version));
     setDesktopFileName(ToQt(identifier));
     setQuitOnLastWindowClosed(false);
     connect(this, &QGuiApplication::commitDataRequest, this, [this](QSessionManager&) {

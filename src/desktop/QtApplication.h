@@ -25,8 +25,8 @@ struct QtArguments {
 // its own, and the desktop's requests handed on. Made first thing in main(), after nothing but the machine.
 class QtApplication final : private detail::QtArguments, public QApplication {
 public:
-    // `identifier` is the reverse domain name of the desktop entry; `version` goes into requests over HTTP.
-    QtApplication(const std::string& name, const std::string& version, const std::string& identifier);
+    // `identifier` is the reverse domain name of the desktop entry.
+    QtApplication(const std::string& name, const std::string& identifier);
     ~QtApplication() override;
 
     // Calls back on the main thread whenever the descriptor can be read; for signals of the machine.

@@ -2,13 +2,10 @@
 
 #include "desktop/QtText.h"
 #include "platform/EventLoop.h"
+#include "platform/HttpAnswer.h"
 
-#include <QCoreApplication>
-#include <QNetworkAccessManager>
 #include <QNetworkProxy>
-#include <QNetworkReply>
-#include <QNetworkRequest>
-#include <QTimer>
+#include <QTcpSocket>
 #include <QUrl>
 
 #include <utility>
@@ -17,111 +14,105 @@ namespace tessarolyne {
 
 namespace {
 
-constexpr int deadline = 10'000; // milliseconds, for the whole exchange
-constexpr qint64 largestPage = 256 * 1024;
+constexpr int httpPort = 80;
 
-QNetworkRequest Request(const QUrl& url) {
-    QNetworkRequest request(url);
-    request.setAttribute(QNetworkRequest::RedirectPolicyAttribute, QNetworkRequest::ManualRedirectPolicy);
-    request.setAttribute(QNetworkRequest::Http2AllowedAttribute, false);
-    request.setAttribute(QNetworkRequest::CookieLoadControlAttribute, QNetworkRequest::Manual);
-    request.setAttribute(QNetworkRequest::CookieSaveControlAttribute, QNetworkRequest::Manual);
-    request.setRawHeader("Accept-Language", "*"); // else Qt sends the user's language
-    request.setRawHeader("Accept-Encoding", "identity");
-    request.setHeader(QNetworkRequest::UserAgentHeader,
-        QString(QCoreApplication::applicationName() + u'/' + QCoreApplication::applicationVersion()));
-    return request;
+// HTTP/1.0, so that the answer comes in one piece and the server closes. A host may have several names, so it
+// is told which one is meant.
+QByteArray Request(const QUrl& url) {
+    const QUrl page = url.adjusted(QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveFragment);
+    const QUrl site = url.adjusted(QUrl::RemoveUserInfo);
+    const QByteArray path = page.toEncoded();
+    return "GET " + (path.isEmpty() ? "/" : path) +
+           " HTTP/1.0\r\nHost: " + site.authority(QUrl::FullyEncoded).toLatin1() + "\r\n\r\n";
 }
 
-std::string Headers(const QNetworkReply& reply) {
-    QByteArray text;
-    for (const auto& [name, value] : reply.rawHeaderPairs()) {
-        text += name + ": " + value + "\r\n";
-    }
-    return text.toStdString();
+HttpReply Failure(const std::string& url, int errorCode) {
+    HttpReply reply;
+    reply.url = url;
+    reply.errorCode = errorCode;
+    return reply;
 }
 
 // One exchange; deletes itself after its one answer.
 class Exchange final : public QObject {
 public:
-    Exchange(
-        EventLoop& loop, QNetworkReply* reply, std::string url, std::function<void(const HttpReply&)> answer)
-        : QObject(reply), loop_(loop), reply_(reply), url_(std::move(url)), answer_(std::move(answer)) {
-        QTimer::singleShot(deadline, Qt::PreciseTimer, this, [this] { Finish(false); });
-        connect(reply, &QNetworkReply::readyRead, this, [this] { Read(); });
-        connect(reply, &QNetworkReply::finished, this, [this] { Finish(true); });
+    Exchange(QObject* parent, EventLoop& loop, const HttpLimits& limits, std::string url,
+        std::function<void(const HttpReply&)> reply)
+        : QObject(parent), loop_(loop), largestAnswer_(limits.largestAnswer), url_(std::move(url)),
+          reply_(std::move(reply)) {
+        deadline_ = loop_.SetAlarm(limits.deadline, [this] { Finish(false); });
+        socket_.setProxy(QNetworkProxy::NoProxy);
+        socket_.setReadBufferSize(static_cast<qint64>(largestAnswer_) + 1); // a fast sender waits for us
+        connect(&socket_, &QTcpSocket::readyRead, this, [this] { Read(); });
+        connect(&socket_, &QTcpSocket::errorOccurred, this, [this](QAbstractSocket::SocketError error) {
+            Finish(error == QAbstractSocket::RemoteHostClosedError);
+        });
+    }
+    ~Exchange() override { loop_.CancelAlarm(deadline_); }
+
+    void Begin(const QUrl& url) {
+        connect(&socket_, &QTcpSocket::connected, this,
+            [this, request = Request(url)] { socket_.write(request); });
+        socket_.connectToHost(url.host(QUrl::FullyEncoded), static_cast<quint16>(url.port(httpPort)));
     }
 
 private:
     void Read() {
-        content_ += reply_->read(largestPage + 1 - content_.size());
-        if (content_.size() > largestPage) {
+        const QByteArray bytes = socket_.readAll();
+        answer_.Add({bytes.data(), static_cast<std::size_t>(bytes.size())});
+        if (answer_.Size() > largestAnswer_ || answer_.IsOver()) {
             Finish(false);
         }
     }
 
-    void Finish(bool ended) {
-        if (answered_) {
+    void Finish(bool closed) {
+        if (finished_) {
             return;
         }
-        answered_ = true;
-        if (ended) {
-            content_ += reply_->read(largestPage + 1 - content_.size());
+        if (closed) {
+            const QByteArray rest = socket_.readAll();
+            answer_.Add({rest.data(), static_cast<std::size_t>(rest.size())});
         }
-        const HttpReply result = Result(ended && content_.size() <= largestPage);
-        reply_->deleteLater();
-        reply_->abort();
-        loop_.Post([answer = answer_, result] { answer(result); });
+        finished_ = true;
+        loop_.Post([reply = std::move(reply_), result = Result(closed)] { reply(result); });
+        socket_.abort();
+        deleteLater();
     }
 
-    HttpReply Result(bool whole) const {
-        HttpReply result;
-        result.url = url_;
-        const QVariant status = reply_->attribute(QNetworkRequest::HttpStatusCodeAttribute);
-        // An error status is still a page; a connection that broke off in the middle isn't one.
-        const auto error = reply_->error();
-        const bool broken =
-            error != QNetworkReply::NoError && error < QNetworkReply::ProxyConnectionRefusedError;
-        if (whole && status.isValid() && !broken) {
-            result.status = status.toInt();
-            result.headers = Headers(*reply_);
-            result.content = content_.toStdString();
-        } else {
-            const bool unknown = error == QNetworkReply::HostNotFoundError;
-            result.errorCode = unknown ? QtHttp::notFound : QtHttp::lostConnection;
+    HttpReply Result(bool closed) const {
+        if (answer_.Size() <= largestAnswer_) {
+            if (auto page = answer_.Page(closed)) {
+                page->url = url_;
+                return *page;
+            }
         }
-        return result;
+        const bool unknown = socket_.error() == QAbstractSocket::HostNotFoundError;
+        return Failure(url_, unknown ? QtHttp::notFound : QtHttp::lostConnection);
     }
 
     EventLoop& loop_;
-    QNetworkReply* const reply_;
+    const std::size_t largestAnswer_;
     const std::string url_;
-    const std::function<void(const HttpReply&)> answer_;
-    QByteArray content_;
-    bool answered_ = false;
+    std::function<void(const HttpReply&)> reply_;
+    HttpAnswer answer_;
+    EventLoop::AlarmId deadline_ = 0;
+    bool finished_ = false;
+    QTcpSocket socket_; // last: it closes before what its signals use
 };
 
 } // namespace
 
-QtHttp::QtHttp(EventLoop& loop) : loop_(loop) {}
+QtHttp::QtHttp(EventLoop& loop, HttpLimits limits)
+    : loop_(loop), limits_(limits), exchanges_(std::make_unique<QObject>()) {}
 QtHttp::~QtHttp() = default;
 
 void QtHttp::Get(const std::string& url, std::function<void(const HttpReply&)> reply) {
     const QUrl address(ToQt(url), QUrl::StrictMode);
     if (!address.isValid() || address.scheme() != u"http" || address.host().isEmpty()) {
-        loop_.Post([url, reply = std::move(reply)] {
-            HttpReply result;
-            result.url = url;
-            result.errorCode = notFound;
-            reply(result);
-        });
+        loop_.Post([url, reply = std::move(reply)] { reply(Failure(url, notFound)); });
         return;
     }
-    if (!manager_) {
-        manager_ = std::make_unique<QNetworkAccessManager>();
-        manager_->setProxy(QNetworkProxy::NoProxy);
-    }
-    new Exchange(loop_, manager_->get(Request(address)), url, std::move(reply));
+    (new Exchange(exchanges_.get(), loop_, limits_, url, std::move(reply)))->Begin(address);
 }
 
 } // namespace tessarolyne

@@ -12,7 +12,8 @@ namespace tessarolyne {
 
 // All that the desktop answers. Made after the QtApplication and before the program, and outlives it.
 struct QtServices {
-    explicit QtServices(FileSystem& files) : dialogs(loop, stage, files), http(loop) {}
+    explicit QtServices(FileSystem& files, HttpLimits httpLimits = {})
+        : dialogs(loop, stage, files), http(loop, httpLimits) {}
 
     // Them together with what the machine answers.
     Services With(Clock& clock, FileSystem& files, MemoryLimits& memory) {

@@ -1,0 +1,37 @@
+// Any bytes whatever as a server's answer: it reads the same however the network cuts it up, and a page is
+// what stands behind the first empty line.
+#include "platform/HttpAnswer.h"
+
+#include <algorithm>
+#include <cstdint>
+#include <cstdlib>
+
+using namespace tessarolyne;
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    const std::string bytes(data, data + size);
+    HttpAnswer whole;
+    HttpAnswer pieces;
+    whole.Add(bytes);
+    const std::size_t step = size == 0 ? 1 : data[0] % 5 + 1;
+    for (std::size_t i = 0; i < size; i += step) {
+        pieces.Add(std::string_view(bytes).substr(i, step));
+    }
+    for (const bool closed : {false, true}) {
+        const auto page = whole.Page(closed);
+        const auto other = pieces.Page(closed);
+        bool holds = whole.IsOver() == pieces.IsOver() && page.has_value() == other.has_value();
+        if (page) {
+            holds = holds && page->status == other->status && page->content == other->content &&
+                    page->headers.find("\r\n\r\n") == page->headers.size() - 4 &&
+                    bytes.starts_with(page->headers + page->content) && page->status >= 0 &&
+                    (closed || whole.IsOver());
+        }
+        if (!holds) {
+            std::abort();
+        }
+    }
+    return 0;
+}
