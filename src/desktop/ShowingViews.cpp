@@ -80,7 +80,6 @@ LabelView::LabelView(Label& model, QWidget* parent)
     : ControlView(model, new LabelWidget(model, parent)), model_(model),
       label_(static_cast<QLabel*>(Widget())) {
     label_->setTextFormat(Qt::PlainText);
-    label_->setTextInteractionFlags(Qt::NoTextInteraction);
 }
 
 void LabelView::Read() {

@@ -27,6 +27,7 @@ class ProgramTestCase(unittest.TestCase):
         cls._home = tempfile.mkdtemp(prefix="tessarolyne-home-")
         cls.addClassCleanup(shutil.rmtree, cls._home, ignore_errors=True)
         cls.write_preferences(cls.PREFERENCES)
+        cls._provide_browser()
         cls.start_program()
         cls.addClassCleanup(lambda: cls.program.kill())
 
@@ -50,7 +51,29 @@ class ProgramTestCase(unittest.TestCase):
     def start_program(cls):
         """Starts the program, again in the same home when it ran before."""
         cls._controls = {}
-        cls.program = Program(cls.screen, cls._home, cls.__name__, cls.ENVIRONMENT)
+        cls.program = Program(cls.screen, cls._home, cls.__name__, cls.command(), cls.ENVIRONMENT)
+
+    @classmethod
+    def command(cls):
+        return [PROGRAM]
+
+    @classmethod
+    def _provide_browser(cls):
+        """What the desktop opens addresses with, which only notes them, one a line."""
+        browser = Path(cls._home) / "bin" / "xdg-open"
+        browser.parent.mkdir()
+        browser.write_text('#!/bin/sh\nprintf "%s\\n" "$1" >>"$HOME/opened"\n')
+        browser.chmod(0o755)
+
+    def wait_until_opened(self, *addresses):
+        """Waits until exactly these addresses have gone to the browser, and forgets them."""
+        opened = Path(self._home) / "opened"
+
+        def found():
+            return opened.read_text().splitlines() if opened.exists() else []
+
+        self.program.wait_for(lambda: found() == list(addresses), lambda: f"{addresses} to be opened, not {found()}")
+        opened.unlink()
 
     def run(self, result=None):
         result = result if result is not None else self.defaultTestResult()
@@ -74,6 +97,29 @@ class ProgramTestCase(unittest.TestCase):
                 lambda: f"a {role} “{name}” ({told_name}) among {self.all_controls()}",
             )
         return self._controls[told_name]
+
+    def find(self, role, name):
+        """Waits for a control on the screen, of whatever window, whose name begins with `name`."""
+        return self.program.wait_for(
+            lambda: next(
+                (c for c in self.all_controls() if c.role == role and c.name.startswith(name) and c.showing), None
+            ),
+            lambda: f"a {role} “{name}” among {self.all_controls()}",
+        )
+
+    def wait_until_gone(self, role, name):
+        def showing():
+            return [c for c in self.all_controls() if c.role == role and c.name.startswith(name) and c.showing]
+
+        self.program.wait_for(lambda: not showing(), lambda: f"{showing()} to go")
+
+    def click(self, role, name):
+        self.screen.click(*self.find(role, name).centre)
+
+    def choose_command(self, caption, menu="Édition"):
+        """Chooses a command of the main window's menu bar with the mouse."""
+        self.click("menu item", menu)
+        self.click("menu item", caption)
 
     def wait_for_text(self, told_name, text):
         """Waits until the control shows exactly this text."""

@@ -16,15 +16,16 @@ PROGRAM = Path(os.environ.get("TESSAROLYNE_PROGRAM", ROOT / "build" / "release" 
 class Program:
     """One run: from the start to the end of the process. Several runs may follow each other in one home."""
 
-    def __init__(self, screen, home, log_name, extra_environment):
+    def __init__(self, screen, home, log_name, command, extra_environment):
         self._screen = screen
         self._log_path = OUTPUT / f"{log_name}.log"
         environment = screen.environment | extra_environment
         environment["HOME"] = str(home)
+        environment["PATH"] = f"{home}/bin:{environment['PATH']}"
         for name, folder in (("CONFIG", ".config"), ("DATA", ".local/share"), ("CACHE", ".cache")):
             environment[f"XDG_{name}_HOME"] = str(Path(home) / folder)
         # A shell's background job ignores SIGINT, and hands that on; the program honours it.
-        command = ["setpriv", "--pdeathsig", "TERM", "env", "--default-signal", str(PROGRAM)]
+        command = ["setpriv", "--pdeathsig", "TERM", "env", "--default-signal", *map(str, command)]
         with open(self._log_path, "ab") as log:
             self._process = subprocess.Popen(
                 command,
