@@ -31,7 +31,7 @@ packagesForLongTests=(clang clang-tidy libclang-rt-14-dev shellcheck)
 # The programs and libraries that bench/ measures ours beside.
 # shellcheck disable=SC2034
 packagesForBenchmarks=(libx11-dev speedcrunch kcalc galculator pkg-config libicu-dev libnumbertext-dev
-    libnumbertext-data libprimesieve-dev primesieve-bin)
+    libnumbertext-data libprimesieve-dev primesieve-bin curl)
 
 # Prints those of the named packages that are not installed, one a line.
 MissingPackages() {
