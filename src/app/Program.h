@@ -22,9 +22,9 @@ struct Services;
 // windows, each made at its first use. A second Program knows nothing of the first.
 class Program {
 public:
-    // `versionFile` is where the update check asks; the build's own address if none is given.
-    explicit Program(Services& services);
-    Program(Services& services, std::string versionFile);
+    // `versionFileUrl` is where the update check asks; the build's own address if none is given.
+    explicit Program(Services& world);
+    Program(Services& world, std::string versionFileUrl);
     ~Program();
     Program(const Program&) = delete;
     Program& operator=(const Program&) = delete;

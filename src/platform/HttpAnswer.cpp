@@ -38,7 +38,7 @@ void HttpAnswer::Add(std::string_view bytes) {
     if (pageStart_ != 0 || broken_) {
         return;
     }
-    if (const auto end = bytes_.find(emptyLine, from); end != bytes_.npos) {
+    if (const auto end = bytes_.find(emptyLine, from); end != std::string::npos) {
         pageStart_ = end + emptyLine.size();
         ReadHeader();
     }
@@ -72,7 +72,7 @@ std::optional<HttpReply> HttpAnswer::Page(bool closed) const {
     HttpReply reply;
     reply.status = status_;
     reply.headers = bytes_.substr(0, pageStart_);
-    reply.content = bytes_.substr(pageStart_, length_.value_or(bytes_.npos));
+    reply.content = bytes_.substr(pageStart_, length_.value_or(std::string::npos));
     return reply;
 }
 

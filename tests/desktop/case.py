@@ -20,8 +20,8 @@ class ProgramTestCase(unittest.TestCase):
 
     @classmethod
     def setUpClass(cls):
-        if not PROGRAM.is_file():
-            raise AssertionError(f"there is no {PROGRAM}: build the preset `release` first")
+        if not cls.command()[0].is_file():
+            raise AssertionError(f"there is no {cls.command()[0]}: build the presets `release` and `desktop` first")
         cls.screen = Screen.shared()
         (OUTPUT / f"{cls.__name__}.log").unlink(missing_ok=True)
         cls._home = tempfile.mkdtemp(prefix="tessarolyne-home-")

@@ -83,9 +83,9 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     const std::string bytes(data, data + size);
     const auto reply = ReadVersionReply(bytes);
     CheckReading(bytes, reply);
-    for (const char* ending : {"\r", "\n", "\r\n"}) {
-        Must(ReadVersionReply(ReplaceLineEndings(bytes, ending)) == reply, "line endings are all alike");
-    }
+    constexpr const char* endings[] = {"\r", "\n", "\r\n"};
+    const std::string alike = ReplaceLineEndings(bytes, endings[size % std::size(endings)]);
+    Must(ReadVersionReply(alike) == reply, "line endings are all alike");
     CheckAddress(reply.downloadPage);
     CheckAddress(HistoryPage(reply.requestedUrl));
     CheckAddress("http://" + bytes);
