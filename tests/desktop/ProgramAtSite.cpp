@@ -1,5 +1,6 @@
-// The program as main() has it, but for the address of the version file, which is the first argument, and a
-// deadline that a test can wait for. The program that users get takes no address from outside.
+// The program as main() has it, but for its translations, the address of the version file, which is the first
+// argument, and a deadline that a test can wait for. The program that users get takes no address from
+// outside.
 #include "app/Program.h"
 #include "app/Version.h"
 #include "desktop/QtApplication.h"
