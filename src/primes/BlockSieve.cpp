@@ -12,7 +12,6 @@ namespace {
 // left to the strikers.
 constexpr std::uint32_t windowBytes = 28 * 1024;
 constexpr std::uint32_t windowsPerBlock = 6;
-constexpr std::uint64_t firstBlockStriker = 6000;
 
 // Rank of 167, the first prime that the patterns leave.
 constexpr std::int32_t firstStrikerRank = 38;
@@ -20,7 +19,7 @@ constexpr std::int32_t firstStrikerRank = 38;
 } // namespace
 
 BlockSieve::BlockSieve(const PrimeTable& table)
-    : table_(table), nextStriker_(table, firstStrikerRank), gapReader_(table.ConsecutiveBack(), windowBytes),
+    : table_(table), nextStriker_(table, firstStrikerRank), gapReader_(table.ConsecutiveBack()),
       bytes_(windowBytes * windowsPerBlock + 2 * TurnStrikeList::largestPrime),
       block_(bytes_.data() + TurnStrikeList::largestPrime), blockByte_(table.ConsecutiveBack() / 30),
       reached_(table.ConsecutiveBack()) {}
@@ -33,7 +32,7 @@ void BlockSieve::AddStrikers(std::uint64_t blockEnd) {
         if (prime > TurnStrikeList::largestPrime) {
             largeStrikers_.Add(prime, blockByte_);
         } else {
-            (prime < firstBlockStriker ? windowStrikers_ : blockStrikers_).Add(prime, blockByte_);
+            windowStrikers_.Add(prime, blockByte_);
         }
     }
 }
@@ -49,12 +48,10 @@ void BlockSieve::BeginBlock(std::uint64_t end) {
     windowStart_ = 0;
     AddStrikers(30 * (blockByte_ + blockSize_));
     preSieve_.Fill(block_, blockSize_, blockByte_);
-    blockStrikers_.Strike(block_, blockSize_);
-    blockStrikers_.EndBlock(blockSize_);
     largeStrikers_.Strike(block_, blockSize_);
 }
 
-std::span<const std::uint8_t> BlockSieve::NextWindow(std::uint64_t end) {
+void BlockSieve::DecideWindow(std::uint64_t end) {
     if (windowStart_ == blockSize_) {
         BeginBlock(end);
     }
@@ -71,7 +68,17 @@ std::span<const std::uint8_t> BlockSieve::NextWindow(std::uint64_t end) {
         window[size - 1] &= Wheel30::bitsUpTo[end % 30];
         reached_ = end;
     }
-    return gapReader_.Read({window, size});
+    unread_ = {window, size};
+}
+
+std::span<const std::uint8_t> BlockSieve::NextHalfGaps() {
+    std::span<const std::uint8_t> halfGaps;
+    while (halfGaps.empty() && !unread_.empty()) {
+        const std::size_t count = std::min(unread_.size(), GapReader::mostBytes);
+        halfGaps = gapReader_.Read(unread_.first(count));
+        unread_ = unread_.subspan(count);
+    }
+    return halfGaps;
 }
 
 } // namespace tessarolyne

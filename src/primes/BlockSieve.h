@@ -24,10 +24,13 @@ public:
     // Begins behind the last of the table's known consecutive primes. May throw std::bad_alloc.
     explicit BlockSieve(const PrimeTable& table);
 
-    // Half the gaps between the primes of the next window, the first one counted from the prime handed out
-    // last; none beyond `end`. What was handed out before must be in the table and known by then. Empty when
-    // the window has no prime. Valid until the next call.
-    std::span<const std::uint8_t> NextWindow(std::uint64_t end);
+    // Decides the numbers of the next window, none beyond `end`. What was handed out before must be in the
+    // table and known by then.
+    void DecideWindow(std::uint64_t end);
+
+    // Half the gaps between the window's next primes, the first one counted from the prime handed out last;
+    // valid until the next call. Empty when all of the window has been handed out.
+    std::span<const std::uint8_t> NextHalfGaps();
 
     // Every number up to this one has been decided.
     std::uint64_t Reached() const { return reached_; }
@@ -39,7 +42,6 @@ private:
     const PrimeTable& table_;
     PreSieve preSieve_;
     TurnStrikeList windowStrikers_;
-    TurnStrikeList blockStrikers_;
     StrikeList largeStrikers_;
     PrimeTable::Cursor nextStriker_;
     GapReader gapReader_;
@@ -48,6 +50,7 @@ private:
     std::uint64_t blockByte_;       // the block's first byte in the map of all numbers
     std::uint32_t blockSize_ = 0;   // bytes of the block in use
     std::uint32_t windowStart_ = 0; // the next window's first byte in the block
+    std::span<const std::uint8_t> unread_;
     std::uint64_t reached_;
 };
 

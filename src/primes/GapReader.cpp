@@ -10,9 +10,7 @@ namespace tessarolyne {
 
 namespace {
 
-constexpr std::size_t mostInByte = 7;
-constexpr std::size_t stretchBytes = 512; // their places stay in the first-level cache
-constexpr std::uint8_t byteWay = 15;      // half of 30
+constexpr std::uint8_t byteWay = 15; // half of 30
 
 // Vectors of the compiler, which splits them on machines that have none so wide.
 using Eight = std::uint8_t __attribute__((vector_size(8)));
@@ -20,11 +18,11 @@ using Sixteen = std::uint8_t __attribute__((vector_size(16)));
 
 // For each byte of the map, half the way from its residue 1 to each of its primes, and last their number.
 constexpr auto placesOfByte = [] {
-    std::array<std::array<std::uint8_t, mostInByte + 1>, 256> table{};
+    std::array<std::array<std::uint8_t, 8>, 256> table{};
     for (unsigned byte = 0; byte < 255; ++byte) {
         for (unsigned k = 0; k < 8; ++k) {
             if ((byte >> k) % 2 != 0) {
-                std::uint8_t& count = table[byte][mostInByte];
+                std::uint8_t& count = table[byte][7];
                 table[byte][count++] = static_cast<std::uint8_t>(Wheel30::residues[k] / 2);
             }
         }
@@ -34,10 +32,7 @@ constexpr auto placesOfByte = [] {
 
 } // namespace
 
-GapReader::GapReader(std::uint64_t prime, std::size_t mostBytes)
-    : places_(1 + mostInByte * stretchBytes + sizeof(Sixteen)),
-      halfGaps_(mostInByte * mostBytes + sizeof(Sixteen)),
-      lastPlace_(static_cast<std::uint8_t>(prime % 30 / 2)) {}
+GapReader::GapReader(std::uint64_t prime) : lastPlace_(static_cast<std::uint8_t>(prime % 30 / 2)) {}
 
 // Without a branch, and without waiting for the byte before: eight places are written for every byte of the
 // map, and only as many of them are kept as it has primes.
@@ -68,23 +63,18 @@ std::size_t GapReader::ReadPlaces(std::span<const std::uint8_t> bytes) {
 }
 
 std::span<const std::uint8_t> GapReader::Read(std::span<const std::uint8_t> bytes) {
-    std::uint8_t* end = halfGaps_.data();
-    for (std::size_t done = 0; done < bytes.size(); done += stretchBytes) {
-        places_[0] = lastPlace_;
-        const std::size_t count =
-            ReadPlaces(bytes.subspan(done, std::min(stretchBytes, bytes.size() - done)));
-        for (std::size_t i = 0; i < count; i += sizeof(Sixteen)) {
-            Sixteen from;
-            Sixteen to;
-            std::memcpy(&from, &places_[i], sizeof from);
-            std::memcpy(&to, &places_[i + 1], sizeof to);
-            to -= from;
-            std::memcpy(end + i, &to, sizeof to);
-        }
-        lastPlace_ = places_[count];
-        end += count;
+    places_[0] = lastPlace_;
+    const std::size_t count = ReadPlaces(bytes);
+    for (std::size_t i = 0; i < count; i += sizeof(Sixteen)) {
+        Sixteen from;
+        Sixteen to;
+        std::memcpy(&from, &places_[i], sizeof from);
+        std::memcpy(&to, &places_[i + 1], sizeof to);
+        to -= from;
+        std::memcpy(&halfGaps_[i], &to, sizeof to);
     }
-    return {halfGaps_.data(), end};
+    lastPlace_ = places_[count];
+    return {halfGaps_.data(), count};
 }
 
 } // namespace tessarolyne

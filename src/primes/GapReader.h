@@ -1,9 +1,9 @@
 #pragma once
 
+#include <array>
 #include <cstddef>
 #include <cstdint>
 #include <span>
-#include <vector>
 
 namespace tessarolyne {
 
@@ -13,18 +13,23 @@ namespace tessarolyne {
 // divides one of the eight numbers.
 class GapReader {
 public:
-    // Begins at the byte of `prime`, whose bit and those below it are cleared in the map. Reads up to
-    // `mostBytes` bytes at once.
-    GapReader(std::uint64_t prime, std::size_t mostBytes);
+    // The most bytes that are read at once: their primes stay in the first-level cache.
+    static constexpr std::size_t mostBytes = 2048;
 
-    // Half the gaps of the next bytes, valid until the next call.
+    // Begins at the byte of `prime`, whose bit and those below it are cleared in the map.
+    explicit GapReader(std::uint64_t prime);
+
+    // Half the gaps of the next bytes, up to mostBytes of them; valid until the next call.
     std::span<const std::uint8_t> Read(std::span<const std::uint8_t> bytes);
 
 private:
+    static constexpr std::size_t mostInByte = 7;
+    static constexpr std::size_t room = mostInByte * mostBytes + 16; // vectors write beyond the last one
+
     std::size_t ReadPlaces(std::span<const std::uint8_t> bytes);
 
-    std::vector<std::uint8_t> places_; // half the way from a fixed number to the primes, modulo 256
-    std::vector<std::uint8_t> halfGaps_;
+    std::array<std::uint8_t, 1 + room> places_; // half the way from a fixed number to the primes, modulo 256
+    std::array<std::uint8_t, room> halfGaps_;
     std::uint8_t lastPlace_; // of the last prime
     std::uint8_t start_ = 0; // the place of the next byte's residue 1
 };

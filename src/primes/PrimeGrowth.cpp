@@ -51,13 +51,17 @@ bool VerifyBeginning(PrimeTable& table) {
 
 // Notes how far the entries agree with the primes of one more window.
 void VerifyWindow(PrimeTable& table, BlockSieve& sieve) {
-    const auto halfGaps = sieve.NextWindow(std::numeric_limits<std::uint64_t>::max());
-    const auto left = static_cast<std::size_t>(table.Size() - table.ConsecutiveCount());
-    const std::size_t expected = std::min(halfGaps.size(), left);
-    const std::size_t matches = CountMatches(table, halfGaps.first(expected));
-    table.NoteConsecutive(table.ConsecutiveCount() + static_cast<std::int32_t>(matches));
-    if (matches < expected) {
-        table.NoteOdd();
+    sieve.DecideWindow(std::numeric_limits<std::uint64_t>::max());
+    for (auto halfGaps = sieve.NextHalfGaps(); !halfGaps.empty() && !table.IsConsecutive();
+         halfGaps = sieve.NextHalfGaps()) {
+        const auto left = static_cast<std::size_t>(table.Size() - table.ConsecutiveCount());
+        const std::size_t expected = std::min(halfGaps.size(), left);
+        const std::size_t matches = CountMatches(table, halfGaps.first(expected));
+        table.NoteConsecutive(table.ConsecutiveCount() + static_cast<std::int32_t>(matches));
+        if (matches < expected) {
+            table.NoteOdd();
+            return;
+        }
     }
 }
 
@@ -87,13 +91,9 @@ GrowthEnd GrowBySingleTests(
     return GrowthEnd::Reached;
 }
 
-GrowthEnd GrowBySieve(PrimeTable& table, std::uint64_t end, std::int32_t largestSize, RunControl& run) {
-    BlockSieve sieve(table);
-    while (sieve.Reached() < end) {
-        if (run.MustStop()) {
-            return GrowthEnd::Stopped;
-        }
-        const auto halfGaps = sieve.NextWindow(end);
+// Adds the primes of the window that the sieve has decided.
+GrowthEnd AppendWindow(PrimeTable& table, BlockSieve& sieve, std::int32_t largestSize, RunControl& run) {
+    for (auto halfGaps = sieve.NextHalfGaps(); !halfGaps.empty(); halfGaps = sieve.NextHalfGaps()) {
         const auto room = static_cast<std::size_t>(largestSize - table.Size());
         const auto fitting = halfGaps.first(std::min(halfGaps.size(), room));
         if (static_cast<std::size_t>(table.AppendNextPrimes(fitting)) < fitting.size()) {
@@ -101,6 +101,21 @@ GrowthEnd GrowBySieve(PrimeTable& table, std::uint64_t end, std::int32_t largest
         }
         if (fitting.size() < halfGaps.size()) {
             return GrowthEnd::Full;
+        }
+    }
+    return GrowthEnd::Reached;
+}
+
+GrowthEnd GrowBySieve(PrimeTable& table, std::uint64_t end, std::int32_t largestSize, RunControl& run) {
+    BlockSieve sieve(table);
+    while (sieve.Reached() < end) {
+        if (run.MustStop()) {
+            return GrowthEnd::Stopped;
+        }
+        sieve.DecideWindow(end);
+        const GrowthEnd appended = AppendWindow(table, sieve, largestSize, run);
+        if (appended != GrowthEnd::Reached) {
+            return appended;
         }
     }
     return GrowthEnd::Reached;

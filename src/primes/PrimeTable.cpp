@@ -8,21 +8,40 @@ namespace tessarolyne {
 
 namespace {
 
-// The sum of up to 256 bytes, eight at a time in 16-bit lanes, which 32 words of 255 can't overflow.
-std::uint64_t SumOfBytes(const std::uint8_t* bytes, std::size_t count) {
-    constexpr std::uint64_t everySecondByte = 0x00FF00FF00FF00FF;
-    std::uint64_t lanes = 0;
+// Eight sums of bytes side by side. A vector of the compiler, which splits it on machines that have none.
+using Lanes = std::uint16_t __attribute__((vector_size(16)));
+
+// The sum of up to 256 bytes, each up to 255, which the lanes can't overflow; hands every step's bytes to
+// `use` on the way.
+template <typename Use>
+inline std::uint64_t SumOfBytes(const std::uint8_t* bytes, std::size_t count, Use use) {
+    Lanes lanes{};
     std::size_t i = 0;
-    for (; i + 8 <= count; i += 8) {
-        std::uint64_t word = 0;
-        std::memcpy(&word, bytes + i, 8);
-        lanes += (word & everySecondByte) + ((word >> 8) & everySecondByte);
+    for (; i + sizeof lanes <= count; i += sizeof lanes) {
+        Lanes pairs;
+        std::memcpy(&pairs, bytes + i, sizeof pairs);
+        use(i, pairs);
+        lanes += (pairs & 0xFF) + (pairs >> 8);
     }
-    std::uint64_t sum = (lanes * 0x0001000100010001) >> 48;
+    std::uint64_t sum = 0;
     for (; i < count; ++i) {
+        use(i, bytes[i]);
         sum += bytes[i];
     }
+    for (std::size_t k = 0; k < sizeof lanes / sizeof lanes[0]; ++k) {
+        sum += lanes[k];
+    }
     return sum;
+}
+
+std::uint64_t SumOfBytes(const std::uint8_t* bytes, std::size_t count) {
+    return SumOfBytes(bytes, count, [](std::size_t, auto) {});
+}
+
+// Copies the bytes and gives their sum.
+std::uint64_t CopyAndSum(const std::uint8_t* from, std::size_t count, std::uint8_t* to) {
+    return SumOfBytes(
+        from, count, [to](std::size_t at, auto step) { std::memcpy(to + at, &step, sizeof step); });
 }
 
 bool FitsAsHalfGap(std::uint64_t from, std::uint64_t to) {
@@ -174,9 +193,8 @@ void PrimeTable::NoteConsecutive(std::int32_t count) {
 }
 
 void PrimeTable::AppendWithinBlock(std::span<const std::uint8_t> halfGaps) {
-    std::memcpy(&chunks_.back()->halfGaps[static_cast<std::size_t>(size_ % chunkEntries)], halfGaps.data(),
-        halfGaps.size());
-    last_ += 2 * SumOfBytes(halfGaps.data(), halfGaps.size());
+    std::uint8_t* target = &chunks_.back()->halfGaps[static_cast<std::size_t>(size_ % chunkEntries)];
+    last_ += 2 * CopyAndSum(halfGaps.data(), halfGaps.size(), target);
     size_ += static_cast<std::int32_t>(halfGaps.size());
 }
 
