@@ -1,3 +1,4 @@
+#include "app/CommandLine.h"
 #include "app/Program.h"
 #include "app/Version.h"
 #include "desktop/QtApplication.h"
@@ -9,9 +10,17 @@
 #include "machine/SystemMemory.h"
 #include "platform/System.h"
 
+#include <iostream>
+#include <span>
+
 using namespace tessarolyne;
 
-int main() {
+int main(int count, char** arguments) {
+    const std::span<const char* const> all(arguments, static_cast<std::size_t>(count));
+    if (const auto status = AnswerCommandLine(all.subspan(all.empty() ? 0 : 1), std::cout, std::cerr)) {
+        return *status;
+    }
+
     SystemClock clock;
     PosixFileSystem files;
     SystemMemory memory;
