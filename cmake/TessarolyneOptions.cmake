@@ -10,6 +10,8 @@ option(TESSAROLYNE_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)
 set(TESSAROLYNE_SANITIZE "" CACHE STRING "Sanitizers, as in -fsanitize= (for instance address,undefined)")
 
 set(TESSAROLYNE_SITE "http://www.tessarolyne.example" CACHE STRING "The author's site, without a trailing slash")
+set(TESSAROLYNE_SITE_OF_PICTURES "${TESSAROLYNE_SITE}/pictures"
+    CACHE STRING "Where software centres find the files of docs/pictures")
 set(TESSAROLYNE_SITE_2 "http://www2.tessarolyne.example" CACHE STRING "The second author's site")
 set(TESSAROLYNE_EMAIL "author@tessarolyne.example" CACHE STRING "The author's e-mail address")
 set(TESSAROLYNE_EMAIL_2 "author2@tessarolyne.example" CACHE STRING "The second author's e-mail address")

@@ -21,6 +21,7 @@ packagesForWayland=(qt6-wayland)
 # shellcheck disable=SC2034
 packagesToTest=(
     doctest-dev clang-format
+    desktop-file-utils appstream
     python3 python3-gi gir1.2-atspi-2.0 at-spi2-core dbus-daemon x11-utils xclip
 )
 
