@@ -1,11 +1,14 @@
 #include "desktop/QtApplication.h"
 
 #include "desktop/QtText.h"
+#include "desktop/Resources.h"
 
 #include <QEvent>
+#include <QIcon>
 #include <QSessionManager>
 #include <QSocketNotifier>
 
+#include <string>
 #include <utility>
 
 namespace tessarolyne {
@@ -38,6 +41,7 @@ QtApplication::QtApplication(const std::string& name, const std::string& identif
     setApplicationName(ToQt(name));
     setDesktopFileName(ToQt(identifier));
     setQuitOnLastWindowClosed(false);
+    LoadIcon();
     connect(this, &QGuiApplication::commitDataRequest, this, [this](QSessionManager&) {
         if (OnSessionEnds) {
             OnSessionEnds();
@@ -46,6 +50,20 @@ QtApplication::QtApplication(const std::string& name, const std::string& identif
 }
 
 QtApplication::~QtApplication() = default;
+
+// From the files of the desktop's icon theme, without the theme: to look a name up in it takes 5 ms, and it
+// would bring the largest sizes too, over a megabyte for an X server that shows none of them.
+void QtApplication::LoadIcon() {
+#ifndef Q_OS_MACOS // where the bundle has it
+    QIcon icon;
+    for (const int size : {16, 22, 24, 32, 48, 64, 128}) {
+        const std::string side = std::to_string(size);
+        const std::string folder = "icons/hicolor/" + side + "x" + side + "/apps/";
+        icon.addFile(ResourcePath(folder + desktopFileName().toStdString() + ".png"));
+    }
+    setWindowIcon(icon);
+#endif
+}
 
 void QtApplication::WatchDescriptor(int descriptor, std::function<void()> readable) {
     auto watch = std::make_unique<QSocketNotifier>(descriptor, QSocketNotifier::Read);

@@ -40,6 +40,8 @@ public:
     bool event(QEvent* event) override;
 
 private:
+    void LoadIcon();
+
     std::vector<std::unique_ptr<QSocketNotifier>> watches_;
 };
 

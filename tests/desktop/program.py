@@ -117,15 +117,8 @@ class Program:
         self._screen.click(left + width + right_border - title_height // 2, top - title_height // 2)
 
     def _find_window(self):
-        found = subprocess.run(
-            ["xdotool", "search", "--all", "--onlyvisible"]
-            + ["--pid", str(self._process.pid), "--name", f"^{WINDOW_TITLE}$"],
-            env=self._screen.environment,
-            capture_output=True,
-            text=True,
-            check=False,
-        )
-        return found.stdout.split("\n")[0]
+        found = self._screen.find_windows(f"^{WINDOW_TITLE}$", "--pid", str(self._process.pid))
+        return found[0] if found else None
 
     def _has_focus(self):
         return any(Control(accessible).focused for accessible in descendants(self.accessible))

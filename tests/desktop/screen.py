@@ -75,6 +75,13 @@ class Screen:
             command, env=self.environment, stdin=subprocess.DEVNULL, capture_output=True, text=True, check=True
         ).stdout
 
+    def find_windows(self, title, *options):
+        """The ids of the windows on the screen whose title matches; none is no failure, as it is to xdotool."""
+        command = ["xdotool", "search", "--all", "--onlyvisible", *options, "--name", title]
+        return subprocess.run(
+            command, env=self.environment, stdin=subprocess.DEVNULL, capture_output=True, text=True, check=False
+        ).stdout.split()
+
     def press(self, *keys):
         """Presses keys one after the other, as "Tab" or "ctrl+q", on whatever has the focus.
 

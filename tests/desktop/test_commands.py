@@ -30,7 +30,7 @@ class PrimeFile(ProgramTestCase):
     def test_primes_are_computed_saved_and_found_again(self):
         target = Path(self._home) / "primes.txt"
         self.press_button("BevelButtonListe")
-        self.program.wait_for(lambda: self.screen.run("xdotool", "search", "--name", "Liste des Nombres"), "the list")
+        self.program.wait_for(lambda: self.screen.find_windows("^Liste des Nombres"), "the list")
         self.wait_for_focus("EditFieldFin")
         self.screen.press("ctrl+a")
         self.screen.type("987")

@@ -1,8 +1,10 @@
 """The window opens, closes and comes back where it was."""
 
+import re
 import signal
 
 from case import ProgramTestCase
+from screen import ROOT
 
 
 class Quitting(ProgramTestCase):
@@ -28,6 +30,14 @@ class Quitting(ProgramTestCase):
 
 
 class Window(ProgramTestCase):
+    def test_the_desktop_knows_the_window_and_shows_an_icon(self):
+        entry = (ROOT / "resources/linux/org.tessarolyne.Tessarolyne.desktop").read_text()
+        window_class = re.search("^StartupWMClass=(.*)$", entry, re.MULTILINE).group(1)
+        properties = self.screen.run("xprop", "-id", self.program.window, "WM_CLASS", "_NET_WM_ICON")
+        self.assertIn(f', "{window_class}"\n', properties)
+        sizes = re.findall(r"Icon \((\d+) x \1\)", properties)
+        self.assertEqual(["16", "22", "24", "32", "48", "64", "128"], sorted(sizes, key=int))
+
     def test_the_window_cannot_be_resized(self):
         before = self.program.size
         hints = self.screen.run("xprop", "-id", self.program.window, "WM_NORMAL_HINTS")
