@@ -15,6 +15,7 @@ set(TESSAROLYNE_SITE_OF_PICTURES "${TESSAROLYNE_SITE}/pictures"
 set(TESSAROLYNE_SITE_2 "http://www2.tessarolyne.example" CACHE STRING "The second author's site")
 set(TESSAROLYNE_EMAIL "author@tessarolyne.example" CACHE STRING "The author's e-mail address")
 set(TESSAROLYNE_EMAIL_2 "author2@tessarolyne.example" CACHE STRING "The second author's e-mail address")
+set(TESSAROLYNE_MAINTAINER "The Tessarolyne authors <${TESSAROLYNE_EMAIL}>" CACHE STRING "Who makes the packages")
 set(TESSAROLYNE_BUILD_TOOL_SITE "http://www.buildtool.example" CACHE STRING "The build tool's site")
 
 find_program(CCACHE_PROGRAM ccache)

@@ -13,6 +13,10 @@ packagesToRun=(g++ cmake ninja-build qt6-base-dev qt6-qpa-plugins qt6-l10n-tools
 # shellcheck disable=SC2034
 packagesForVirtualDisplay=(xvfb openbox imagemagick)
 
+# What packs the program for Debian.
+# shellcheck disable=SC2034
+packagesToPackage=(dpkg-dev file gzip)
+
 # A desktop with Wayland alone.
 # shellcheck disable=SC2034
 packagesForWayland=(qt6-wayland)
