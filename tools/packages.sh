@@ -33,6 +33,10 @@ packagesToTest=(
 # shellcheck disable=SC2034
 packagesForLongTests=(clang clang-tidy libclang-rt-14-dev shellcheck)
 
+# What only the test of the package needs.
+# shellcheck disable=SC2034
+packagesToTestThePackage=(lintian debootstrap)
+
 # The programs and libraries that bench/ measures ours beside.
 # shellcheck disable=SC2034
 packagesForBenchmarks=(libx11-dev speedcrunch kcalc galculator pkg-config libicu-dev libnumbertext-dev
