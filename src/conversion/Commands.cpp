@@ -5,6 +5,7 @@
 #include "platform/MenuBar.h"
 #include "platform/Text.h"
 #include "primes/WinNbresPremiers.h"
+#include "ui/Localisation.h"
 
 namespace tessarolyne {
 
@@ -58,6 +59,8 @@ void WinMain::HoldMenuForCalculation(bool hold) {
 
 void WinMain::TurnWheel(bool& reason, bool on) {
     reason = on;
+    ProgressWheel1.AccessibleName =
+        factorsTakeTime_ ? Localisation::GpBox2() : Localisation::Menu_AppleVMaJ();
     ProgressWheel1.Visible = factorsTakeTime_ || checkTakesTime_;
 }
 

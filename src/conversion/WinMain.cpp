@@ -28,8 +28,8 @@ WinMain::WinMain(Program& owner)
     : ProgramWindow(owner, "Tessarolyne", 550, 594, WindowFrame{}),
       TimerTempo(owner.services.loop, recalculationDelay), TimerQuit(owner.services.loop, quitPeriod),
       TimerThr(owner.services.loop, handOverPeriod), TimerVerMaJ(owner.services.loop, handOverPeriod),
-      SocketVerMaJ(owner.services.http), slowCheck_(owner.services.loop, moment),
-      ThreadDecPrems(owner.services.loop) {
+      SocketVerMaJ(owner.services.http), Progress(owner.services.loop, Nbres_Premiers, CheckBoxFormatAuto),
+      slowCheck_(owner.services.loop, moment), ThreadDecPrems(owner.services.loop) {
     SetInitialState();
     NameForScreenReaders();
     BindEvents();

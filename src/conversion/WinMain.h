@@ -13,6 +13,7 @@
 #include "platform/TextField.h"
 #include "platform/Thread.h"
 #include "platform/Timer.h"
+#include "primes/CalculationProgress.h"
 #include "primes/PrimeTable.h"
 #include "primes/RunControl.h"
 #include "ui/BlockingOverlay.h"
@@ -117,6 +118,7 @@ public:
     std::int16_t ThrNo = 0;        // what TimerThr has to do: 3 show the factors, 4 end the list's run
     std::uint64_t ThrPn1 = 0;      // the number or limit that the running thread works on
     std::int64_t TicksFinCalc = 0; // when a calculation on the main thread has to give up
+    CalculationProgress Progress;  // how far the calculation on a thread is, in words
 
     // --- Operations that others call ---
 

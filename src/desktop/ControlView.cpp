@@ -6,6 +6,7 @@
 #include "desktop/PopupMenuView.h"
 #include "desktop/QtText.h"
 #include "desktop/ShowingViews.h"
+#include "desktop/WheelView.h"
 
 #include <utility>
 
@@ -97,7 +98,7 @@ std::unique_ptr<ControlView> MakeControlView(Control& control, QWidget* parent) 
         &MakeIf<PopupMenu, PopupMenuView>,
         &MakeIf<Label, LabelView>,
         &MakeIf<GroupBox, GroupBoxView>,
-        &MakeIf<ProgressWheel, ProgressWheelView>,
+        &MakeIf<ProgressWheel, WheelView>,
         &MakeIf<ProgressBar, ProgressBarView>,
         &MakeIf<Canvas, CanvasView>,
     };

@@ -5,12 +5,10 @@
 #include "desktop/Pressable.h"
 #include "desktop/QtText.h"
 
-#include <QBasicTimer>
 #include <QGroupBox>
 #include <QLabel>
 #include <QPainter>
 #include <QProgressBar>
-#include <QTimerEvent>
 
 #include <algorithm>
 
@@ -38,40 +36,6 @@ protected:
         }
         Pressable::paintEvent(event);
     }
-};
-
-class WheelWidget final : public QWidget {
-public:
-    using QWidget::QWidget;
-
-protected:
-    void showEvent(QShowEvent*) override { timer_.start(turnPeriod, this); }
-    void hideEvent(QHideEvent*) override { timer_.stop(); }
-    void timerEvent(QTimerEvent*) override {
-        turn_ = (turn_ + 1) % spokes;
-        update();
-    }
-    void paintEvent(QPaintEvent*) override {
-        QPainter painter(this);
-        painter.setRenderHint(QPainter::Antialiasing);
-        const qreal radius = std::min(width(), height()) / 2.0;
-        painter.translate(width() / 2.0, height() / 2.0);
-        QColor color = palette().color(QPalette::WindowText);
-        for (int i = 0; i < spokes; ++i) {
-            color.setAlphaF(0.15F + 0.85F * static_cast<float>((i + spokes - turn_) % spokes) / spokes);
-            painter.save();
-            painter.rotate(-360.0 * i / spokes);
-            painter.setPen(QPen(color, radius / 6, Qt::SolidLine, Qt::RoundCap));
-            painter.drawLine(QPointF(0, -radius * 0.5), QPointF(0, -radius * 0.85));
-            painter.restore();
-        }
-    }
-
-private:
-    static constexpr int spokes = 12;
-    static constexpr int turnPeriod = 80; // milliseconds a spoke
-    QBasicTimer timer_;
-    int turn_ = 0;
 };
 
 } // namespace
@@ -108,9 +72,6 @@ void GroupBoxView::Read() {
         box_->setTitle(caption);
     }
 }
-
-ProgressWheelView::ProgressWheelView(ProgressWheel& model, QWidget* parent)
-    : ControlView(model, new WheelWidget(parent)) {}
 
 ProgressBarView::ProgressBarView(ProgressBar& model, QWidget* parent)
     : ControlView(model, new QProgressBar(parent)), model_(model),

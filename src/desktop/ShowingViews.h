@@ -5,7 +5,6 @@
 #include "platform/GroupBox.h"
 #include "platform/Label.h"
 #include "platform/ProgressBar.h"
-#include "platform/ProgressWheel.h"
 
 class QGroupBox;
 class QLabel;
@@ -39,15 +38,6 @@ protected:
 private:
     GroupBox& model_;
     QGroupBox* const box_;
-};
-
-// Spokes that turn; the timer runs only while they can be seen.
-class ProgressWheelView final : public ControlView {
-public:
-    ProgressWheelView(ProgressWheel& model, QWidget* parent);
-
-protected:
-    void Read() override {}
 };
 
 class ProgressBarView final : public ControlView {

@@ -34,6 +34,7 @@ void WinMain::TimerThr_Action(Timer& timer) {
     if (ThrNo == factorsAreThere) {
         HoldMenuForCalculation(false);
         TurnWheel(factorsTakeTime_, false);
+        Progress.End();
         DecompPremFin(ThrPn1);
     } else if (ThrNo == listRunHasEnded) {
         program.winNbresPremiers().ButtCalcPremsFin();

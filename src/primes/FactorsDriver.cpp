@@ -46,6 +46,7 @@ void WinMain::RunFactorsOnThread(std::uint64_t n) {
     TxtAreaDecomp1er.Text = Localisation::Txt_Attente();
     HoldMenuForCalculation(true);
     ThrPn1 = n;
+    Progress.Follow(ProgressWheel1, n);
     ThreadDecPrems.Start();
 }
 

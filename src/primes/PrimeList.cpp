@@ -103,6 +103,7 @@ void WinNbresPremiers::PushButtonCalcPrems_Action(PushButton&) {
     ProgressWheel2.Visible = true;
     main.HoldMenuForCalculation(true);
     main.ThrPn1 = limit;
+    main.Progress.Follow(ProgressWheel2, limit);
     ThreadCalcPrems.Start();
 }
 
@@ -123,6 +124,7 @@ void WinNbresPremiers::ButtCalcPremsFin() {
         FaireListe(true, false);
     }
     ProgressWheel2.Visible = false;
+    main.Progress.End();
     main.HoldMenuForCalculation(false);
     main.CalculEnCours = false;
     main.TellWhyRunEnded();

@@ -68,6 +68,7 @@ void WinNbresPremiers::SetInitialState() {
     EditFieldFin.AccessibleName = Localisation::Btn_CalcPrems();
     EditFieldAffDu.AccessibleName = Localisation::StTextAffDu();
     EditFieldAffAu.AccessibleName = Localisation::StTextAffDu() + " … " + Localisation::StTextAffAu();
+    ProgressWheel2.AccessibleName = Localisation::WinNbresTitre();
     TxtAreaListeNbres1ers.AccessibleName = Localisation::WinNbresTitre();
     EditFieldNbNbresLigne.AccessibleName = Localisation::EdFieldNbNbresLigne_HT();
 }

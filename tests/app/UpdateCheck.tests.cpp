@@ -245,6 +245,7 @@ TEST_CASE("A check from the menu shows that it is under way once it takes longer
     CHECK_FALSE(wheel.Visible());
     world.loop.Advance(1);
     CHECK(wheel.Visible());
+    CHECK(wheel.AccessibleName() == "Vérifier les mises à jour…");
     ChooseCheck(world);
     world.dialogs.Expect(DialogButton::Action);
     Answer(world, File(here));
@@ -272,6 +273,7 @@ TEST_CASE("The wheel turns until both the check and the factors are there, which
     CHECK(window.TxtAreaDecomp1er.Text() == "2 x 3");
     CHECK(window.ProgressWheel1.Visible());
     window.DecompPremDeb(false);
+    CHECK(window.ProgressWheel1.AccessibleName() == "Décomposition en Nombres Premiers");
     Answer(world, File(here));
     CHECK(window.ProgressWheel1.Visible());
     world.dialogs.Expect(DialogButton::Action);

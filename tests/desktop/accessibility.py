@@ -53,8 +53,18 @@ class Control:
     def text(self):
         """The text of a field or area; of a combo box, the row that is chosen."""
         if self._accessible.get_role() == Atspi.Role.COMBO_BOX:
-            return self._accessible.get_description()
+            return self.description
         return Atspi.Text.get_text(self._accessible, 0, Atspi.Text.get_character_count(self._accessible))
+
+    @property
+    def description(self):
+        """What a screen reader adds to the name."""
+        return self._accessible.get_description()
+
+    @property
+    def value(self):
+        """How far a progress bar is."""
+        return int(Atspi.Value.get_current_value(self._accessible))
 
     @property
     def focused(self):

@@ -54,3 +54,19 @@ class Outputs(ProgramTestCase):
         self.clear("EditFieldMonnaies")
         self.screen.type("pounds")
         self.wait_for_text("TxtAreaLettres", "Twenty-one pounds eighty centimes")
+
+    def test_a_long_calculation_says_how_far_it_is(self):
+        self.press_button("BevelButtonListe")
+        self.clear("EditFieldFin")
+        self.screen.type("999999999999")
+        self.screen.press("Return")
+        wheel = self.find("progress bar", "Liste des Nombres Premiers")
+        told = self.program.wait_for(lambda: wheel.value, "the first prime to be told")
+        self.program.wait_for(
+            lambda: wheel.value > told and wheel.description.replace(" ", "") == f"2,3,5,7…{wheel.value}",
+            lambda: f"words for a prime beyond {told}, not “{wheel.description}”",
+        )
+        self.screen.press("Escape")
+        self.wait_until_gone("progress bar", "Liste des Nombres Premiers")
+        self.assertEqual(wheel.description, "")
+        self.press_button("BevelButtonListe")

@@ -99,11 +99,15 @@ TEST_CASE("Escape stops a run once, with its sound, and the hint stands; with no
     world.memory.available = std::uint64_t{1} << 40; // a long way to the largest factor
     window.EditFieldNbre.Text = "999999999998";      // twice a large prime
     window.DecompPremDeb(true);
+    world.loop.Advance(250);
+    CHECK_FALSE(window.ProgressWheel1.HelpTag().empty());
+    CHECK(window.ProgressWheel1.Maximum == 999999999998);
     CHECK_FALSE(window.EditFieldNbre.UserPressedKey(Chr(27)));
     CHECK(window.UserPressedKey(Chr(27)));
     CHECK(world.sounds.played == std::vector<std::string>{"Zoum.wav"});
     world.Settle();
     CHECK(window.TxtAreaDecomp1er.Text() == hint);
+    CHECK(window.ProgressWheel1.HelpTag().empty());
     CHECK(window.PushButtDecomposer.Enabled());
     CHECK(world.program->fncts.ArretUrg);
     CHECK(window.Nbres_Premiers[3] == 7);

@@ -107,12 +107,16 @@ TEST_CASE("A stopped run leaves the list as it was; the next prime brings it up 
     list.EditFieldFin.Text = "999999999999";
     open.world.memory.available = std::uint64_t{1} << 40;
     list.PushButtonCalcPrems.UserPressed();
+    open.world.loop.Advance(250);
+    CHECK_FALSE(list.ProgressWheel2.HelpTag().empty());
+    CHECK(list.ProgressWheel2.Maximum == 999999999999);
     CHECK(list.UserPressedKey(Chr(27)));
     CHECK_FALSE(list.UserPressedKey(Chr(9)));
     open.world.Settle();
     WinMain& window = open.world.Main();
     CHECK(list.TxtAreaListeNbres1ers.Text() == "\t2\t3\t5\t7");
     CHECK(list.EditFieldFin.Text() == std::to_string(window.Nbres_Premiers.Back()));
+    CHECK(list.ProgressWheel2.HelpTag().empty());
     CHECK(list.Ind_DerPrem == window.Nbres_Premiers.UpperBound());
     list.FaireListe(false, false);
     CHECK(list.StaticTextNbNbre1ers.Text() == "4 nombres premiers");

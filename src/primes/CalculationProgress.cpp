@@ -1,0 +1,55 @@
+#include "primes/CalculationProgress.h"
+
+#include "conversion/NumberFormat.h"
+#include "platform/CheckBox.h"
+#include "platform/ProgressWheel.h"
+#include "primes/PrimeTable.h"
+
+#include <algorithm>
+#include <string>
+
+namespace tessarolyne {
+
+namespace {
+
+constexpr int lookPeriod = 250;      // milliseconds
+constexpr int looksBetweenWords = 4; // speech takes its time
+
+} // namespace
+
+CalculationProgress::CalculationProgress(EventLoop& loop, const PrimeTable& table, const CheckBox& formatAuto)
+    : table_(table), formatAuto_(formatAuto), timer_(loop, lookPeriod) {
+    timer_.Action = [this] { Tell(); };
+}
+
+void CalculationProgress::Follow(ProgressWheel& wheel, std::uint64_t goal) {
+    End();
+    wheel_ = &wheel;
+    wheel.Maximum = static_cast<std::int64_t>(goal);
+    looks_ = 0;
+    timer_.Mode = 2;
+}
+
+void CalculationProgress::End() {
+    timer_.Mode = 0;
+    if (wheel_ != nullptr) {
+        wheel_->HelpTag = "";
+        wheel_->Spoken = "";
+        wheel_->Value = 0;
+        wheel_->Maximum = 0;
+        wheel_ = nullptr;
+    }
+}
+
+void CalculationProgress::Tell() {
+    const std::uint64_t reached = table_.LastReached();
+    // The beginning of the primes says in every language what the number is.
+    const std::string words = "2, 3, 5, 7 … " + FormatWhole(reached, formatAuto_.Value);
+    wheel_->HelpTag = words;
+    if (looks_++ % looksBetweenWords == 0) {
+        wheel_->Spoken = words;
+        wheel_->Value = std::min(static_cast<std::int64_t>(reached), wheel_->Maximum());
+    }
+}
+
+} // namespace tessarolyne

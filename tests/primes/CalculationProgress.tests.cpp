@@ -1,0 +1,43 @@
+#include "support/TestWorld.h"
+
+#include <doctest/doctest.h>
+
+#include <string>
+#include <vector>
+
+using namespace tessarolyne;
+using namespace tessarolyne::tests;
+
+TEST_CASE("A run's wheel tells its last prime four times a second to the eye, once a second to the ear") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    ProgressWheel& wheel = window.ProgressWheel1;
+    std::vector<std::string> seen{""};
+    std::vector<std::string> heard{""};
+    std::vector<std::int64_t> values{0};
+    const auto note = [](auto& list, const auto& now) {
+        if (list.back() != now) {
+            list.push_back(now);
+        }
+    };
+    const Connection connection = wheel.Changed.Connect([&] {
+        note(seen, wheel.HelpTag());
+        note(heard, wheel.Spoken());
+        note(values, wheel.Value());
+    });
+
+    window.Progress.Follow(wheel, 1200);
+    for (const std::uint64_t limit : {100U, 1000U, 1100U, 1150U, 2000U, 2100U}) {
+        world.loop.Advance(249);
+        window.NbresPremCalc(limit, false);
+        world.loop.Advance(1);
+    }
+    window.Progress.End();
+    world.loop.Advance(1000);
+    const std::string upTo = "2, 3, 5, 7 … ";
+    CHECK(seen == std::vector<std::string>{"", upTo + "101", upTo + "997", upTo + "1 097", upTo + "1 151",
+                      upTo + "1 999", upTo + "2 099", ""});
+    CHECK(heard == std::vector<std::string>{"", upTo + "101", upTo + "1 999", ""});
+    CHECK(values == std::vector<std::int64_t>{0, 101, 1200, 0}); // never beyond the goal
+    CHECK(wheel.Maximum == 0);
+}
