@@ -3,6 +3,7 @@
 #include "conversion/NumberFormat.h"
 #include "platform/CheckBox.h"
 #include "platform/ProgressWheel.h"
+#include "platform/Text.h"
 #include "primes/PrimeTable.h"
 
 #include <algorithm>
@@ -14,6 +15,7 @@ namespace {
 
 constexpr int lookPeriod = 250;      // milliseconds
 constexpr int looksBetweenWords = 4; // speech takes its time
+constexpr const char* noBreakSpace = "\u00A0";
 
 } // namespace
 
@@ -45,7 +47,7 @@ void CalculationProgress::Tell() {
     const std::uint64_t reached = table_.LastReached();
     // The beginning of the primes says in every language what the number is.
     const std::string words = "2, 3, 5, 7 … " + FormatWhole(reached, formatAuto_.Value);
-    wheel_->HelpTag = words;
+    wheel_->HelpTag = ReplaceAll(words, " ", noBreakSpace); // else it breaks inside the number
     if (looks_++ % looksBetweenWords == 0) {
         wheel_->Spoken = words;
         wheel_->Value = std::min(static_cast<std::int64_t>(reached), wheel_->Maximum());

@@ -1,3 +1,4 @@
+#include "platform/Text.h"
 #include "support/TestWorld.h"
 
 #include <doctest/doctest.h>
@@ -35,8 +36,9 @@ TEST_CASE("A run's wheel tells its last prime four times a second to the eye, on
     window.Progress.End();
     world.loop.Advance(1000);
     const std::string upTo = "2, 3, 5, 7 … ";
-    CHECK(seen == std::vector<std::string>{"", upTo + "101", upTo + "997", upTo + "1 097", upTo + "1 151",
-                      upTo + "1 999", upTo + "2 099", ""});
+    const std::string inOneLine = ReplaceAll(upTo, " ", "\u00A0");
+    CHECK(seen == std::vector<std::string>{"", inOneLine + "101", inOneLine + "997", inOneLine + "1\u00A0097",
+                      inOneLine + "1\u00A0151", inOneLine + "1\u00A0999", inOneLine + "2\u00A0099", ""});
     CHECK(heard == std::vector<std::string>{"", upTo + "101", upTo + "1 999", ""});
     CHECK(values == std::vector<std::int64_t>{0, 101, 1200, 0}); // never beyond the goal
     CHECK(wheel.Maximum == 0);
