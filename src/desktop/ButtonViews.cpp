@@ -33,15 +33,22 @@ protected:
         QStylePainter painter(this);
         QStyleOptionButton option;
         initStyleOption(&option);
-        painter.drawControl(QStyle::CE_PushButtonBevel, option);
         const Picture& icon = model_.Icon();
-        if (!(icon == Picture())) {
+        const bool isColour = icon.Resource.empty() && icon.Width > 0;
+        if (isColour) {
+            option.palette.setColor(QPalette::Button, QColor::fromRgb(icon.Fill));
+        }
+        painter.drawControl(QStyle::CE_PushButtonBevel, option);
+        if (isColour && !isDown()) {
+            // Inside the frame: an area of the picture's size and offset would lie on its left side.
+            painter.fillRect(rect().adjusted(2, 2, -2, -2), QColor::fromRgb(icon.Fill));
+        } else if (!isColour && !(icon == Picture())) {
             QRect face(0, 0, icon.Width, icon.Height);
             face.moveCenter(rect().center());
             face.translate(model_.IconDX, model_.IconDY);
             DrawPicture(painter, icon, face);
-            option.palette.setColor(QPalette::ButtonText, TextColorOn(icon, option.palette));
         }
+        option.palette.setColor(QPalette::ButtonText, TextColorOn(icon, option.palette));
         painter.drawControl(QStyle::CE_PushButtonLabel, option);
         if (hasFocus()) {
             QStyleOptionFocusRect focus;
