@@ -29,7 +29,7 @@ class Screen:
             cls._shared = cls()
         return cls._shared
 
-    def __init__(self):
+    def __init__(self, size="1280x1024"):
         self._processes = []
         OUTPUT.mkdir(parents=True, exist_ok=True)
         for picture in OUTPUT.glob("*.png"):
@@ -45,7 +45,7 @@ class Screen:
             "GSETTINGS_BACKEND": "memory",
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
         }
-        self.environment["DISPLAY"] = self._start_x_server()
+        self.environment["DISPLAY"] = self._start_x_server(size)
         self._start_window_manager()
         # The bus starts the accessibility bus itself when the first one asks for it.
         self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_and_read(
@@ -134,10 +134,10 @@ class Screen:
             raise RuntimeError(f"{name} ended at once; see {OUTPUT / name}.log")
         return line
 
-    def _start_x_server(self):
+    def _start_x_server(self, size):
         number = self._start_and_read(
             "xvfb",
-            ["Xvfb", "-displayfd", "{fd}", "-screen", "0", "1280x1024x24", "-nolisten", "tcp", "-noreset"],
+            ["Xvfb", "-displayfd", "{fd}", "-screen", "0", f"{size}x24", "-nolisten", "tcp", "-noreset"],
         )
         return f":{number}"
 
