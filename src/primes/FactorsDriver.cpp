@@ -86,9 +86,9 @@ void WinMain::DecompPremFin(std::uint64_t n) {
         if (product != n) {
             ReportFactorMismatch(product, n);
         }
-    }
-    if (BevelButtonListe.Value) {
-        program.winNbresPremiers().FaireListe(false, false);
+        if (BevelButtonListe.Value) {
+            program.winNbresPremiers().FaireListe(false, false);
+        }
     }
     TxtAreaDecomp1er.Text = text;
     CalculEnCours = false;

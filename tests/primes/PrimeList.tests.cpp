@@ -126,11 +126,14 @@ TEST_CASE("A stopped run leaves the list as it was; the next prime brings it up 
     CHECK(list.StaticTextNbNbre1ers.Text() != "4 nombres premiers");
 }
 
-TEST_CASE("A factorisation that found primes brings the open list up to date") {
+TEST_CASE("A factorisation that found primes brings the open list up to date once it has a result") {
     OpenList open(7);
     open.world.Type(open.world.Main().EditFieldNbre, "22");
     CHECK(open.List().TxtAreaListeNbres1ers.Text() == "\t2\t3\t5\t7"); // the range that is shown stays
     CHECK(open.world.Main().Nbres_Premiers.Back() == 11);
+    CHECK(open.List().StaticTextNbNbre1ers.Text() == "5 nombres premiers");
+    open.world.Type(open.world.Main().EditFieldNbre, "999999999989"); // gives up
+    CHECK(open.world.Main().Nbres_Premiers.UpperBound() > 5);
     CHECK(open.List().StaticTextNbNbre1ers.Text() == "5 nombres premiers");
 }
 
