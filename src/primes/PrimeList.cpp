@@ -17,9 +17,10 @@ namespace {
 
 constexpr std::int64_t columns = 6;
 
-// What the user entered as a rank, counted from 0; -1 for nothing or 0.
+// What the user entered as a rank, counted from 0; -1 for nothing or 0. Beyond the last rank that a table can
+// have all are alike.
 std::int64_t EnteredRank(std::string_view text) {
-    return static_cast<std::int64_t>(ToUInt64(Round(Val(ReplaceAll(text, " ", ""))))) - 1;
+    return std::int64_t{ToInt32(Round(Val(ReplaceAll(text, " ", ""))))} - 1;
 }
 
 struct Slice {

@@ -61,6 +61,8 @@ TEST_CASE("A range is cut to 2000 primes at the end that the Return key chooses,
     CHECK(open.Show("1", "0", false) == "8001-10000");
     CHECK(open.Show("1", "", false) == "8001-10000");
     CHECK(open.Show("9500", "99999", true) == "9500-10000");
+    CHECK(open.Show("10000000000000000000", "1e30", true) == "8001-10000");
+    CHECK(open.Show("-5", "-9223372036854775809", true) == "1-2000");
     CHECK(open.Show("3 000", "3 010", true) == "3000-3010");
     CHECK_FALSE(open.List().EditFieldAffDu.UserPressedKey("5"));
 }
