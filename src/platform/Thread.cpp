@@ -27,7 +27,12 @@ void Thread::Start() {
     }
     state_.store(running, std::memory_order_release);
     afterBody_.clear();
-    thread_ = std::jthread([this] { Body(); });
+    try {
+        thread_ = std::jthread([this] { Body(); });
+    } catch (const std::exception& refusal) {
+        state_.store(notRunning, std::memory_order_release);
+        loop_.Post([this, reason = std::string(refusal.what())] { Failed(reason); });
+    }
 }
 
 void Thread::Body() {

@@ -26,7 +26,7 @@ public:
     Thread(const Thread&) = delete;
     Thread& operator=(const Thread&) = delete;
 
-    // Starts the body; nothing if it runs.
+    // Starts the body; nothing if it runs. A thread that the system refuses fails like a body.
     void Start();
     int State() const { return state_.load(std::memory_order_acquire); }
 
@@ -39,7 +39,7 @@ public:
     const int StackSize; // 0: the platform's own
 
     Event<void()> Run;
-    // On the main thread, with the reason, after a body that ended by an exception.
+    // On the main thread, with the reason: after a body that ended by an exception, or could not begin.
     Event<void(const std::string& reason)> Failed;
 
 private:

@@ -4,6 +4,10 @@
 
 #include <doctest/doctest.h>
 
+#include <cstddef>
+#include <pthread.h>
+#include <stdexcept>
+
 using namespace tessarolyne;
 using namespace tessarolyne::tests;
 
@@ -14,6 +18,23 @@ const std::string errNbre = "#Erreur Nbre !";
 
 // A number with two large factors, too hard for the half second of a typist on a short table.
 constexpr const char* hardNumber = "999999999989";
+
+// As long as it lives the system refuses every thread: no address space holds such a stack.
+class HugeStacks {
+public:
+    HugeStacks() {
+        REQUIRE(pthread_getattr_default_np(&usual_) == 0);
+        pthread_attr_t huge = usual_;
+        REQUIRE(pthread_attr_setstacksize(&huge, std::size_t{1} << 52) == 0);
+        REQUIRE(pthread_setattr_default_np(&huge) == 0);
+    }
+    ~HugeStacks() { pthread_setattr_default_np(&usual_); }
+    HugeStacks(const HugeStacks&) = delete;
+    HugeStacks& operator=(const HugeStacks&) = delete;
+
+private:
+    pthread_attr_t usual_{};
+};
 
 void GrowTable(TestWorld& world, std::uint64_t limit) {
     world.Main().NbresPremCalc(limit, false);
@@ -173,16 +194,27 @@ TEST_CASE("A hand-over of a step that doesn't exist is an internal error, and th
         world.dialogs.told.back() == "Error ! Please contact the authors, TimerThr\nThrNo 9 , Which Case ?");
 }
 
-TEST_CASE("A failure inside the thread ends the run like a stop, and the program goes on") {
+TEST_CASE("A failure inside the thread or of its start ends the run like a stop, and the program goes on") {
     TestWorld world;
     WinMain& window = world.Main();
     GrowTable(world, 1000);
-    window.EditFieldNbre.Text = "6";
-    window.ThreadDecPrems.Run = [] { throw std::runtime_error("planted"); };
+    world.Type(window.EditFieldNbre, "6"); // so that no recalculation is due
     world.dialogs.ExpectTell();
-    window.DecompPremDeb(false);
+    SUBCASE("inside") {
+        window.ThreadDecPrems.Run = [] { throw std::runtime_error("planted"); };
+        window.DecompPremDeb(false);
+    }
+    SUBCASE("at its start") {
+        const HugeStacks noThread;
+        window.DecompPremDeb(false);
+    }
+    CHECK(window.CalculEnCours);
     world.Settle();
     CHECK(window.TxtAreaDecomp1er.Text() == hint);
     CHECK(world.program->fncts.DrapMenu);
-    CHECK(world.dialogs.told.back() == "Error ! Please contact the authors.\nThread, planted");
+    CHECK(world.dialogs.told.back().starts_with("Error ! Please contact the authors.\nThread, "));
+    window.ThreadDecPrems.Run = [&] { window.ThreadDecPrems_Run(window.ThreadDecPrems); };
+    window.DecompPremDeb(false);
+    world.Settle();
+    CHECK(window.TxtAreaDecomp1er.Text() == "2 x 3");
 }
