@@ -1,7 +1,7 @@
 #include "words/AmountInWords.h"
 
+#include "platform/Text.h"
 #include "words/EnglishWords.h"
-#include "words/FirstLetter.h"
 #include "words/FrenchWords.h"
 
 #include <algorithm>
@@ -79,8 +79,8 @@ std::string AmountInWords(double value, const AmountSettings& settings) {
     total += ' ';
     total += Counted(Cents(value), settings.singularCents, settings.pluralCents, settings);
     if (settings.capital) {
-        const std::string_view first = FirstLetter(total);
-        total.replace(0, first.size(), UpperCaseLetter(first));
+        const std::string first = Left(total, 1);
+        total.replace(0, first.size(), Uppercase(first));
     }
     return total;
 }

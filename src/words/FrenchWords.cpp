@@ -1,6 +1,6 @@
 #include "words/FrenchWords.h"
 
-#include "words/FirstLetter.h"
+#include "platform/Text.h"
 
 #include <algorithm>
 #include <array>
@@ -154,7 +154,7 @@ void AddScale(std::string& word, int rang) {
 // "H" isn't in the list though French often elides before it, and an accented letter isn't its plain one.
 bool TakesElision(std::string_view currency) {
     static constexpr std::array<std::string_view, 7> eliding = {"€", "A", "E", "I", "O", "U", "Y"};
-    const std::string first = UpperCaseLetter(FirstLetter(currency));
+    const std::string first = Uppercase(Left(currency, 1));
     return std::find(eliding.begin(), eliding.end(), first) != eliding.end();
 }
 

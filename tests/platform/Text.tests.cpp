@@ -139,7 +139,8 @@ TEST_CASE("Blanks are trimmed, other white space isn't") {
 TEST_CASE("Every letter of the Latin blocks that has its capital there gets it") {
     CHECK(Uppercase("straße, élan ñ ÿ ÷ œuvre ž") == "STRAßE, ÉLAN Ñ Ÿ ÷ ŒUVRE Ž");
     CHECK(Uppercase("ıſĸŉ\xC3") == "ıſĸŉ\xC3");
-    CHECK(Uppercase("ĺŀńňŋŭŷźī") == "ĹĿŃŇŊŬŶŹĪ");
+    CHECK(Uppercase("àþāįķĺŀńňŋŭŷźī") == "ÀÞĀĮĶĹĿŃŇŊŬŶŹĪ");
+    CHECK(Uppercase("1`{µßƀ€д😀ÀÞĀĶĹŇŊŶŽŸ") == "1`{µßƀ€д😀ÀÞĀĶĹŇŊŶŽŸ");
 }
 
 TEST_CASE("Chr gives any code point and never an invalid text") {
