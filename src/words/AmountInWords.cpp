@@ -1,7 +1,6 @@
 #include "words/AmountInWords.h"
 
 #include "platform/Text.h"
-#include "words/EnglishWords.h"
 #include "words/FrenchWords.h"
 
 #include <algorithm>
@@ -14,7 +13,7 @@ namespace {
 
 std::string Words(std::string_view number, const AmountSettings& settings) {
     if (settings.language == WordsLanguage::En) {
-        return ConvNbreLettresEn(number, settings.tooLargeText);
+        return ConvNbreLettresEn(number, settings.tooLargeText, settings.report);
     }
     const bool chBe = settings.language == WordsLanguage::ChBe;
     return ConvNbreLettresFr(number, chBe, settings.pluralCurrency, settings.tooLargeText);

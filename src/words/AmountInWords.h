@@ -1,5 +1,7 @@
 #pragma once
 
+#include "words/EnglishWords.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
@@ -23,6 +25,7 @@ struct AmountSettings {
     bool hyphens = false; // joins all the words of a number
     bool capital = false; // of the amount's first letter
     std::string tooLargeText;
+    ErrorReport report;
 };
 
 // The digits of `value` rounded down, without separators, for value >= 0. From 10^18 on the digits no longer

@@ -41,12 +41,15 @@ unsigned ValueOf(std::string_view digits) {
 
 } // namespace
 
-std::string Century(std::string_view tranche, int dernier, int position) {
+std::string Century(std::string_view tranche, int dernier, int position, const ErrorReport& report) {
     if (tranche == "000") {
         return {};
     }
     const unsigned hNbre = ValueOf(tranche);
     if (hNbre > 999) {
+        if (report) {
+            report(centuryReport);
+        }
         return std::string(centuryError);
     }
     const unsigned rest = hNbre % 100;
@@ -68,7 +71,8 @@ std::string Century(std::string_view tranche, int dernier, int position) {
     return words;
 }
 
-std::string ConvNbreLettresEn(std::string_view nombre, std::string_view tooLargeText) {
+std::string ConvNbreLettresEn(
+    std::string_view nombre, std::string_view tooLargeText, const ErrorReport& report) {
     if (nombre.empty() || nombre == "0") {
         return "zero ";
     }
@@ -84,7 +88,8 @@ std::string ConvNbreLettresEn(std::string_view nombre, std::string_view tooLarge
         if (group == "000") {
             continue;
         }
-        words += Century(group, static_cast<int>(groups) - 1, static_cast<int>(groups - 1 - toTheRight));
+        words +=
+            Century(group, static_cast<int>(groups) - 1, static_cast<int>(groups - 1 - toTheRight), report);
         words += ' ';
         if (toTheRight > 0) {
             words += scales[toTheRight];

@@ -27,11 +27,13 @@ void WinMain::ConvNbreLettresD() {
             Localisation::Txt_ErrNbre() + std::string(endOfLine) + Localisation::Txt_EntrerUnNbrePositif();
         return;
     }
+    const auto report = [this](std::string_view place) {
+        fncts.MsgBox("Error ! Please contact the authors." + std::string(endOfLine) + std::string(place));
+    };
     const std::string code = PopupMenuLg.Text();
     const auto language = WordsLanguageOf(code);
     if (!language) {
-        fncts.MsgBox("Error ! Please contact the authors." + std::string(endOfLine) +
-                     "ConvNbreLettresD, PopupMenuLg.Text = '" + code + "'");
+        report("ConvNbreLettresD, PopupMenuLg.Text = '" + code + "'");
         return;
     }
     AmountSettings settings;
@@ -43,6 +45,7 @@ void WinMain::ConvNbreLettresD() {
     settings.hyphens = CheckBoxTrUnion.Value;
     settings.capital = CheckBoxMajusc.Value;
     settings.tooLargeText = Localisation::Txt_EntrerNbreAuDessousDe();
+    settings.report = report;
     TxtAreaLettres.Text = AmountInWords(value, settings);
 }
 

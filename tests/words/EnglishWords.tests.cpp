@@ -74,9 +74,13 @@ TEST_CASE("Only the last of several groups takes its own and") {
 }
 
 TEST_CASE("A group above 999 is reported, however large") {
-    CHECK(Century("999", 0, 0) != centuryError);
-    CHECK(Century("1000", 0, 0) == centuryError);
-    CHECK(Century("99999999999999999999999", 0, 0) == centuryError);
+    std::vector<std::string> reports;
+    const ErrorReport report = [&](std::string_view text) { reports.emplace_back(text); };
+    CHECK(Century("999", 0, 0, report) == "nine hundred and ninety nine");
+    CHECK(reports.empty());
+    CHECK(Century("1000", 0, 0, report) == "### Error ###");
+    CHECK(Century("99999999999999999999999", 0, 0, report) == "### Error ###");
+    CHECK(reports == std::vector<std::string>(2, "Century, hNbre : Less than 1000 please !"));
 }
 
 TEST_CASE("Nine digits are spelled in English and ten give the message as it is") {
