@@ -29,9 +29,9 @@ public:
 // How many numbers stand between two calls of Reach: a five hundredth of the whole; 0 for a small whole.
 std::int64_t ProgressStep(std::int64_t maximum);
 
-// Writes the table, `perLine` numbers in each line, all in one for 0 and less. Reaches every number but the
-// first whose index is a multiple of the step, for a step of 0 every one. Doesn't commit the file. Throws
-// IOException.
+// Writes the table, `perLine` numbers in each line, for which a minus counts nothing; all in one for 0.
+// Reaches every number but the first whose index is a multiple of the step, for a step of 0 every one.
+// Doesn't commit the file. Throws IOException.
 void WritePrimeFile(const PrimeTable& table, std::string_view label, int perLine, OutputFile& file,
     PrimeFileProgress& progress);
 

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <cstdlib>
 #include <cstring>
 #include <span>
 #include <string>
@@ -171,7 +172,7 @@ void WritePrimeFile(const PrimeTable& table, std::string_view label, int perLine
     PrimeFileProgress& progress) {
     const std::int32_t count = table.Size();
     progress.Expect(count);
-    NumberText text(file, progress, perLine > 0 ? perLine : std::max(count, 1));
+    NumberText text(file, progress, perLine != 0 ? std::abs(std::int64_t{perLine}) : std::max(count, 1));
     text.Append(std::string(label) + " : " + Str(count) + "\n");
     Milestones milestones(count, progress);
     std::array<std::uint64_t, 16 * burstSize> numbers{};
