@@ -12,7 +12,7 @@ inline constexpr std::string_view preferencesFileName = "Tessarolyne Prefs.txt";
 // A file that couldn't be read is kept under this name when another takes its place.
 inline constexpr std::string_view badPreferencesFileName = "Tessarolyne Prefs.txt.bad";
 // More than the six texts of a file can need at their longest; what is longer is no preferences file.
-inline constexpr std::size_t longestPreferencesFile = 1024 * 1024;
+inline constexpr std::size_t longestPreferencesFile = std::size_t{1024} * 1024;
 static_assert(longestPreferencesFile > 8 * longestPreferencesValue);
 
 enum class PreferencesOutcome { Read, Missing, Failed };

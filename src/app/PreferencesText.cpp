@@ -16,7 +16,7 @@ namespace keys = PreferencesKeys;
 
 void AppendLine(std::string& text, std::string_view key, std::string_view value) {
     const bool isOneLine =
-        value.size() <= longestPreferencesValue && value.find_first_of("\r\n") == value.npos;
+        value.size() <= longestPreferencesValue && value.find_first_of("\r\n") == std::string_view::npos;
     text.append(key).append(keys::separator).append(isOneLine ? value : std::string_view()).append("\n");
 }
 
@@ -142,7 +142,7 @@ std::string PreferencesText(const Preferences& preferences) {
 
 std::pair<std::string_view, std::string_view> SplitPreferencesLine(std::string_view line) {
     const auto place = line.find(keys::separator);
-    if (place == line.npos) {
+    if (place == std::string_view::npos) {
         return {};
     }
     return {line.substr(0, place), line.substr(place + keys::separator.size())};

@@ -77,7 +77,7 @@ struct PreferencesLimits {
 };
 
 // The longest text that is kept, in bytes; no path and no word comes near it.
-inline constexpr std::size_t longestPreferencesValue = 64 * 1024;
+inline constexpr std::size_t longestPreferencesValue = std::size_t{64} * 1024;
 
 // The whole file: 19 lines, each with its line ending. A text with a line end in it is written as empty,
 // since a file's name may hold one and what stands behind it would be read as a setting; so is one that is

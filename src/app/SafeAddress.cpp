@@ -31,7 +31,7 @@ bool HasOnlyAddressCharacters(std::string_view text) {
             if (i + 2 >= text.size() || !IsHexDigit(text[i + 1]) || !IsHexDigit(text[i + 2])) {
                 return false;
             }
-        } else if (!IsLetterOrDigit(text[i]) && marks.find(text[i]) == marks.npos) {
+        } else if (!IsLetterOrDigit(text[i]) && marks.find(text[i]) == std::string_view::npos) {
             return false;
         }
     }
@@ -80,9 +80,9 @@ bool IsPort(std::string_view port) {
 // Host and port. User information would show as an "@" here, which neither may hold.
 bool IsAuthority(std::string_view authority) {
     const auto bracket = authority.rfind(']');
-    const auto colon = authority.find(':', bracket == authority.npos ? 0 : bracket);
+    const auto colon = authority.find(':', bracket == std::string_view::npos ? 0 : bracket);
     const auto host = authority.substr(0, colon);
-    if (colon != authority.npos && !IsPort(authority.substr(colon + 1))) {
+    if (colon != std::string_view::npos && !IsPort(authority.substr(colon + 1))) {
         return false;
     }
     return IsHostName(host) || IsNumberInBrackets(host);

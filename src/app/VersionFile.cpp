@@ -27,7 +27,7 @@ std::string_view TakeLine(std::string_view& text) {
 std::string WithBullets(std::string_view notes) {
     const auto end = notes.find_last_not_of(lineBreak);
     std::string text = ReplaceAll(notes.substr(0, end + 1), " -- ", "\r• ");
-    if (const auto first = text.find("-- "); first != text.npos) {
+    if (const auto first = text.find("-- "); first != std::string::npos) {
         text.replace(first, std::string_view("-- ").size(), "• ");
     }
     return text;
@@ -38,7 +38,7 @@ std::string WithBullets(std::string_view notes) {
 VersionReply ReadVersionReply(std::string_view text) {
     const std::string normalised = ReplaceLineEndings(text, std::string_view(&lineBreak, 1));
     VersionReply reply;
-    if (normalised.find(lineBreak) == normalised.npos) {
+    if (normalised.find(lineBreak) == std::string::npos) {
         reply.errorCode = normalised;
         return reply;
     }

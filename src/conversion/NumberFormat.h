@@ -9,7 +9,7 @@
 namespace tessarolyne {
 
 // The masks of decimal numbers. The first leaves blanks for groups without digits, so that LTrim follows it.
-inline constexpr std::string_view groupedMask = "-###\\ ###\\ ###\\ ###\\ ###\\ ##0";
+inline constexpr std::string_view groupedMask = R"(-###\ ###\ ###\ ###\ ###\ ##0)";
 inline constexpr std::string_view plainMask = "-#################0";
 
 // The text with the separator between groups of `groupSize` characters, counted from the right; unchanged if

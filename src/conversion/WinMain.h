@@ -34,7 +34,7 @@ class MenuItem;
 // fetcher of the update check. Each .cpp that defines its operations has one subject and is named by it.
 class WinMain final : public ProgramWindow {
 public:
-    explicit WinMain(Program& program);
+    explicit WinMain(Program& owner);
 
     // --- Controls, in the order in which they are made ---
 

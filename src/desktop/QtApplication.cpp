@@ -58,8 +58,9 @@ void QtApplication::LoadIcon() {
     QIcon icon;
     for (const int size : {16, 22, 24, 32, 48, 64, 128}) {
         const std::string side = std::to_string(size);
-        const std::string folder = "icons/hicolor/" + side + "x" + side + "/apps/";
-        icon.addFile(ResourcePath(folder + desktopFileName().toStdString() + ".png"));
+        std::string file = "icons/hicolor/";
+        file.append(side).append("x").append(side).append("/apps/");
+        icon.addFile(ResourcePath(file.append(desktopFileName().toStdString()).append(".png")));
     }
     setWindowIcon(icon);
 #endif

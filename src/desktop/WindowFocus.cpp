@@ -111,7 +111,7 @@ bool WindowFocus::ControlKey(ControlView& view, const QKeyEvent& event) {
 
 // A character that a dead key or an input method made is a key as well.
 bool WindowFocus::Composed(ControlView& view, const QInputMethodEvent& event) {
-    const QString text = event.commitString();
+    const QString& text = event.commitString();
     return text.size() == 1 && event.preeditString().isEmpty() && view.Model().UserPressedKey(FromQt(text));
 }
 

@@ -8,7 +8,7 @@ namespace tessarolyne {
 
 namespace {
 
-constexpr std::size_t bufferSize = 256 * 1024;
+constexpr std::size_t bufferSize = std::size_t{256} * 1024;
 
 // Some file systems have no sync for a folder and say so by these two.
 bool SyncFolder(int folder) {

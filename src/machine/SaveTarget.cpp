@@ -15,7 +15,7 @@ constexpr int longestChainOfLinks = 40;
 
 std::string FolderOf(const std::string& path) {
     const auto slash = path.rfind('/');
-    return slash == 0 || slash == path.npos ? "/" : path.substr(0, slash);
+    return slash == 0 || slash == std::string::npos ? "/" : path.substr(0, slash);
 }
 
 // What the link holds, made absolute.

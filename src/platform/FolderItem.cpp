@@ -9,8 +9,8 @@ namespace {
 constexpr std::string_view urlStart = "file://";
 
 bool CanBeName(std::string_view name) {
-    return !name.empty() && name != "." && name != ".." && name.find('/') == name.npos &&
-           name.find('\0') == name.npos;
+    return !name.empty() && name != "." && name != ".." && name.find('/') == std::string_view::npos &&
+           name.find('\0') == std::string_view::npos;
 }
 
 bool StandsForItself(char c) {
@@ -22,7 +22,7 @@ int HexDigit(char c) {
     constexpr std::string_view digits = "0123456789ABCDEF";
     const auto upper = c >= 'a' && c <= 'f' ? static_cast<char>(c - 'a' + 'A') : c;
     const auto value = digits.find(upper);
-    return value == digits.npos ? -1 : static_cast<int>(value);
+    return value == std::string_view::npos ? -1 : static_cast<int>(value);
 }
 
 std::optional<std::string> PercentDecoded(std::string_view text) {

@@ -182,7 +182,7 @@ std::string EncodeURLComponent(std::string_view text) {
     constexpr std::string_view hexDigits = "0123456789ABCDEF";
     std::string encoded;
     for (const char c : text) {
-        if (unreserved.find(c) != unreserved.npos) {
+        if (unreserved.find(c) != std::string_view::npos) {
             encoded += c;
         } else {
             const auto byte = static_cast<unsigned char>(c);

@@ -59,7 +59,7 @@ class OddTableScan {
 public:
     OddTableScan(PrimeTable& table, std::vector<std::uint64_t>& result, RunControl& run)
         : table_(table), result_(result), run_(run),
-          largestSize_(run.IsTimed() ? TimedSize(table) : table.maxSize) {}
+          largestSize_(run.IsTimed() ? TimedSize(table) : PrimeTable::maxSize) {}
 
     bool Run(Factors factors) {
         for (const std::uint64_t factor : factors) {

@@ -162,7 +162,7 @@ double LeastPrimeCount(std::uint64_t n) {
     if (n < 88783) {
         return 0;
     }
-    const double x = static_cast<double>(n);
+    const auto x = static_cast<double>(n);
     const double log = std::log(x);
     return x / log * (1 + 1 / log + 2 / (log * log));
 }

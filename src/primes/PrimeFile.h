@@ -45,7 +45,8 @@ inline constexpr std::int64_t headerlessMaximum = 200'000;
 // at least 3 bytes, beside the table. Throws IOException, also when the table takes no more numbers or has
 // more than `mostBytes` bytes; it then holds what was read.
 void ReadPrimeFile(InputFile& file, PrimeTable& table, PrimeFileProgress& progress,
-    std::uint64_t mostBytes = std::numeric_limits<std::uint64_t>::max(), std::size_t chunkSize = 256 * 1024);
+    std::uint64_t mostBytes = std::numeric_limits<std::uint64_t>::max(),
+    std::size_t chunkSize = std::size_t{256} * 1024);
 
 // What a table that was read begins with.
 enum class TableStart {

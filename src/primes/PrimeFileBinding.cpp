@@ -55,7 +55,7 @@ void WinNbresPremiers::OpenBoundFile(bool fichDispo) {
 }
 
 std::optional<FolderItem> WinNbresPremiers::ChooseAndLoad() {
-    const auto chosen = fncts.MyDialogLoad(
+    auto chosen = fncts.MyDialogLoad(
         app.FichNbPrems, Localisation::Txt_SelectFichierNbPrem(), FileTypes::QueText.Text(), nullptr);
     if (chosen) {
         ProgressWheel2.Visible = true;

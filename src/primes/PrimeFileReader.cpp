@@ -42,15 +42,15 @@ public:
     // Where in this part the mark ends, npos if it isn't there yet.
     std::size_t EndIn(std::string_view part) {
         const std::string seam = tail_ + std::string(part.substr(0, headerMark.size() - 1));
-        if (const auto at = seam.find(headerMark); at != seam.npos) {
+        if (const auto at = seam.find(headerMark); at != std::string::npos) {
             return at + headerMark.size() - tail_.size();
         }
-        if (const auto at = part.find(headerMark); at != part.npos) {
+        if (const auto at = part.find(headerMark); at != std::string_view::npos) {
             return at + headerMark.size();
         }
         tail_ += part.substr(part.size() - std::min(part.size(), headerMark.size() - 1));
         tail_.erase(0, tail_.size() - std::min(tail_.size(), headerMark.size() - 1));
-        return part.npos;
+        return std::string_view::npos;
     }
 
 private:
@@ -252,7 +252,7 @@ std::string_view Reader::TakeFirstLine(std::string_view bytes) {
     inFirstLine_ = size == bytes.size();
     if (!isHeader_) {
         const std::size_t behindMark = headerMark_.EndIn(line);
-        if (behindMark == line.npos) {
+        if (behindMark == std::string_view::npos) {
             BeginHeadless();
             return bytes;
         }

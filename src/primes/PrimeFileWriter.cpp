@@ -15,7 +15,8 @@ namespace tessarolyne {
 
 namespace {
 
-constexpr std::size_t bufferSize = 320 * 1024; // more than a file keeps back, so that it is written at once
+// More than a file keeps back, so that it is written at once.
+constexpr std::size_t bufferSize = std::size_t{320} * 1024;
 constexpr std::size_t burstSize = 256;
 constexpr std::size_t longestNumber = 20;
 constexpr std::size_t burstRoom = burstSize * (longestNumber + 1) + 16;

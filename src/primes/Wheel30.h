@@ -3,11 +3,9 @@
 #include <array>
 #include <cstdint>
 
-namespace tessarolyne {
-
 // The bit map of the sieve: byte b stands for the numbers from 30 b to 30 b + 29, and its eight bits for
 // those of them that 2, 3 and 5 don't divide.
-namespace Wheel30 {
+namespace tessarolyne::Wheel30 {
 
 // Bit k of byte b is the number 30 b + residues[k].
 inline constexpr std::array<std::uint8_t, 8> residues = {1, 7, 11, 13, 17, 19, 23, 29};
@@ -38,6 +36,4 @@ inline constexpr auto bitsUpTo = [] {
     return masks;
 }();
 
-} // namespace Wheel30
-
-} // namespace tessarolyne
+} // namespace tessarolyne::Wheel30

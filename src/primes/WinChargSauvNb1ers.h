@@ -17,7 +17,7 @@ class WinMain;
 // which opens it, reports what went wrong, and closes it. While it is up it is drawn and nobody can stop it.
 class WinChargSauvNb1ers final : public ModalWindow, private PrimeFileProgress {
 public:
-    explicit WinChargSauvNb1ers(Program& program);
+    explicit WinChargSauvNb1ers(Program& owner);
 
     Label StaticTextFormNbre{*this, "StaticTextFormNbre", {20, 7, 360, 20}, lockLeftTop, NoTabStop(0)};
     ProgressBar ProgressBarNb1ers{*this, "ProgressBarNb1ers", {20, 39, 360, 13}, lockLeftTop, NoTabStop(1)};

@@ -20,7 +20,7 @@ namespace tessarolyne {
 // must be asked for only while BevelButtonListe of the main window says so.
 class WinNbresPremiers final : public ProgramWindow {
 public:
-    explicit WinNbresPremiers(Program& program);
+    explicit WinNbresPremiers(Program& owner);
 
     PushButton PushButtonCalcPrems{*this, "PushButtonCalcPrems", {20, 14, 210, 20}, lockLeftTop, TabStop(0)};
     TextField EditFieldFin{*this, "EditFieldFin", {242, 13, 170, 22}, lockLeftTop, TabStop(1)};

@@ -21,7 +21,7 @@ std::vector<std::string> Names(std::string_view chemin) {
     while (true) {
         const auto colon = chemin.find(':');
         names.push_back(WithColonAndSlashSwapped(std::string(chemin.substr(0, colon))));
-        if (colon == chemin.npos || colon + 1 == chemin.size()) {
+        if (colon == std::string_view::npos || colon + 1 == chemin.size()) {
             return names;
         }
         chemin.remove_prefix(colon + 1);
@@ -58,7 +58,7 @@ std::optional<FolderItem> GetFitemAbsPath(FileSystem& files, std::string_view ch
     }
     std::optional<FolderItem> firstFolder;
     for (const auto& volume : files.Volumes()) {
-        const auto folder = volume.name == names.front() ? FolderOn(files, volume, names) : std::nullopt;
+        auto folder = volume.name == names.front() ? FolderOn(files, volume, names) : std::nullopt;
         if (folder && names.size() == 1) {
             return folder;
         }

@@ -12,7 +12,7 @@ class Program;
 // the names under which the handlers speak of them.
 class ProgramWindow : public Window {
 public:
-    ProgramWindow(Program& program, std::string title, int width, int height, WindowFrame frame);
+    ProgramWindow(Program& owner, std::string title, int width, int height, WindowFrame frame);
 
 protected:
     Program& program;

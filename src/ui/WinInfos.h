@@ -17,7 +17,7 @@ namespace tessarolyne {
 // as the donation prompt, with another text and one button more. Nothing depends on a donation.
 class WinInfos final : public ModalWindow {
 public:
-    explicit WinInfos(Program& program);
+    explicit WinInfos(Program& owner);
 
     Canvas CanvIcon{*this, "CanvIcon", {20, 14, 64, 64}, lockLeftTop, NoTabStop(0)};
     Label StaticTextNomProg{*this, "StaticTextNomProg", {96, 22, 314, 22}, lockLeftTopRight, NoTabStop(1)};

@@ -11,7 +11,7 @@ namespace tessarolyne {
 // other settings are what the main window's controls show.
 class WinPrefs final : public ModalWindow {
 public:
-    explicit WinPrefs(Program& program);
+    explicit WinPrefs(Program& owner);
 
     CheckBox CheckBoxAutoUpdt{*this, "CheckBoxAutoUpdt", {20, 14, 360, 20}, lockLeftTop, TabStop(0)};
     PushButton PushButtAnnuler{*this, "PushButtAnnuler", {199, 59, 100, 20}, lockLeftTop, TabStop(1)};
