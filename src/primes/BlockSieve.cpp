@@ -44,7 +44,7 @@ void BlockSieve::BeginBlock(std::uint64_t end) {
     const std::uint64_t known = std::min<std::uint64_t>(table_.ConsecutiveBack(), 0xFFFFFFFF);
     const std::uint64_t bytesDecidable = known * known / 30;
     const std::uint64_t bytes = std::min(bytesDecidable - blockByte_, end / 30 + 1 - blockByte_);
-    blockSize_ = static_cast<std::uint32_t>(std::min<std::uint64_t>(bytes, windowBytes * windowsPerBlock));
+    blockSize_ = static_cast<std::uint32_t>(std::min(bytes, std::uint64_t{windowBytes} * windowsPerBlock));
     windowStart_ = 0;
     AddStrikers(30 * (blockByte_ + blockSize_));
     preSieve_.Fill(block_, blockSize_, blockByte_);

@@ -100,9 +100,9 @@ private:
     using WideBlock = std::array<std::uint64_t, blockEntries>;
     using WideBlocks = std::array<WideBlock*, chunkEntries / blockEntries>;
 
-    // Allocated as a whole and never moved. The first byte of a block is 0, its value being in `firsts`.
+    // Allocated as a whole, its bytes unset until they are written, and never moved. The first byte of a
+    // block is 0, its value being in `firsts`.
     struct Chunk {
-        Chunk() {} // leaves the bytes unset: they are written before they are read
         std::array<std::uint8_t, chunkEntries> halfGaps;
         std::array<std::uint64_t, chunkEntries / blockEntries> firsts;
         WideBlocks* wide = nullptr; // only where a block of the chunk is kept in full
