@@ -137,16 +137,19 @@ public:
             }
             Wait(delay(random));
             const auto start = Clock::now();
-            Clock::time_point end;
             List().UserPressedKey(Chr(27));
-            NoteEnd(end);
-            loop_.RunUntil([&end] { return end != Clock::time_point(); });
-            ended.push_back(Milliseconds(end - start));
+            Finish();
+            ended.push_back(Milliseconds(commandsAreBack_ - start));
             painted.push_back(Milliseconds(Clock::now() - start));
         }
         std::printf("From Escape on, %zu random stops, in milliseconds:\n", stops);
-        const bool kept = Stop("the calculation is over", ended);
-        return Stop("and the windows are painted", painted) && kept;
+        Print("the calculation is over", ended);
+        Print("and the windows are painted", painted);
+        const bool kept = NinetyNine(ended) < stopOfNinetyNine && ended.back() < longestStop;
+        std::printf(
+            "    %s: the calculation over below %.0f at the 99th percentile and below %.0f at worst\n",
+            kept ? "bar kept" : "BAR MISSED", stopOfNinetyNine, longestStop);
+        return kept;
     }
 
 private:
@@ -158,15 +161,6 @@ private:
     }
     void Finish() {
         loop_.RunUntil([this] { return !main_.CalculEnCours; });
-    }
-
-    // Notes the moment at which the calculation is over.
-    void NoteEnd(Clock::time_point& end) {
-        if (main_.CalculEnCours) {
-            loop_.SetAlarm(0, [this, &end] { NoteEnd(end); });
-        } else {
-            end = Clock::now();
-        }
     }
 
     void BeginTable() {
@@ -210,14 +204,11 @@ private:
         List().EditFieldFin.Text = limit;
         List().PushButtonCalcPrems.UserPressed();
     }
-    static bool Stop(const char* what, std::vector<double>& times) {
+    static double NinetyNine(const std::vector<double>& sorted) { return sorted[sorted.size() * 99 / 100]; }
+    static void Print(const char* what, std::vector<double>& times) {
         std::sort(times.begin(), times.end());
-        const double ninetyNine = times[times.size() * 99 / 100];
-        const bool kept = ninetyNine < stopOfNinetyNine && times.back() < longestStop;
-        std::printf("  %-30s median %5.2f, 99th percentile %6.2f, worst %6.2f   %s: below %.0f and %.0f\n",
-            what, times[times.size() / 2], ninetyNine, times.back(), kept ? "bar kept" : "BAR MISSED",
-            stopOfNinetyNine, longestStop);
-        return kept;
+        std::printf("  %-30s median %5.2f, 99th percentile %6.2f, worst %6.2f\n", what,
+            times[times.size() / 2], NinetyNine(times), times.back());
     }
 
     template <typename Work>
@@ -235,6 +226,9 @@ private:
     Program program_;
     WinMain& main_ = program_.winMain();
     Heartbeat heartbeat_;
+    // The commands come back in the handler that ends a calculation, the popups with them.
+    Clock::time_point commandsAreBack_;
+    Connection watch_ = main_.PopupMenuLg.Changed.Connect([this] { commandsAreBack_ = Clock::now(); });
 };
 
 } // namespace
