@@ -1,14 +1,11 @@
 // Any bytes whatever as a server's answer: it reads the same however the network cuts it up, and a page is
 // what stands behind the first empty line.
+#include "fuzz/Must.h"
 #include "platform/HttpAnswer.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <cstdlib>
 
 using namespace tessarolyne;
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string bytes(data, data + size);
@@ -29,9 +26,7 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
                     bytes.starts_with(page->headers + page->content) && page->status >= 0 &&
                     (closed || whole.IsOver());
         }
-        if (!holds) {
-            std::abort();
-        }
+        tests::Must(holds, "pieces and page");
     }
     return 0;
 }

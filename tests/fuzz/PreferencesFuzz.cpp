@@ -1,24 +1,15 @@
 // Any bytes whatever as a preferences file: what is read stays within its types and limits, doesn't depend on
 // where the chunks end, and comes back from the file that is written of it.
 #include "app/PreferencesText.h"
+#include "fuzz/Must.h"
 #include "platform/TextInputStream.h"
 #include "platform/Utf8.h"
 #include "support/MemoryFileSystem.h"
 
-#include <cstdint>
-#include <cstdio>
-#include <cstdlib>
-
 using namespace tessarolyne;
+using namespace tessarolyne::tests;
 
 namespace {
-
-void Must(bool holds, const char* what) {
-    if (!holds) {
-        std::fprintf(stderr, "does not hold: %s\n", what);
-        std::abort();
-    }
-}
 
 struct Outcome {
     bool read;

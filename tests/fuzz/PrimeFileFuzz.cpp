@@ -1,24 +1,10 @@
 // Any bytes whatever as a prime file: the quick reader finds what the plain one finds, wherever the chunks
 // end, and what it found comes back from the file that is written of it.
+#include "fuzz/Must.h"
 #include "primes/PlainPrimeFile.h"
-
-#include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 
 using namespace tessarolyne;
 using namespace tessarolyne::tests;
-
-namespace {
-
-void Must(bool holds, const char* what) {
-    if (!holds) {
-        std::fprintf(stderr, "does not hold: %s\n", what);
-        std::abort();
-    }
-}
-
-} // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string bytes(data, data + size);

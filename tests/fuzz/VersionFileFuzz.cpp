@@ -2,24 +2,16 @@
 // doesn't depend on the kind of line ending, and no address passes that could lead elsewhere than it says.
 #include "app/SafeAddress.h"
 #include "app/VersionFile.h"
+#include "fuzz/Must.h"
 #include "platform/Text.h"
 
 #include <algorithm>
-#include <cstdint>
-#include <cstdio>
-#include <cstdlib>
 #include <vector>
 
 using namespace tessarolyne;
+using namespace tessarolyne::tests;
 
 namespace {
-
-void Must(bool holds, const char* what) {
-    if (!holds) {
-        std::fprintf(stderr, "does not hold: %s\n", what);
-        std::abort();
-    }
-}
 
 std::vector<std::string> Lines(const std::string& text) {
     std::vector<std::string> lines(1);
@@ -76,8 +68,6 @@ void CheckAddress(const std::string& address) {
 }
 
 } // namespace
-
-extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string bytes(data, data + size);
