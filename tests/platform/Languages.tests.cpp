@@ -35,35 +35,26 @@ TEST_CASE("The first wanted language that there is decides, and a region falls b
     const struct {
         std::string wanted, chain;
     } rows[] = {
-        {"en", "en"},
         {"en_GB:en", "en_GB:en"},
         {"en_AU:en_GB", "en"},
-        {"fr_CH", "fr_CH"},
         {"fr_BE:en", "fr_BE"},
         {"fr_FR:en_US", ""},
         {"fr:en", ""},
-        {"fr_CA", ""},
         {"de:en", "en"},
         {"de_CH:fr_CH:en", "fr_CH"},
-        {"de", ""},
         {"", ""},
         // a region's catalogue serves that region alone
         {"pt_PT:en", "en"},
-        {"pt_BR:en", "pt_BR"},
         // spellings of the environment, of the desktop, and wrong ones
         {"en_GB.UTF-8", "en_GB:en"},
         {"fr_CH.utf8@euro", "fr_CH"},
-        {"fr_CH@euro", "fr_CH"},
         {"EN-us", "en_US:en"},
         {"en-Latn-GB", "en_GB:en"},
         {"en-u-ca-gregory", "en"},
-        {"en-001", "en"},
         {"english:e:e1:_GB::-:fr_BE", "fr_BE"},
         {"fra", ""},
         // these name no language
         {"C", ""},
-        {"POSIX", ""},
-        {"C.UTF-8", ""},
         {"tlh:C:en", "en"},
     };
     for (const auto& row : rows) {
