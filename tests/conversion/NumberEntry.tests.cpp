@@ -1,6 +1,4 @@
-#include "platform/Text.h"
 #include "support/TestWorld.h"
-#include "ui/Localisation.h"
 
 #include <doctest/doctest.h>
 
@@ -146,25 +144,6 @@ TEST_CASE("Pasted numbers are taken as people write them, within the mask") {
     window.EditFieldBaseOrg.UserFocused();
     window.EditFieldBaseOrg.UserReplaced(0, 20, "F\tF\r\n");
     CHECK(window.EditFieldBaseOrg.Text() == "F F");
-}
-
-TEST_CASE("Any text whatever in the source base is answered at once") {
-    TestWorld world;
-    WinMain& window = world.Main();
-    window.EditFieldBaseOrg.UserFocused();
-    const auto paste = [&](const std::string& text) {
-        window.EditFieldBaseOrg.UserReplaced(0, static_cast<int>(Len(window.EditFieldBaseOrg.Text())), text);
-        world.Settle();
-    };
-    paste(std::string(1'000'000, 'F'));
-    CHECK(window.EditFieldNbre.Text() == "Plus grand nombre possible = 999 999 999 999");
-    for (const char* text : {"😀", "e\xCC\x81", "\xFF\xFE", "\x01\x7F", "-1", "１"}) {
-        CAPTURE(text);
-        paste(text);
-        CHECK(window.EditFieldNbre.Text() == errNbre);
-    }
-    paste(std::string(1'000'000, '0') + "ff");
-    CHECK(window.EditFieldNbre.Text() == "255");
 }
 
 TEST_CASE("A recalculation waits for the end of a calculation and of a dialog, and then comes once") {
