@@ -47,7 +47,7 @@ TEST_CASE("Help and version are printed, and the program ends well") {
 
 TEST_CASE("Any other argument is refused by name, on the error output alone") {
     for (const auto& arguments : {std::vector<const char*>{"255"}, {""}, {"--Help"}, {"--versions"},
-             {"-platform", "xcb"}, {"--help", "255"}}) {
+             {"-platform", "xcb"}, {"--help", "255"}, {"--version", "255"}}) {
         CAPTURE(arguments.front());
         const Answer answer = AnswerTo(arguments);
         CHECK(answer.status == 2);

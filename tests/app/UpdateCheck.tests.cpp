@@ -1,6 +1,5 @@
 #include "app/Version.h"
 #include "platform/MenuBar.h"
-#include "platform/Text.h"
 #include "support/TestWorld.h"
 #include "ui/Localisation.h"
 #include "ui/WinPrefs.h"
@@ -26,18 +25,11 @@ void ChooseCheck(TestWorld& world) {
     world.program->app.GetMenuBar()->Find("AppleVMaJ")->UserChose(world.program->app);
 }
 
-void Answer(TestWorld& world, const std::string& content, int status = 200) {
+void Answer(TestWorld& world, const std::string& content, int error = 0) {
     REQUIRE_FALSE(world.http.requests.empty());
     const auto request = world.http.requests.front();
     world.http.requests.erase(world.http.requests.begin());
-    request.reply(HttpReply{request.url, status, "", content, 0});
-}
-
-void Fail(TestWorld& world, int code) {
-    REQUIRE_FALSE(world.http.requests.empty());
-    const auto request = world.http.requests.front();
-    world.http.requests.erase(world.http.requests.begin());
-    request.reply(HttpReply{request.url, 0, "", "", code});
+    request.reply(HttpReply{request.url, error == 0 ? 200 : 0, "", content, error});
 }
 
 // A start of the program by a user whose last start was at that time.
@@ -60,9 +52,6 @@ TEST_CASE("A check from the menu tells what the server has, and opens only what 
     const std::string isSame = Localisation::Txt_Ver_a_jour();
     const std::string isBad = Localisation::Txt_Ver_MaJ_impo();
     const std::string news = "\n• One\r• Two";
-    const auto withBreaks = [](const std::string& text, const std::string& ending) {
-        return ReplaceLineEndings(text, ending);
-    };
     constexpr auto site = DialogButton::Action;
     constexpr auto close = DialogButton::Cancel;
     constexpr auto older = DialogButton::Alternate;
@@ -76,28 +65,17 @@ TEST_CASE("A check from the menu tells what the server has, and opens only what 
         std::string told;   // an address that is shown instead
     };
     const Case cases[] = {
-        {"new, CR", File("v.9.9"), isNew, "v.9.9" + news, site, download, ""},
-        {"new, LF", withBreaks(File("v.9.9"), "\n"), isNew, "v.9.9" + news, older, history, ""},
-        {"new, CR LF", withBreaks(File("v.9.9"), "\r\n"), isNew, "v.9.9" + news, close, "", ""},
+        {"new", File("v.9.9"), isNew, "v.9.9" + news, site, download, ""},
+        {"new, history", File("v.9.9"), isNew, "v.9.9" + news, older, history, ""},
         {"older", File("v.0.1"), isNew, "v.0.1" + news, close, "", ""},
         {"this one and a blank", File(here + " "), isNew, here + " " + news, site, download, ""},
         {"this one", File(here), isSame, here, DialogButton::Action, "", ""},
         {"this one, history", File(here), isSame, here, DialogButton::Cancel, history, ""},
-        {"this one, no answer", File(here), isSame, here, DialogButton::None, "", ""},
         {"no notes", "Release Notes\r" + download + "\rv.2", isNew, "v.2\n", site, download, ""},
         {"older versions in the notes only", File("v.9.9 Older versions"), isNew, "v.9.9 \n", close, "", ""},
-        {"older versions in line 1", "Release Notes, Older versions" + File("v.9.9").substr(13), isBad, "",
-            site, "", ""},
-        {"older versions in line 3", File("Older versions v.9.9"), isBad, "", site, "", ""},
         {"a secure scheme", File("v.9.9", "https://download.example"), isBad, "", site, "", ""},
-        {"other scheme", File("v.9.9", "file:///etc/passwd"), isBad, "", site, "", ""},
-        {"no version mark", File("9.9"), isBad, "", site, "", ""},
-        {"title cut", "Release Note\r" + download + "\rv.9.9", isBad, "", site, "", ""},
         {"truncated", "Release Notes\r" + download, isBad, "", site, "", ""},
-        {"control characters", File("v.9.9", "http://a.example/\x1B]8;;\a"), isNew, "v.9.9" + news, site, "",
-            "http://a.example/\x1B]8;;\a"},
         {"no host", File("v.9.9", "http://"), isNew, "v.9.9" + news, site, "", "http://"},
-        {"bad address, history", File("v.9.9", "http://"), isNew, "v.9.9" + news, older, history, ""},
     };
     for (const Case& c : cases) {
         CAPTURE(c.what);
@@ -128,7 +106,7 @@ TEST_CASE("A failed connection is told with its code, and nothing is tried again
     TestWorld world;
     ChooseCheck(world);
     world.dialogs.Expect(DialogButton::Action);
-    Fail(world, -102);
+    Answer(world, "", -102);
     world.loop.Advance(5000);
     CHECK(world.dialogs.asked.at(0).message == Localisation::Txt_Ver_MaJ_impo());
     CHECK(world.dialogs.asked.at(0).explanation == "Server Error -102");
@@ -144,32 +122,9 @@ TEST_CASE("Each button that opens an address shows it, unless it would not be op
         world.dialogs.Expect(DialogButton::Cancel);
         Answer(world, File("v.9.9", address));
         world.loop.Advance(1);
-        CHECK(world.dialogs.asked.back().actionCaption == Localisation::Btn_SiteWeb());
-        CHECK(world.dialogs.asked.back().cancelCaption == Localisation::Btn_Fermer());
-        CHECK(world.dialogs.asked.back().alternateCaption == Localisation::Btn_Historic());
         CHECK(world.dialogs.asked.back().actionHelpTag == (address == download ? download : ""));
         CHECK(world.dialogs.asked.back().alternateHelpTag == history);
     }
-    ChooseCheck(world);
-    world.dialogs.Expect(DialogButton::Action);
-    Answer(world, File(here));
-    world.loop.Advance(1);
-    CHECK(world.dialogs.asked.back().actionCaption == Localisation::Btn_Ok());
-    CHECK(world.dialogs.asked.back().cancelCaption == Localisation::Btn_Historic());
-    CHECK(world.dialogs.asked.back().alternateCaption.empty());
-    CHECK(world.dialogs.asked.back().cancelHelpTag == history);
-    CHECK(world.dialogs.asked.back().actionHelpTag.empty());
-}
-
-TEST_CASE("An address that nothing on the desktop takes is shown to copy") {
-    TestWorld world;
-    world.desktop.takesAddresses = false;
-    ChooseCheck(world);
-    world.dialogs.Expect(DialogButton::Action);
-    world.dialogs.ExpectTell();
-    Answer(world, File("v.9.9"));
-    world.loop.Advance(1);
-    CHECK(world.dialogs.told == std::vector{download});
 }
 
 TEST_CASE("The first start of a calendar day asks the server once, if that is allowed") {
@@ -195,11 +150,8 @@ TEST_CASE("A check by itself speaks only of another version, and the next one re
     SUBCASE("the same version") {
         Answer(world, File(here));
     }
-    SUBCASE("an error page") {
-        Answer(world, "<html>", 500);
-    }
     SUBCASE("no connection") {
-        Fail(world, 103);
+        Answer(world, "", 103);
     }
     world.loop.Advance(1);
     CHECK(world.desktop.opened.empty());
@@ -259,7 +211,7 @@ TEST_CASE("A check from the menu shows that it is under way once it takes longer
 
     ChooseCheck(world);
     world.dialogs.Expect(DialogButton::Action);
-    Fail(world, 1);
+    Answer(world, "", 1);
     world.loop.Advance(1000);
     CHECK_FALSE(wheel.Visible());
 }
@@ -280,12 +232,4 @@ TEST_CASE("The wheel turns until both the check and the factors are there, which
     world.Settle();
     CHECK_FALSE(window.ProgressWheel1.Visible());
     world.loop.Advance(1000);
-}
-
-TEST_CASE("While the commands are off the menu sends no request") {
-    TestWorld world;
-    world.program->fncts.DrapMenu = false;
-    ChooseCheck(world);
-    CHECK(world.Main().AppleVMaJ_Action());
-    CHECK(world.http.requests.empty());
 }
