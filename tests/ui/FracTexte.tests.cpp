@@ -1,5 +1,4 @@
 #include "ui/FracTexte.h"
-#include "ui/Localisation.h"
 
 #include <doctest/doctest.h>
 
@@ -11,8 +10,6 @@ TEST_CASE("A text is cut at its places for values, and the pieces keep all they 
     CHECK(TextPiece("a¿%b", 1) == "a");
     CHECK(TextPiece("a¿%b", 2) == "b");
     CHECK(TextPiece("a¿%", 2) == "");
-    CHECK(TextPiece("", 1) == "");
-    CHECK(TextPiece("abc", 1) == "abc");
     CHECK(TextPiece(" \r¿%\n ", 2) == "\n ");
     CHECK(TextPiece("50 %¿ ¿ %", 1) == "50 %¿ ¿ %");
     CHECK(TextPiece("a\xC2¿%b\xBF%", 2) == "b\xBF%");
@@ -24,19 +21,4 @@ TEST_CASE("There is no piece before the first or after the last") {
         CAPTURE(part);
         CHECK_FALSE(TextPiece("a¿%b", part).has_value());
     }
-}
-
-TEST_CASE("The texts of the table have the pieces that their users put values between") {
-    const auto pieces = [](const std::string& text) {
-        std::int64_t count = 0;
-        while (TextPiece(text, count + 1)) {
-            ++count;
-        }
-        return count;
-    };
-    CHECK(pieces(Localisation::Txt_ErrTranscBase()) == 5);
-    CHECK(pieces(Localisation::Txt_ErrDeDecomp()) == 3);
-    CHECK(pieces(Localisation::Txt_IlYaNouvNbPrem()) == 2);
-    CHECK(pieces(Localisation::Txt_AideNonDispo()) == 4);
-    CHECK(TextPiece(Localisation::Txt_ErrDeDecomp(), 3) == " ");
 }

@@ -32,15 +32,6 @@ TEST_CASE("The preferences window changes the setting only by its Ok button") {
     }
 }
 
-TEST_CASE("Return is the preferences window's Ok and Escape its Cancel") {
-    TestWorld world;
-    WinPrefs& prefs = world.program->winPrefs();
-    CHECK(prefs.PushButtOk.Default());
-    CHECK_FALSE(prefs.PushButtOk.Cancel());
-    CHECK(prefs.PushButtAnnuler.Cancel());
-    CHECK_FALSE(prefs.PushButtAnnuler.Default());
-}
-
 TEST_CASE("The preferences window opens over the main window and within the first screen's width") {
     struct Case {
         int mainLeft;
@@ -56,7 +47,5 @@ TEST_CASE("The preferences window opens over the main window and within the firs
         world.Main().Top = 75;
         CHECK(world.program->winPrefs().Left() == c.left);
         CHECK(world.program->winPrefs().Top() == 105);
-        CHECK(world.program->winPrefs().Width() == 400);
-        CHECK(world.program->winPrefs().Height() == 99);
     }
 }
