@@ -63,18 +63,6 @@ TEST_CASE("1 is its own result; 0 and what has no sign as a signed number have n
     CHECK_FALSE(run.ArretUrg);
 }
 
-TEST_CASE("A table that reaches the largest factor stays as it is") {
-    PrimeTable table;
-    Begin(table);
-    RunFixture run;
-    NbresPremCalc(table, 10'000, run.untimed);
-    const std::int32_t size = table.Size();
-    CHECK(Factor(999'999'999'999, table, run.timed) == Numbers{3, 3, 3, 7, 11, 13, 37, 101, 9901});
-    CHECK(table.Size() == size);
-    CHECK(Factor(1'000'002, table, run.timed) == Numbers{2, 3, 166'667});
-    CHECK(table.Back() == 166'667);
-}
-
 TEST_CASE("A loaded table is compared as far as a number needs it") {
     const auto primes = Reference::Primes(2'000'000);
     PrimeTable table;

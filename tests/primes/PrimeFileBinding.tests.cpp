@@ -36,15 +36,6 @@ struct Binding {
 
 } // namespace
 
-TEST_CASE("The button and the help tags tell whether a file is bound") {
-    Binding bound(true);
-    CHECK(bound.List().PushButtonFichier.Caption() == "Changer Fichier");
-    CHECK(bound.List().StaticTextNbNbre1ers.HelpTag() == "Root:home:user:primes.txt");
-    Binding unbound(false);
-    CHECK(unbound.List().PushButtonFichier.Caption() == "Sauver Fichier");
-    CHECK(unbound.List().StaticTextNbNbre1ers.HelpTag() == "Pas de fichier de nombres premiers sélectionné");
-}
-
 TEST_CASE("The binding, Option and Shift decide what a click does") {
     for (const bool bound : {false, true}) {
         for (const bool option : {false, true}) {
@@ -77,17 +68,6 @@ TEST_CASE("The binding, Option and Shift decide what a click does") {
     }
 }
 
-TEST_CASE("A load replaces the table and shows its end") {
-    Binding binding(false);
-    binding.world.Main().NbresPremCalc(1000, false);
-    binding.world.dialogs.ExpectFile(binding.Item(path));
-    binding.Click(false, true);
-    CHECK(binding.List().TxtAreaListeNbres1ers.Text() == "\t2\t3\t5\t7\t11\t13\n");
-    CHECK(binding.List().StaticTextNbNbre1ers.Text() == "6 nombres premiers");
-    CHECK(binding.world.Main().Nb_NbrePcharg == 6);
-    CHECK_FALSE(binding.List().ProgressWheel2.Visible());
-}
-
 TEST_CASE("A cancelled chooser asks what becomes of a bound file, and is silent without one") {
     Binding unbound(false);
     unbound.world.dialogs.ExpectFile(std::nullopt);
@@ -115,15 +95,6 @@ TEST_CASE("A file that can't be replaced is told, costs nothing, and counts as c
     CHECK(binding.world.dialogs.asked.at(0).message == "Remplacement impossible !");
     CHECK_FALSE(binding.Bound().has_value());
     CHECK(binding.world.files.entries.at(path).content == "2\t3\t5\t7\t11\t13\n");
-}
-
-TEST_CASE("A link chosen to save to is itself replaced; its target stays") {
-    Binding binding(false);
-    binding.world.files.AddLink("/home/user/link.txt", path);
-    binding.world.dialogs.ExpectFile(binding.Item("/home/user/link.txt"));
-    binding.Click(false, false);
-    CHECK(binding.world.files.entries.at(path).content == "2\t3\t5\t7\t11\t13\n");
-    CHECK(binding.world.files.entries.at("/home/user/link.txt").kind == FileKind::Regular);
 }
 
 TEST_CASE("A bound file that has vanished counts as none, and a click offers to save") {

