@@ -7,6 +7,7 @@
 #include <doctest/doctest.h>
 
 #include <algorithm>
+#include <random>
 
 using namespace tessarolyne;
 using Reference::Numbers;
@@ -53,6 +54,18 @@ TEST_CASE("Every limit up to some thousand gives the entries that division gives
         CheckAgainstReference(firstFour, {limit});
     }
     CheckAgainstReference(firstFour, std::vector<std::uint64_t>(500, 0));
+}
+
+TEST_CASE("Growth in portions gives what division gives, from any start to any limit") {
+    std::mt19937_64 random(6);
+    for (int i = 0; i < 15; ++i) {
+        std::vector<std::uint64_t> limits;
+        for (std::uint64_t at = 0; at < 300'000; at += random() % (i < 5 ? 5'000U : 90'000U)) {
+            limits.push_back(at);
+            limits.push_back(0);
+        }
+        CheckAgainstReference(firstFour, limits);
+    }
 }
 
 TEST_CASE("The sieve misses and adds nothing at the edges of bytes, windows, blocks and squares") {
@@ -175,7 +188,18 @@ TEST_CASE("A stop at any look leaves a valid shorter table, from which the next 
     }
 }
 
-TEST_CASE("With the stop flag raised before, or no time at all, nothing is added") {
+TEST_CASE("With the stop flag raised before, nothing is added unless no division comes first") {
+    for (const Numbers& start : oddTables) {
+        Numbers expected = start;
+        std::int64_t divisions = 0;
+        Reference::NbresPremCalc(expected, 0, divisions);
+        PrimeTable table;
+        REQUIRE(AppendAll(table, start));
+        RunFixture run;
+        run.ArretUrg = true;
+        CHECK(NbresPremCalc(table, 0, run.untimed) == expected.back());
+        CHECK(Entries(table) == expected);
+    }
     for (const std::uint64_t limit : {std::uint64_t{0}, std::uint64_t{100}, std::uint64_t{5'000'000}}) {
         PrimeTable table;
         REQUIRE(AppendAll(table, firstFour));
