@@ -14,6 +14,10 @@ bool IsDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
+bool IsLetter(char c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
 // The line ends that Unicode calls mandatory: LF, VT, FF, CR, NEL, line and paragraph separator.
 bool IsLineEnd(char32_t code) {
     return (code >= 0x0A && code <= 0x0D) || code == 0x85 || code == 0x2028 || code == 0x2029;
@@ -54,15 +58,29 @@ std::string WithoutGroupApostrophes(std::string_view text) {
     return result;
 }
 
-// Where the decimal sign stands: a comma or point that comes once, with one or two digits behind it; else the
-// text's size.
+// The text without what stands before and behind its digits, such as a currency. A sign and a decimal sign
+// beside them stay, but for the point of an abbreviation: "Fr. 12.50".
+std::string_view WithoutSurroundings(std::string_view text) {
+    const auto isPart = [&](std::size_t at, std::string_view parts) {
+        return at < text.size() && parts.find(text[at]) != std::string_view::npos;
+    };
+    std::size_t begin = text.find_first_of("0123456789");
+    if (begin == std::string_view::npos) {
+        return text;
+    }
+    std::size_t end = text.find_last_of("0123456789") + 1;
+    end += isPart(end, ".,");
+    const bool abbreviates = begin > 1 && IsLetter(text[begin - 2]);
+    begin -= isPart(begin - 1, ".,") && !abbreviates;
+    begin -= isPart(begin - 1, "+-");
+    return text.substr(begin, end - begin);
+}
+
+// Where the decimal sign stands: the last comma or point, if it comes once; else the text's size.
 std::size_t DecimalSignAt(std::string_view text) {
     const std::size_t at = text.find_last_of(".,");
-    if (at == std::string_view::npos || std::count(text.begin(), text.end(), text[at]) != 1) {
-        return text.size();
-    }
-    const std::size_t behind = text.size() - at - 1;
-    return behind == 1 || behind == 2 ? at : text.size();
+    const bool isOne = at != std::string_view::npos && std::count(text.begin(), text.end(), text[at]) == 1;
+    return isOne ? at : text.size();
 }
 
 // Whether these are digits only, or groups of three with one kind of separator between them. The first group
@@ -89,13 +107,13 @@ bool IsWhole(std::string_view text) {
 
 std::string NumberAsWritten(std::string_view pasted) {
     const std::string bare = ReplaceAll(ReplaceAll(WithBlanksAs(pasted, ""), "’", "'"), "−", "-");
-    std::string number = WithoutGroupApostrophes(bare);
+    std::string number = WithoutGroupApostrophes(WithoutSurroundings(bare));
     std::string sign;
     if (number.starts_with('-') || number.starts_with('+')) {
         sign = number[0];
         number.erase(0, 1);
     }
-    const std::size_t decimalSign = DecimalSignAt(number);
+    const std::size_t decimalSign = IsWhole(number) ? number.size() : DecimalSignAt(number);
     std::string whole = number.substr(0, decimalSign);
     std::string decimals = number.substr(decimalSign);
     if (number.empty() || !IsWhole(whole) ||

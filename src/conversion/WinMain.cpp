@@ -17,11 +17,6 @@ constexpr int copyButtonTextSize = 16;
 
 constexpr const char* copyButtonCaption = "✎";
 
-// A comma typed by itself is the decimal key of half of Europe's numeric keypads.
-std::string DecimalInsertion(const std::string& inserted) {
-    return inserted == "," ? "." : NumberAsWritten(inserted);
-}
-
 } // namespace
 
 WinMain::WinMain(Program& owner)
@@ -40,7 +35,7 @@ WinMain::WinMain(Program& owner)
 
 void WinMain::SetInitialState() {
     EditFieldNbre.Mask = "999999999999.99";
-    EditFieldNbre.CleanInserted = DecimalInsertion;
+    EditFieldNbre.CleanInserted = NumberAsWritten;
     EditFieldBaseOrg.CleanInserted = DigitsAsPasted;
     EditFieldBaseDest.ReadOnly = true;
     for (TextField* field : {&EditFieldNbre, &EditFieldBaseOrg, &EditFieldBaseDest}) {
