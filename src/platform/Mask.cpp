@@ -45,14 +45,13 @@ std::string Mask::Filter(
     }
     std::string left = Left(before, Position(start));
     std::string right = Mid(before.substr(left.size()), Position(removed) + 1);
-    if (!(left.empty() && right.empty()) && !Fits(before)) {
-        if (!Fits(ReplaceAll(before, " ", ""))) {
-            return {};
-        }
-        std::erase(left, ' ');
-        std::erase(right, ' ');
-    }
+    std::erase(left, ' ');
+    std::erase(right, ' ');
     return FittingPart(inserted, left, right);
+}
+
+bool Mask::Holds(std::string_view text) const {
+    return !filters_ || Fits(ReplaceAll(text, " ", ""));
 }
 
 std::string Mask::FittingPart(

@@ -18,11 +18,12 @@ public:
     // What may be inserted of `inserted` when it replaces `removed` characters from `start` (counted from 0)
     // of the text `before`: each of its characters, from left to right, with which the whole text still fits.
     //
-    // A text that doesn't fit itself, such as a message, takes no insertion but one that replaces all of it;
-    // a number shown with blanks (U+0020) is judged without them. Beginnings of numbers, such as "." and
-    // "12.", fit.
+    // A number shown with blanks (U+0020) is judged without them; beginnings of numbers, such as "." and
+    // "12.", fit. Nothing may be inserted in a text that Holds is false of.
     std::string Filter(
         std::string_view before, std::size_t start, std::size_t removed, std::string_view inserted) const;
+    // Whether the text, without blanks, is what the user could have typed; a message isn't.
+    bool Holds(std::string_view text) const;
 
 private:
     bool Fits(std::string_view text) const;

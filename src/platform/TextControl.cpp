@@ -13,6 +13,10 @@ void TextControl::UserReplaced(int start, int removed, const std::string& insert
     const int length = static_cast<int>(Len(Text()));
     start = std::clamp(start, 0, length);
     removed = std::clamp(removed, 0, length - start);
+    if (!inserted.empty() && GivesWay()) {
+        start = 0;
+        removed = length;
+    }
     const std::string cleaned = CleanInserted ? CleanInserted(inserted) : inserted;
     const std::string accepted = Accepted(start, removed, cleaned);
     if (accepted.empty() && !inserted.empty()) {

@@ -40,6 +40,8 @@ protected:
     void PropertyChanged(const void* property) override;
     // What of the insertion may stand in the text.
     virtual std::string Accepted(int start, int removed, const std::string& inserted) const;
+    // Whether the text is none of the user's, such as a message: an insertion takes the place of all of it.
+    virtual bool GivesWay() const { return false; }
 };
 
 } // namespace tessarolyne

@@ -17,4 +17,8 @@ std::string TextField::Accepted(int start, int removed, const std::string& inser
         Text(), static_cast<std::size_t>(start), static_cast<std::size_t>(removed), inserted);
 }
 
+bool TextField::GivesWay() const {
+    return !tessarolyne::Mask(Mask()).Holds(Text());
+}
+
 } // namespace tessarolyne

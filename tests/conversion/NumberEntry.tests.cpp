@@ -69,7 +69,11 @@ TEST_CASE("What isn't a whole number within the limit is refused in place, and t
         CHECK(window.EditFieldNbre.Text() == errNbre);
         CHECK(window.TxtAreaDecomp1er.Text() == errNbre);
         CHECK(world.sounds.beeps == beeps + 1);
-        world.Type(window.EditFieldNbre, "7"); // replaces the message
+        window.EditFieldNbre.UserFocused();
+        window.EditFieldNbre.UserTyped("x");
+        CHECK(window.EditFieldNbre.Text() == errNbre);
+        window.EditFieldNbre.UserTyped("7");
+        world.Settle();
         CHECK(window.EditFieldBaseOrg.Text() == "7");
     }
     SUBCASE("the limit itself passes") {
