@@ -43,7 +43,7 @@ FieldView::FieldView(TextField& model, QWidget* parent)
     : ControlView(model, new LineEdit(parent)), model_(model), edit_(static_cast<QLineEdit*>(Widget())) {
     edit_->setFocusPolicy(Qt::StrongFocus);
     static_cast<LineEdit*>(edit_)->onLongPaste = [this](const QString& text) { Pasted(text); };
-    QObject::connect(edit_, &QLineEdit::textEdited, edit_, [this] { Edited(); });
+    QObject::connect(edit_, &QLineEdit::textChanged, edit_, [this] { Edited(); });
     QObject::connect(edit_, &QLineEdit::cursorPositionChanged, edit_, [this] { Selected(); });
     QObject::connect(edit_, &QLineEdit::selectionChanged, edit_, [this] { Selected(); });
 }
@@ -112,11 +112,11 @@ void FieldView::Edited() {
     if (IsReading()) {
         return;
     }
-    const std::string text = model_.Text;
-    if (!model_.HasFocus() && model_.DisplayText() != text) {
-        Update(); // something was dropped on a number that is shown formatted
+    if (!model_.HasFocus()) {
+        EditedFromAside();
         return;
     }
+    const std::string text = model_.Text;
     const QString before = Shown(text);
     const Replacement change = FindReplacement(
         before, edit_->text(), UnitOfCharacter(text, model_.SelStart), edit_->cursorPosition());
@@ -128,6 +128,17 @@ void FieldView::Edited() {
     correcting_ = true;
     TellModel([&] { model_.UserReplaced(start, end - start, FromQt(change.inserted)); });
     correcting_ = false;
+}
+
+// Something was dropped here, or set by assistive technology. The focus comes along, since the program takes
+// what the user edits without it for its own doing; the number was shown in groups, and is replaced whole.
+void FieldView::EditedFromAside() {
+    const std::string edited = FromQt(edit_->text());
+    model_.UserFocused();
+    if (model_.HasFocus()) {
+        TellModel([&] { model_.UserReplaced(0, std::numeric_limits<int>::max(), edited); });
+    }
+    Update();
 }
 
 void FieldView::Selected() {

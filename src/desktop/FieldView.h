@@ -27,6 +27,7 @@ private:
     void ReadSelection();
     void Pasted(const QString& text);
     void Edited();
+    void EditedFromAside();
     void Selected();
 
     TextField& model_;

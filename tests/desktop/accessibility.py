@@ -56,6 +56,10 @@ class Control:
             return self.description
         return Atspi.Text.get_text(self._accessible, 0, Atspi.Text.get_character_count(self._accessible))
 
+    def set_text(self, text):
+        """Replaces the text without a key, as dictation does."""
+        Atspi.EditableText.set_text_contents(self._accessible, text)
+
     @property
     def description(self):
         """What a screen reader adds to the name."""

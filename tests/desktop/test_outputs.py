@@ -52,6 +52,7 @@ class Outputs(ProgramTestCase):
             lambda: wheel.value > told and wheel.description.replace(" ", "") == f"2,3,5,7…{wheel.value}",
             lambda: f"words for a prime beyond {told}, not “{wheel.description}”",
         )
+        self.focus("EditFieldNbre")
         self.screen.press("Escape")
         self.wait_until_gone("progress bar", "Liste des Nombres Premiers")
         self.assertEqual(wheel.description, "")
