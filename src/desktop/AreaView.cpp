@@ -1,15 +1,13 @@
 #include "desktop/AreaView.h"
 
 #include "desktop/FittingFont.h"
+#include "desktop/PlainEdit.h"
 #include "desktop/QtText.h"
 #include "desktop/Replacement.h"
 
 #include <QFontMetrics>
-#include <QMimeData>
-#include <QPlainTextEdit>
 #include <QStringTokenizer>
 #include <QTextCursor>
-#include <QTextDocumentFragment>
 #include <QTextOption>
 
 #include <algorithm>
@@ -17,19 +15,6 @@
 namespace tessarolyne {
 
 namespace {
-
-// Copies hold the text alone, without the styles of the screen.
-class PlainCopyEdit final : public QPlainTextEdit {
-public:
-    using QPlainTextEdit::QPlainTextEdit;
-
-protected:
-    QMimeData* createMimeDataFromSelection() const override {
-        auto* copied = new QMimeData;
-        copied->setText(textCursor().selection().toPlainText());
-        return copied;
-    }
-};
 
 QTextCursor Selection(QTextDocument* document, const std::string& text, int start, int length) {
     QTextCursor cursor(document);
@@ -46,7 +31,7 @@ bool Same(const TextStyle& left, const TextStyle& right) {
 } // namespace
 
 AreaView::AreaView(TextArea& model, QWidget* parent)
-    : ControlView(model, new PlainCopyEdit(parent)), model_(model),
+    : ControlView(model, new PlainEdit(parent)), model_(model),
       edit_(static_cast<QPlainTextEdit*>(Widget())) {
     edit_->setFocusPolicy(Qt::StrongFocus);
     edit_->setTabChangesFocus(true);

@@ -1,5 +1,6 @@
 #include "desktop/MessageView.h"
 
+#include "desktop/PlainEdit.h"
 #include "desktop/QtText.h"
 #include "desktop/VisibleText.h"
 
@@ -9,7 +10,6 @@
 #include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QLabel>
-#include <QPlainTextEdit>
 #include <QPushButton>
 #include <QScreen>
 #include <QStyle>
@@ -62,7 +62,7 @@ QWidget* MessageView::MakeIcon(int icon) {
 }
 
 QPlainTextEdit* MessageView::MakeText(const MessageDialog& dialog) {
-    auto* const edit = new QPlainTextEdit(this);
+    auto* const edit = new PlainEdit(this);
     edit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     edit->setFocusPolicy(Qt::StrongFocus);
     edit->setTabChangesFocus(true);

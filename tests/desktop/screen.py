@@ -98,6 +98,12 @@ class Screen:
         """Clicks the left button at a point of the screen, in pixels."""
         self.run("xdotool", "mousemove", str(x), str(y), "click", "1")
 
+    def drag(self, start, end):
+        """Drags from one point of the screen to another, by few and long moves."""
+        half = [(a + b) // 2 for a, b in zip(start, end)]
+        moves = [str(word) for x, y in (half, end, end) for word in ("mousemove", x, y)]
+        self.run("xdotool", "mousemove", *map(str, start), "mousedown", "1", *moves, "mouseup", "1")
+
     def take_picture(self, name):
         """Writes a picture of the whole screen among the build's outputs and gives its path."""
         path = OUTPUT / f"{name}.png"

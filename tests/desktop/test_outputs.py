@@ -1,6 +1,7 @@
 """Each choice of the main window acts at once, and every output can be read from outside."""
 
 from case import ProgramTestCase
+from controls import TAB_ORDER
 
 HINT = "Pour les grands nombres, cliquez Décomposer.\nCela peut être long."
 
@@ -31,6 +32,18 @@ class Outputs(ProgramTestCase):
         self.wait_for_text("TxtAreaDecomp1er", HINT)
         self.press_button("PushButtDecomposer")
         self.wait_for_text("TxtAreaDecomp1er", "999 999 999 989")
+
+    def test_factors_dragged_into_a_field_count_as_typed_there(self):
+        self.enter("97")
+        self.wait_for_text("TxtAreaDecomp1er", "97")
+        self.focus("TxtAreaDecomp1er")
+        self.screen.press("ctrl+a")
+        left, top, _, _ = self.control("TxtAreaDecomp1er").bounds
+        self.screen.drag((left + 12, top + 12), self.control("EditFieldNbre").centre)
+        self.wait_for_text("TxtAreaDecomp1er", "97 x 101")
+        for name in TAB_ORDER[1:]:  # for a while: Qt began a drag anew some moments later
+            self.screen.press("Tab")
+            self.wait_for_focus(name)
 
     def test_the_amount_in_another_language_with_a_currency_of_its_own(self):
         self.enter("21.80")

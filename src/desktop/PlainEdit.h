@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QPlainTextEdit>
+
+namespace tessarolyne {
+
+// A text of several lines whose copies hold the text alone, without the styles of the screen. Qt's own never
+// stops to drag a selection that left it in a single move of the mouse, and takes all input for that.
+class PlainEdit final : public QPlainTextEdit {
+public:
+    using QPlainTextEdit::QPlainTextEdit;
+
+protected:
+    QMimeData* createMimeDataFromSelection() const override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+};
+
+} // namespace tessarolyne
