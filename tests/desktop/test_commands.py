@@ -1,24 +1,8 @@
-"""Commands that reach beyond the main window: the clipboard, the list of primes and its file, the first launch."""
+"""Commands that reach beyond the main window: the list of primes and its file."""
 
 from pathlib import Path
 
 from case import ProgramTestCase
-
-
-class Clipboard(ProgramTestCase):
-    def clipboard(self):
-        return self.screen.run("xclip", "-out", "-selection", "clipboard")
-
-    def test_the_copy_buttons_copy_what_is_shown(self):
-        self.clear("EditFieldNbre")
-        self.screen.type("4660")
-        self.wait_for_text("EditFieldBaseDest", "1 0010 0011 0100")
-        self.press_button("PushButtonPressPapBDest")
-        self.program.wait_for(lambda: self.clipboard() == "1 0010 0011 0100", "the digits on the clipboard")
-        self.press_button("PushButtonPressPapLettr")
-        self.program.wait_for(
-            lambda: self.clipboard() == "quatre mille six cent soixante euros zéro centime", "the words there"
-        )
 
 
 class PrimeFile(ProgramTestCase):

@@ -45,15 +45,6 @@ class Outputs(ProgramTestCase):
             self.screen.press("Tab")
             self.wait_for_focus(name)
 
-    def test_the_amount_in_another_language_with_a_currency_of_its_own(self):
-        self.enter("21.80")
-        self.wait_for_text("TxtAreaLettres", "vingt et un euros quatre-vingts centimes")
-        self.choose("PopupMenuLg", 0)
-        self.press_button("CheckBoxTrUnion")
-        self.clear("EditFieldMonnaies")
-        self.screen.type("pounds")
-        self.wait_for_text("TxtAreaLettres", "twenty-one pounds eighty centimes")
-
     def test_a_long_calculation_says_how_far_it_is(self):
         self.press_button("BevelButtonListe")
         self.clear("EditFieldFin")
