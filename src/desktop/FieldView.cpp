@@ -17,6 +17,9 @@ namespace tessarolyne {
 
 namespace {
 
+// What a line's frame and margins take from its text, and a little air.
+constexpr int framePadding = 12;
+
 // Hands on a paste that the line would cut; a shorter one is the line's own affair, with its undo.
 class LineEdit final : public QLineEdit {
 public:
@@ -57,12 +60,19 @@ void FieldView::Read() {
         edit_->setReadOnly(model_.ReadOnly);
     }
     edit_->setAlignment(QtAlignment(model_.TextAlignment));
-    if (model_.TextSize > 0) {
-        edit_->setFont(FittingFont(*edit_, QString(), 0, model_.TextSize));
-    }
+    ReadFont();
     ReadText();
     if (model_.HasFocus()) {
         ReadSelection();
+    }
+}
+
+// A result has to be seen whole: the largest number in base 2 is a little too long for the system's own font.
+void FieldView::ReadFont() {
+    const QString result = model_.ReadOnly ? ToQt(model_.Text) : QString();
+    const QFont font = FittingFont(*edit_, result, model_.Width - framePadding, model_.TextSize);
+    if (edit_->font() != font) {
+        edit_->setFont(font);
     }
 }
 

@@ -22,6 +22,7 @@ protected:
     void Read() override;
 
 private:
+    void ReadFont();
     QString Shown(const std::string& text) const;
     void ReadText();
     void ReadSelection();
