@@ -134,10 +134,6 @@ bool PosixFileSystem::MakeFolder(const std::string& path) {
     return ::mkdir(path.c_str(), 0777) == 0;
 }
 
-bool PosixFileSystem::Remove(const std::string& path) {
-    return Kind(path) == FileKind::Folder ? ::rmdir(path.c_str()) == 0 : ::unlink(path.c_str()) == 0;
-}
-
 std::unique_ptr<InputFile> PosixFileSystem::OpenForReading(const std::string& path) {
     return std::make_unique<PosixInputFile>(path);
 }

@@ -17,7 +17,6 @@ public:
     std::optional<std::string> VolumeNameAt(const std::string& path) const override;
     std::optional<std::string> Find(KnownFolder folder) override;
     bool MakeFolder(const std::string& path) override;
-    bool Remove(const std::string& path) override;
     std::unique_ptr<InputFile> OpenForReading(const std::string& path) override;
     std::unique_ptr<OutputFile> CreateSafely(const std::string& path, LinkPolicy links) override;
     bool CanReplace(const std::string& path, LinkPolicy links) const override;

@@ -68,8 +68,6 @@ public:
 
     // False if it didn't succeed.
     virtual bool MakeFolder(const std::string& path) = 0;
-    // Removes a file, a link itself, or an empty folder; false if it didn't succeed.
-    virtual bool Remove(const std::string& path) = 0;
 
     // Never waits for a FIFO's other end. Throws IOException, also for all but regular files.
     virtual std::unique_ptr<InputFile> OpenForReading(const std::string& path) = 0;

@@ -87,16 +87,6 @@ std::optional<FolderItem> FolderItem::GetFolderItem(FileSystem& files, std::stri
     return item ? std::optional(item->Resolved()) : std::nullopt;
 }
 
-std::vector<FolderItem> FolderItem::Volumes(FileSystem& files) {
-    std::vector<FolderItem> items;
-    for (const auto& volume : files.Volumes()) {
-        if (auto item = FromNativePath(files, volume.root)) {
-            items.push_back(*std::move(item));
-        }
-    }
-    return items;
-}
-
 std::string FolderItem::Name() const {
     if (auto volume = files_->VolumeNameAt(path_)) {
         return *std::move(volume);

@@ -5,7 +5,6 @@
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace tessarolyne {
 
@@ -20,8 +19,6 @@ public:
     // Nil for other URLs.
     static std::optional<FolderItem> GetFolderItem(FileSystem& files, std::string_view urlPath);
     static std::optional<FolderItem> GetTrueFolderItem(FileSystem& files, std::string_view urlPath);
-    // The root folder of each mounted volume.
-    static std::vector<FolderItem> Volumes(FileSystem& files);
 
     // The last part of the path as the file system has it; for the root of a volume, the volume's name.
     std::string Name() const;
@@ -42,9 +39,8 @@ public:
     // "file:///", every byte but letters, digits and "-._~/" as "%XX".
     std::string URLPath() const;
 
-    // Both are false if it didn't succeed; a folder is deleted only if it is empty.
+    // False if it didn't succeed.
     bool CreateAsFolder() const { return files_->MakeFolder(path_); }
-    bool Delete() const { return files_->Remove(path_); }
     // Whether a save to this item would be let begin now.
     bool CanReplace(LinkPolicy links) const { return files_->CanReplace(path_, links); }
 

@@ -12,16 +12,9 @@ namespace tessarolyne {
 // a stream that goes without a Close, or whose call threw, leaves the old file as it was.
 class TextOutputStream {
 public:
-    static constexpr std::string_view endOfLine = "\n";
-
     static TextOutputStream Create(const FolderItem& item, LinkPolicy links = LinkPolicy::ReplaceTarget);
 
     void Write(std::string_view text) { file_->Write(text); }
-    // The text and a line ending.
-    void WriteLine(std::string_view text) {
-        file_->Write(text);
-        file_->Write(endOfLine);
-    }
     // When it returns, the new file stands in its place, whole and on the disk.
     void Close() { file_->Commit(); }
 

@@ -80,19 +80,6 @@ TEST_CASE("A path is looked at without following a link, and a link is followed 
     CHECK_FALSE(disk.files.Resolve(disk / "dangling").has_value());
 }
 
-TEST_CASE("A folder is made and removed, a file and a link are removed, a full folder stays") {
-    Disk disk;
-    CHECK(disk.files.MakeFolder(disk / "d"));
-    CHECK_FALSE(disk.files.MakeFolder(disk / "d"));
-    WriteFile(disk / "d/f", "");
-    fs::create_symlink("f", disk / "d/l");
-    CHECK_FALSE(disk.files.Remove(disk / "d"));
-    CHECK(disk.files.Remove(disk / "d/l"));
-    CHECK(disk.files.Remove(disk / "d/f"));
-    CHECK(disk.files.Remove(disk / "d"));
-    CHECK_FALSE(disk.files.Remove(disk / "d"));
-}
-
 TEST_CASE("A file that is kept keeps its bytes when a save replaces it, and replaces what was kept before") {
     Disk disk;
     WriteFile(disk / "f", "first");

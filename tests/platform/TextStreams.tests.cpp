@@ -63,11 +63,11 @@ TEST_CASE("A text file takes its place only when it is closed") {
     const auto item = FolderItem::FromNativePath(files, "/a").value();
     {
         auto stream = TextOutputStream::Create(item);
-        stream.WriteLine("new");
+        stream.Write("new");
     }
     CHECK(files.entries["/a"].content == "old");
     auto stream = TextOutputStream::Create(item);
-    stream.WriteLine("one");
+    stream.Write("one\n");
     stream.Write("two");
     stream.Close();
     CHECK(files.entries["/a"].content == "one\ntwo");

@@ -75,9 +75,6 @@ public:
     bool MakeFolder(const std::string& path) override {
         return !unwritable.contains(path) && entries.emplace(path, Entry{FileKind::Folder}).second;
     }
-    bool Remove(const std::string& path) override {
-        return !unwritable.contains(path) && entries.erase(path) > 0;
-    }
 
     std::unique_ptr<InputFile> OpenForReading(const std::string& path) override {
         const auto place = Resolve(path);
