@@ -15,6 +15,19 @@ bool SyncFolder(int folder) {
     return Uninterrupted([&] { return ::fsync(folder); }) == 0 || errno == EINVAL || errno == EOPNOTSUPP;
 }
 
+constexpr auto sameUser = static_cast<uid_t>(-1);
+
+// False where the user may not give his file to them.
+bool Give(int file, uid_t user, gid_t group) {
+    if (::fchown(file, user, group) == 0) {
+        return true;
+    }
+    if (errno != EPERM) {
+        ThrowErrno("give the temporary file to its owner");
+    }
+    return false;
+}
+
 } // namespace
 
 SafeFile::SafeFile(const std::string& path, LinkPolicy links)
@@ -38,14 +51,11 @@ void SafeFile::TakeOver(const SaveTarget::Owner& old) {
         ThrowErrno("look at the temporary file");
     }
     mode_t permissions = old.permissions;
-    if (made.st_uid != old.user || made.st_gid != old.group) {
-        if (::fchown(temporary_->Number(), old.user, old.group) != 0) {
-            if (errno != EPERM) {
-                ThrowErrno("give the temporary file to its owner");
-            }
-            // The group is another one now: it gets no more than everybody had.
-            permissions &= ~070U | ((old.permissions & 07U) << 3U);
-        }
+    if ((made.st_uid != old.user || made.st_gid != old.group) &&
+        !Give(temporary_->Number(), old.user, old.group) &&
+        !Give(temporary_->Number(), sameUser, old.group)) {
+        // The group is another one now: it gets no more than everybody had.
+        permissions &= ~070U | ((old.permissions & 07U) << 3U);
     }
     if (::fchmod(temporary_->Number(), permissions) != 0) {
         ThrowErrno("set the permissions of the temporary file");

@@ -41,6 +41,19 @@ std::optional<struct stat> Look(const std::string& path) {
     return std::nullopt;
 }
 
+// In a folder with the sticky bit, as /tmp, a name can be taken only from a file of one's own.
+bool MayTakeName(const std::string& folder, const struct stat& file) {
+    struct stat status {};
+    if (::stat(folder.c_str(), &status) != 0) {
+        ThrowErrno("look at the folder " + folder);
+    }
+    if ((status.st_mode & S_ISVTX) == 0) {
+        return true;
+    }
+    const uid_t user = ::geteuid();
+    return user == 0 || user == status.st_uid || user == file.st_uid;
+}
+
 } // namespace
 
 SaveTarget FindSaveTarget(const std::string& path, LinkPolicy links) {
@@ -56,6 +69,9 @@ SaveTarget FindSaveTarget(const std::string& path, LinkPolicy links) {
     SaveTarget target{FolderOf(place), place.substr(place.rfind('/') + 1), std::nullopt};
     if (target.name.empty() || target.name == "." || target.name == "..") {
         throw IOException("not the name of a file: " + place);
+    }
+    if (status && !MayTakeName(target.folder, *status)) {
+        throw IOException("another user's file, in a folder that keeps it: " + place);
     }
     if (!status || S_ISLNK(status->st_mode)) {
         return target;

@@ -22,7 +22,8 @@ struct SaveTarget {
 };
 
 // Follows links as the policy says, a dangling one too. Throws IOException for what a save must not replace:
-// a folder, a device, a FIFO, a file that may not be written, a chain of links without an end.
+// a folder, a device, a FIFO, a file that may not be written or whose name may not be taken, a chain of links
+// without an end.
 SaveTarget FindSaveTarget(const std::string& path, LinkPolicy links);
 
 } // namespace tessarolyne

@@ -141,10 +141,17 @@ TEST_CASE("What is no writable regular file is refused at once, with nothing mad
         }
         return false;
     }));
+    ::chmod((disk / "shut").c_str(), 0666);
+    const auto keptFromOthers = [&](mode_t folder, const char* name) {
+        ::chmod(disk.Path().c_str(), folder);
+        return ::geteuid() != 0 || HoldsInChild(true, [&] {
+            return !disk.files.CanReplace(disk / name, LinkPolicy::ReplaceLink);
+        });
+    };
+    CHECK(keptFromOthers(0755, "new"));
+    CHECK(keptFromOthers(01777, "shut"));
+    CHECK(keptFromOthers(01777, "loop"));
     ::chmod(disk.Path().c_str(), 0755);
-    CHECK((::geteuid() != 0 || HoldsInChild(true, [&] {
-        return !disk.files.CanReplace(disk / "new", LinkPolicy::ReplaceTarget);
-    })));
     CHECK(disk.Read("locked") == "old");
 }
 
@@ -162,14 +169,16 @@ TEST_CASE("Another user's file that is replaced is opened to no group more than 
         return true;
     }));
     CHECK(disk.Permissions("f") == 0666);
-    ::chmod((disk / "f").c_str(), 0664);
-    REQUIRE(::chown((disk / "f").c_str(), 65533, 65534) == 0);
-    CHECK(HoldsInChild(true, [&] {
-        disk.Save("f", "newer");
-        return true;
-    }));
-    CHECK(disk.Read("f") == "newer");
-    CHECK(disk.Permissions("f") == 0644);
+    for (const gid_t group : {65534U, 65533U}) { // the user's own and another
+        ::chmod((disk / "f").c_str(), 0676);
+        REQUIRE(::chown((disk / "f").c_str(), 65533, group) == 0);
+        CHECK(HoldsInChild(true, [&] {
+            disk.Save("f", "newer");
+            return true;
+        }));
+        CHECK(disk.Read("f") == "newer");
+        CHECK(disk.Permissions("f") == (group == 65534U ? 0676 : 0666));
+    }
 }
 
 TEST_CASE("A sweep takes what killed saves left, and neither a save under way nor anything else") {
