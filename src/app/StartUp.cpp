@@ -1,5 +1,6 @@
 // Everything from the making of the main window until the event loop is idle.
 
+#include "app/PreferencesFile.h"
 #include "app/Program.h"
 #include "conversion/WinMain.h"
 #include "platform/Clock.h"
@@ -11,6 +12,8 @@
 #include "primes/WinNbresPremiers.h"
 #include "ui/FileItems.h"
 #include "ui/Localisation.h"
+
+#include <set>
 
 namespace tessarolyne {
 
@@ -69,14 +72,16 @@ void WinMain::Event_Open() {
     StartAutomaticCheck();
 }
 
-// What saves of killed runs left beside the two files.
+// What saves of killed runs left beside the two files, either of which may be a link to another folder.
 void WinMain::SweepLeftovers() {
-    FileSystem& files = program.services.files;
-    files.SweepLeftovers(app.DossierPref->NativePath());
-    if (const auto target = GetTargetItem_f(app.FichNbPrems)) {
-        if (const auto folder = target->Parent()) {
-            files.SweepLeftovers(folder->NativePath());
+    std::set<std::string> folders{app.DossierPref->NativePath()};
+    for (const auto& file : {app.DossierPref->Child(preferencesFileName), GetTargetItem_f(app.FichNbPrems)}) {
+        if (const auto folder = file ? file->Parent() : std::nullopt) {
+            folders.insert(folder->NativePath());
         }
+    }
+    for (const std::string& folder : folders) {
+        program.services.files.SweepLeftovers(folder);
     }
 }
 

@@ -179,10 +179,10 @@ TEST_CASE("A folder beside the program serves where the system has none for pref
     TestWorld world(TestWorld::Launch::NotYet);
     world.files.known.erase(KnownFolder::Preferences);
     world.files.AddFolder("/opt");
-    world.files.AddFile(
-        "/opt/tessarolyne/TessarolynePrefs/Tessarolyne Prefs.txt", "Deja Envoye Don 03 :@: True\n");
     world.files.AddFolder("/opt/tessarolyne/TessarolynePrefs");
+    world.files.AddLink("/opt/tessarolyne/TessarolynePrefs/Tessarolyne Prefs.txt", "/far/prefs");
+    world.files.AddFile("/far/prefs", "Deja Envoye Don 03 :@: True\n");
     world.program->Start();
     CHECK(world.program->app.DejaDonne);
-    CHECK(world.files.swept == std::vector<std::string>{"/opt/tessarolyne/TessarolynePrefs"});
+    CHECK(world.files.swept == std::vector<std::string>{"/far", "/opt/tessarolyne/TessarolynePrefs"});
 }
