@@ -1,7 +1,6 @@
 #include "app/PreferencesText.h"
 
 #include "platform/Numbers.h"
-
 #include "platform/Utf8.h"
 
 #include <algorithm>

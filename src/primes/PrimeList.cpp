@@ -9,13 +9,10 @@
 #include "ui/Localisation.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace tessarolyne {
 
 namespace {
-
-constexpr std::int64_t columns = 6;
 
 // What the user entered as a rank, counted from 0; -1 for nothing or 0. Beyond the last rank that a table can
 // have all are alike.

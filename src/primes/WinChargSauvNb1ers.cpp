@@ -10,11 +10,10 @@
 #include "ui/FileItems.h"
 #include "ui/Localisation.h"
 
-#include <utility>
-
 #include <atomic>
 #include <exception>
 #include <thread>
+#include <utility>
 
 namespace tessarolyne {
 

@@ -11,8 +11,6 @@
 #include "ui/FileItems.h"
 #include "ui/Localisation.h"
 
-#include <algorithm>
-
 namespace tessarolyne {
 
 namespace {
@@ -26,8 +24,6 @@ constexpr int defaultFromRight = 510;
 constexpr int defaultTop = 50;
 constexpr int defaultWidth = 500;
 constexpr int defaultHeight = 540;
-
-constexpr int columns = 6;
 
 bool IsReturn(const std::string& key) {
     return key == Chr(13) || key == Chr(3);

@@ -43,6 +43,8 @@ public:
 
     // How many primes the list shows at most, so that the area is quick to fill.
     static constexpr std::int32_t largestSlice = 2000;
+    // How many stand on a line of the list.
+    static constexpr int columns = 6;
 
     // The upper bound of the table when the list was last built, or a run was stopped.
     std::int32_t Ind_DerPrem = 0;
