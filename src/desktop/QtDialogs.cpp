@@ -39,6 +39,10 @@ std::optional<FolderItem> QtDialogs::ChooseTarget(const FileDialog& dialog) {
     SetUp(chooser, dialog);
     chooser.setAcceptMode(QFileDialog::AcceptSave);
     chooser.setFileMode(QFileDialog::AnyFile);
+    if (dialog.suggestedName.ends_with(dialog.filterExtension)) {
+        // Without it the choosers, which show only such files, would not show this one again.
+        chooser.setDefaultSuffix(ToQt(dialog.filterExtension));
+    }
     if (!dialog.suggestedName.empty()) {
         chooser.selectFile(QFile::decodeName(QByteArray::fromStdString(dialog.suggestedName)));
     }
