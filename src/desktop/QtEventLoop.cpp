@@ -16,7 +16,19 @@ namespace {
 // How often a wait asks again whether it is over.
 constexpr int waitStep = 4;
 
+// Far longer than what anyone typed meanwhile takes.
+constexpr int longestDrop = 100;
+
 const QEvent::Type taskPosted = static_cast<QEvent::Type>(QEvent::registerEventType());
+
+// Keeps what the user does from everybody.
+class InputSink final : public QObject {
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        return event->isInputEvent() || event->type() == QEvent::Shortcut ||
+               event->type() == QEvent::InputMethod;
+    }
+};
 
 } // namespace
 
@@ -138,6 +150,16 @@ void QtEventLoop::WaitUntil(const std::function<bool()>& done) {
                 QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
         }
     }
+    if (--waits_ == 0) {
+        LetHeldIn();
+    }
+}
+
+void QtEventLoop::DropInput() {
+    InputSink sink;
+    QCoreApplication::instance()->installEventFilter(&sink);
+    ++waits_;
+    QCoreApplication::processEvents(QEventLoop::AllEvents, longestDrop);
     if (--waits_ == 0) {
         LetHeldIn();
     }

@@ -27,6 +27,9 @@ public:
     // answer the window manager. `done` is asked again every few milliseconds. Returns at once when the
     // program quits.
     virtual void WaitUntil(const std::function<bool()>& done) = 0;
+    // Forgets what the user typed and clicked while the program was busy or waited, which would otherwise be
+    // done afterwards.
+    virtual void DropInput() = 0;
 
     // Ends the loop and all that RunUntil nested in it.
     virtual void Quit(int exitCode) = 0;

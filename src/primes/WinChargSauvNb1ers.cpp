@@ -52,6 +52,7 @@ void WinChargSauvNb1ers::Start(const std::string& title) {
 void WinChargSauvNb1ers::End() {
     DrapMovableModal = false;
     program.services.loop.WaitUntil([this] { return program.services.clock.Ticks() >= deadline_; });
+    program.services.loop.DropInput(); // what was meant for the windows behind this one
     EndModal();
 }
 

@@ -1,5 +1,6 @@
 """Commands that reach beyond the main window: the list of primes and its file."""
 
+import os
 from pathlib import Path
 
 from case import ProgramTestCase
@@ -35,3 +36,21 @@ class PrimeFile(ProgramTestCase):
         self.start_program()
         self.press_button("BevelButtonListe")
         self.control("StaticTextNbNbre1ers")
+
+    def test_what_is_clicked_during_a_load_is_not_done_after_it(self):
+        path = Path(self._home) / "long.txt"
+        path.write_bytes(b"2\t3\t5\t7\n")
+        os.truncate(path, 300_000_000)  # zero bytes on one line: they take a second and no place on the disk
+        list_button = self.control("BevelButtonListe").centre
+        self.screen.press("ctrl+o")
+        self.find("dialog", "Sélectionner le Fichier")
+        self.screen.type(str(path))
+        self.screen.press("Return")
+        title = "^Chargement des Nombres Premiers$"
+        self.program.wait_for(lambda: self.screen.find_windows(title), "the load to begin")
+        self.screen.click(*list_button)
+        self.program.wait_for(lambda: not self.screen.find_windows(title), "the load to end")
+        self.press_button("CheckBoxFormatAuto")
+        format_auto = self.control("CheckBoxFormatAuto")
+        self.program.wait_for(lambda: not format_auto.checked, "a click after the load to be done")
+        self.assertTrue(self.control("BevelButtonListe").checked)
