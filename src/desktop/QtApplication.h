@@ -1,5 +1,7 @@
 #pragma once
 
+#include "desktop/ColorScheme.h"
+
 #include <QApplication>
 
 #include <functional>
@@ -42,6 +44,7 @@ public:
 private:
     void LoadIcon();
 
+    ColorScheme colors_;
     std::vector<std::unique_ptr<QSocketNotifier>> watches_;
 };
 
