@@ -3,7 +3,6 @@
 #include "app/App.h"
 #include "ui/Fncts.h"
 
-#include <functional>
 #include <memory>
 #include <string>
 #include <vector>

@@ -3,7 +3,6 @@
 #include "app/Program.h"
 #include "conversion/NumberFormat.h"
 #include "conversion/WinMain.h"
-#include "platform/Clock.h"
 #include "platform/EventLoop.h"
 #include "platform/Numbers.h"
 #include "platform/Services.h"
@@ -13,6 +12,7 @@
 #include "ui/FileItems.h"
 #include "ui/Localisation.h"
 
+#include <cstdint>
 #include <exception>
 
 namespace tessarolyne {

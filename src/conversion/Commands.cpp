@@ -7,6 +7,8 @@
 #include "primes/WinNbresPremiers.h"
 #include "ui/Localisation.h"
 
+#include <array>
+
 namespace tessarolyne {
 
 namespace {

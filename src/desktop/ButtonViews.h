@@ -6,6 +6,9 @@
 #include "platform/PushButton.h"
 #include "platform/RadioButton.h"
 
+#include <functional>
+#include <string>
+
 class QAbstractButton;
 class QCheckBox;
 class QPushButton;

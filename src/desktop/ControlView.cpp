@@ -8,8 +8,6 @@
 #include "desktop/ShowingViews.h"
 #include "desktop/WheelView.h"
 
-#include <utility>
-
 namespace tessarolyne {
 
 ControlView::ControlView(Control& control, QWidget* widget) : control_(control), widget_(widget) {

@@ -11,7 +11,6 @@
 
 #include <functional>
 #include <limits>
-#include <utility>
 
 namespace tessarolyne {
 

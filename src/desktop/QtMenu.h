@@ -6,8 +6,7 @@
 #include <QMenuBar>
 #include <QObject>
 
-#include <map>
-#include <string>
+#include <utility>
 #include <vector>
 
 class QAction;

@@ -7,6 +7,7 @@
 #include <pwd.h>
 #include <string_view>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace tessarolyne {

@@ -3,6 +3,7 @@
 #include "platform/FileSystem.h"
 
 #include <istream>
+#include <string>
 #include <vector>
 
 namespace tessarolyne {

@@ -3,6 +3,8 @@
 #include "platform/Control.h"
 #include "platform/Picture.h"
 
+#include <string>
+
 namespace tessarolyne {
 
 // A button with a state of its own that is shown pressed while Value is true. A press gives Action and leaves

@@ -2,6 +2,8 @@
 
 #include "platform/Control.h"
 
+#include <string>
+
 namespace tessarolyne {
 
 // A switch with a caption. Action comes for every change of Value, the program's own included.

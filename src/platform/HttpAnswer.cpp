@@ -4,6 +4,7 @@
 
 #include <algorithm>
 #include <charconv>
+#include <system_error>
 
 namespace tessarolyne {
 

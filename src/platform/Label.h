@@ -3,6 +3,8 @@
 #include "platform/Control.h"
 #include "platform/TextControl.h"
 
+#include <string>
+
 namespace tessarolyne {
 
 // A line of text that the user only reads. As a link it shows an address and answers the mouse, and takes the

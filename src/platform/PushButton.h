@@ -2,6 +2,8 @@
 
 #include "platform/Control.h"
 
+#include <string>
+
 namespace tessarolyne {
 
 // A button that acts when pressed. The default button answers Return, the cancel button Escape.

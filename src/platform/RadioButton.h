@@ -2,6 +2,8 @@
 
 #include "platform/Control.h"
 
+#include <string>
+
 namespace tessarolyne {
 
 // One of several choices: the radio buttons of one parent exclude each other. Action comes for the button

@@ -2,7 +2,6 @@
 
 #include "platform/TextControl.h"
 
-#include <string>
 #include <vector>
 
 namespace tessarolyne {

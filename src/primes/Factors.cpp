@@ -2,10 +2,8 @@
 
 #include "primes/Primality.h"
 #include "primes/PrimeGrowth.h"
-#include "primes/TrialDivision.h"
 
 #include <algorithm>
-#include <new>
 #include <span>
 
 namespace tessarolyne {

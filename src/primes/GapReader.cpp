@@ -2,7 +2,6 @@
 
 #include "primes/Wheel30.h"
 
-#include <algorithm>
 #include <array>
 #include <cstring>
 

@@ -5,9 +5,9 @@
 #include "primes/TrialDivision.h"
 
 #include <algorithm>
-#include <array>
 #include <limits>
 #include <new>
+#include <span>
 
 namespace tessarolyne {
 

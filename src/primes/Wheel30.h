@@ -1,6 +1,7 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
 #include <cstdint>
 
 // The bit map of the sieve: byte b stands for the numbers from 30 b to 30 b + 29, and its eight bits for

@@ -3,6 +3,7 @@
 #include "platform/Label.h"
 
 #include <memory>
+#include <string>
 #include <vector>
 
 namespace tessarolyne {

@@ -6,7 +6,6 @@
 #include <atomic>
 #include <optional>
 #include <string>
-#include <string_view>
 
 namespace tessarolyne {
 

@@ -8,6 +8,7 @@
 #include "ui/WinInfos.h"
 #include "ui/WinPrefs.h"
 
+#include <array>
 #include <utility>
 
 namespace tessarolyne {

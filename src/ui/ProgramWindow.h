@@ -4,6 +4,8 @@
 #include "platform/Window.h"
 #include "ui/Fncts.h"
 
+#include <string>
+
 namespace tessarolyne {
 
 class Program;
