@@ -1,5 +1,7 @@
 #include "app/SafeAddress.h"
 
+#include "platform/Ascii.h"
+
 #include <algorithm>
 
 namespace tessarolyne {
@@ -10,16 +12,12 @@ constexpr std::string_view unsecuredWeb = "http://";
 constexpr std::string_view securedWeb = "https://";
 constexpr std::string_view mail = "mailto:";
 
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
 bool IsHexDigit(char c) {
     return IsDigit(c) || (c >= 'A' && c <= 'F') || (c >= 'a' && c <= 'f');
 }
 
 bool IsLetterOrDigit(char c) {
-    return IsDigit(c) || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+    return IsDigit(c) || IsLetter(c);
 }
 
 // What may follow the host or "mailto:". A backslash isn't among it: browsers read it as a slash, so that it

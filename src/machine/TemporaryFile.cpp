@@ -1,5 +1,7 @@
 #include "machine/TemporaryFile.h"
 
+#include "platform/Ascii.h"
+
 #include <algorithm>
 #include <dirent.h>
 #include <fcntl.h>
@@ -119,7 +121,7 @@ bool TemporaryFile::IsOurs(std::string_view name) {
         return false;
     }
     name.remove_prefix(prefix.size());
-    return std::all_of(name.begin(), name.end(), [](char c) { return c >= '0' && c <= '9'; });
+    return std::all_of(name.begin(), name.end(), IsDigit);
 }
 
 int SweepTemporaryFiles(const std::string& folder) {

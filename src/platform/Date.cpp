@@ -1,5 +1,7 @@
 #include "platform/Date.h"
 
+#include "platform/Ascii.h"
+
 #include <charconv>
 #include <chrono>
 #include <cstdio>
@@ -20,8 +22,7 @@ bool HasShape(std::string_view text, std::string_view shape) {
         return false;
     }
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool digit = text[i] >= '0' && text[i] <= '9';
-        if (shape[i] == 'd' ? !digit : text[i] != shape[i]) {
+        if (shape[i] == 'd' ? !IsDigit(text[i]) : text[i] != shape[i]) {
             return false;
         }
     }

@@ -1,5 +1,7 @@
 #include "platform/Languages.h"
 
+#include "platform/Ascii.h"
+
 #include <algorithm>
 
 namespace tessarolyne {
@@ -12,14 +14,6 @@ struct Tag {
     std::string region;
     bool operator==(const Tag&) const = default;
 };
-
-bool IsLetter(char c) {
-    return c >= 'a' && c <= 'z';
-}
-
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 // In lower case, without codeset and modifier, "-" between the parts.
 std::string Plain(std::string_view tag) {

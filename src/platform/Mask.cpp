@@ -1,5 +1,6 @@
 #include "platform/Mask.h"
 
+#include "platform/Ascii.h"
 #include "platform/Text.h"
 #include "platform/Utf8.h"
 
@@ -33,9 +34,8 @@ bool Mask::Fits(std::string_view text) const {
     if (point > wholeDigits_ || decimals > decimals_ || (point < text.size() && !point_)) {
         return false;
     }
-    const auto isDigit = [](char c) { return c >= '0' && c <= '9'; };
-    return std::all_of(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(point), isDigit) &&
-           std::all_of(text.end() - static_cast<std::ptrdiff_t>(decimals), text.end(), isDigit);
+    return std::all_of(text.begin(), text.begin() + static_cast<std::ptrdiff_t>(point), IsDigit) &&
+           std::all_of(text.end() - static_cast<std::ptrdiff_t>(decimals), text.end(), IsDigit);
 }
 
 std::string Mask::Filter(

@@ -1,5 +1,7 @@
 #include "platform/Numbers.h"
 
+#include "platform/Ascii.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
@@ -14,10 +16,6 @@ namespace tessarolyne {
 namespace {
 
 constexpr double largest = std::numeric_limits<double>::max();
-
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 std::size_t SkipDigits(std::string_view text, std::size_t at) {
     while (at < text.size() && IsDigit(text[at])) {

@@ -1,5 +1,6 @@
 #include "primes/FieldValue.h"
 
+#include "platform/Ascii.h"
 #include "platform/Numbers.h"
 
 #include <cstddef>
@@ -12,10 +13,6 @@ namespace {
 constexpr std::size_t mostDigits = 800;
 // Beyond any count of digits, and far from overflow.
 constexpr std::int64_t mostExponent = 1'000'000'000'000'000'000;
-
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
 
 } // namespace
 

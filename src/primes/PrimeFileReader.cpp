@@ -1,3 +1,4 @@
+#include "platform/Ascii.h"
 #include "platform/IOException.h"
 #include "primes/FieldValue.h"
 #include "primes/PrimeFile.h"
@@ -321,7 +322,7 @@ const char* Reader::TakePlainField(const char* at, const char* end) {
     constexpr std::ptrdiff_t mostDigits = 15;
     const char* place = at;
     std::uint64_t value = 0;
-    for (; place != end && *place >= '0' && *place <= '9'; ++place) {
+    for (; place != end && IsDigit(*place); ++place) {
         if (place - at == mostDigits) {
             return at;
         }

@@ -1,5 +1,6 @@
 #include "words/FrenchWords.h"
 
+#include "platform/Ascii.h"
 #include "platform/Text.h"
 
 #include <algorithm>
@@ -96,7 +97,7 @@ int DigitFromRight(std::string_view digits, std::size_t place) {
         return 0;
     }
     const char digit = digits[digits.size() - 1 - place];
-    return digit >= '0' && digit <= '9' ? digit - '0' : 0;
+    return IsDigit(digit) ? digit - '0' : 0;
 }
 
 std::string WordsBelowHundred(int number, bool chBe) {
