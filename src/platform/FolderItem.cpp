@@ -1,5 +1,7 @@
 #include "platform/FolderItem.h"
 
+#include "platform/Text.h"
+
 #include <utility>
 
 namespace tessarolyne {
@@ -11,11 +13,6 @@ constexpr std::string_view urlStart = "file://";
 bool CanBeName(std::string_view name) {
     return !name.empty() && name != "." && name != ".." && name.find('/') == std::string_view::npos &&
            name.find('\0') == std::string_view::npos;
-}
-
-bool StandsForItself(char c) {
-    return (c >= 'a' && c <= 'z') || (c >= 'A' && c <= 'Z') || (c >= '0' && c <= '9') || c == '-' ||
-           c == '.' || c == '_' || c == '~' || c == '/';
 }
 
 int HexDigit(char c) {
@@ -124,17 +121,7 @@ FolderItem FolderItem::Resolved() const {
 }
 
 std::string FolderItem::URLPath() const {
-    constexpr std::string_view digits = "0123456789ABCDEF";
-    std::string url(urlStart);
-    for (const char c : path_) {
-        if (StandsForItself(c)) {
-            url += c;
-        } else {
-            const auto byte = static_cast<unsigned char>(c);
-            url += {'%', digits[byte / 16U], digits[byte % 16U]};
-        }
-    }
-    return url;
+    return std::string(urlStart) + EncodeURLComponent(path_, "/");
 }
 
 namespace SpecialFolder {

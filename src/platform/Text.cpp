@@ -1,5 +1,6 @@
 #include "platform/Text.h"
 
+#include "platform/Ascii.h"
 #include "platform/Utf8.h"
 
 #include <algorithm>
@@ -176,13 +177,13 @@ std::string Chr(std::int64_t code) {
     return result;
 }
 
-std::string EncodeURLComponent(std::string_view text) {
-    constexpr std::string_view unreserved =
-        "ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789-._~";
+std::string EncodeURLComponent(std::string_view text, std::string_view alsoKept) {
+    constexpr std::string_view unreservedMarks = "-._~";
     constexpr std::string_view hexDigits = "0123456789ABCDEF";
     std::string encoded;
     for (const char c : text) {
-        if (unreserved.find(c) != std::string_view::npos) {
+        if (IsLetter(c) || IsDigit(c) || unreservedMarks.find(c) != std::string_view::npos ||
+            alsoKept.find(c) != std::string_view::npos) {
             encoded += c;
         } else {
             const auto byte = static_cast<unsigned char>(c);

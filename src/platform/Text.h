@@ -37,9 +37,8 @@ std::string ReplaceAll(std::string_view text, std::string_view find, std::string
 std::string LTrim(std::string_view text);
 std::string Trim(std::string_view text);
 
-// The number of pieces into which the delimiters cut the text: one more than there are delimiters, so at
-// least
-// 1. Compares bytes; an empty delimiter cuts nothing.
+// The number of pieces into which the delimiters cut the text: one more than there are delimiters. Compares
+// bytes; an empty delimiter cuts nothing.
 std::int64_t CountFields(std::string_view text, std::string_view delimiter);
 
 // The piece with this number, from 1; empty where there is none.
@@ -51,8 +50,9 @@ std::string Uppercase(std::string_view text);
 // The character with this code; U+FFFD for a code that Unicode doesn't have.
 std::string Chr(std::int64_t code);
 
-// The bytes of the text as a piece of an address: all but the unreserved characters of RFC 3986 as "%20".
-std::string EncodeURLComponent(std::string_view text);
+// The bytes of the text as a piece of an address: all but the unreserved characters of RFC 3986, and those in
+// `alsoKept`, as "%20".
+std::string EncodeURLComponent(std::string_view text, std::string_view alsoKept = {});
 
 // The text with each CR LF, CR and LF replaced by `ending`.
 std::string ReplaceLineEndings(std::string_view text, std::string_view ending);
