@@ -44,7 +44,7 @@ void WinMain::ConvNbreBaseD() {
 // From EditFieldNbre to EditFieldBaseOrg. False if the number is above the limit.
 bool WinMain::ConvertDecimal(
     std::string& decimal, std::string& source, int baseOrg, std::string_view alphabet) {
-    decimal = ReplaceAll(EditFieldNbre.Text(), " ", "");
+    decimal = WithoutBlanks(EditFieldNbre.Text());
     if (decimal.empty()) {
         EditFieldBaseOrg.Text = "";
         return true;
@@ -64,7 +64,7 @@ bool WinMain::ConvertDecimal(
 // From EditFieldBaseOrg to EditFieldNbre, which also shows what is wrong.
 void WinMain::ConvertSourceBase(
     std::string& decimal, std::string& source, int baseOrg, std::string_view alphabet) {
-    source = ReplaceAll(EditFieldBaseOrg.Text(), " ", "");
+    source = WithoutBlanks(EditFieldBaseOrg.Text());
     if (!source.empty()) {
         decimal = ConvNbreBase(source, baseOrg, 10, alphabet);
     }

@@ -39,7 +39,7 @@ void WinMain::CheckBoxFormatAuto_Action(CheckBox& bouton) {
             field->Format = mask;
         }
         for (TextField* field : fields) {
-            field->Text = ReplaceAll(field->Text(), " ", "");
+            field->Text = WithoutBlanks(field->Text());
         }
     }
     app.initProg = true;

@@ -8,14 +8,6 @@
 
 namespace tessarolyne {
 
-namespace {
-
-std::string WithoutSpaces(std::string_view text) {
-    return ReplaceAll(text, " ", "");
-}
-
-} // namespace
-
 // Whether a field shows one of the two texts that stand for a number there is none of.
 bool WinMain::IsErrorText(std::string_view text) const {
     return text == Localisation::Txt_ErrNbre() || text == Localisation::Txt_ErrBase();
@@ -27,7 +19,7 @@ void WinMain::EditFieldNbre_GotFocus(TextField& champ) {
     }
     FocusNbre = true;
     app.initProg = false;
-    const std::string bare = WithoutSpaces(champ.Text());
+    const std::string bare = WithoutBlanks(champ.Text());
     if (IsNumeric(bare)) {
         champ.Text = bare;
     }
@@ -42,7 +34,7 @@ void WinMain::EditFieldBaseOrg_GotFocus(TextField& champ) {
     FocusBase = true;
     app.initProg = false;
     if (!IsErrorText(champ.Text())) {
-        champ.Text = WithoutSpaces(champ.Text());
+        champ.Text = WithoutBlanks(champ.Text());
     }
     champ.SelStart = static_cast<int>(Len(champ.Text()));
     app.initProg = true;
@@ -106,7 +98,7 @@ void WinMain::TimerTempo_Action(Timer& timer) {
 
 void WinMain::ChangeNbre() {
     ConvNbreBaseD();
-    const std::string decimal = WithoutSpaces(EditFieldNbre.Text());
+    const std::string decimal = WithoutBlanks(EditFieldNbre.Text());
     if (!decimal.empty() && !IsNumeric(decimal)) {
         return;
     }

@@ -64,7 +64,7 @@ std::string FormatNbre(std::string_view nombre, bool formatAuto) {
 }
 
 std::string FormatType(std::string_view nombre, int base, bool formatAuto) {
-    const std::string digits = ReplaceAll(nombre, " ", "");
+    const std::string digits = WithoutBlanks(nombre);
     return formatAuto ? FormatString(digits, " ", GroupSize(base)) : digits;
 }
 

@@ -1,6 +1,7 @@
 #include "platform/Numbers.h"
 
 #include "platform/Ascii.h"
+#include "platform/Text.h"
 
 #include <algorithm>
 #include <charconv>
@@ -81,12 +82,6 @@ double ValueOf(std::string_view number) {
     }
     value = std::min(value, largest);
     return negative ? -value : value;
-}
-
-std::string WithoutBlanks(std::string_view text) {
-    std::string result(text);
-    std::erase(result, ' ');
-    return result;
 }
 
 // The first `kept` digits, rounded up where the first one left out is 5 or more.

@@ -132,6 +132,12 @@ std::string Trim(std::string_view text) {
     return LTrim(text.substr(0, text.find_last_not_of(' ') + 1));
 }
 
+std::string WithoutBlanks(std::string_view text) {
+    std::string result(text);
+    std::erase(result, ' ');
+    return result;
+}
+
 std::int64_t CountFields(std::string_view text, std::string_view delimiter) {
     std::int64_t count = 1;
     if (delimiter.empty()) {

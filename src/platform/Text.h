@@ -33,9 +33,10 @@ std::int64_t InStr(std::int64_t start, std::string_view text, std::string_view f
 // `find` changes nothing.
 std::string ReplaceAll(std::string_view text, std::string_view find, std::string_view with);
 
-// The text without blanks (U+0020 only) at the left end, at both ends.
+// The text without blanks (U+0020 only) at the left end, at both ends, anywhere.
 std::string LTrim(std::string_view text);
 std::string Trim(std::string_view text);
+std::string WithoutBlanks(std::string_view text);
 
 // The number of pieces into which the delimiters cut the text: one more than there are delimiters. Compares
 // bytes; an empty delimiter cuts nothing.

@@ -25,7 +25,7 @@ void WinMain::DecompPremDeb(bool force) {
     CalculEnCours = true;
     fncts.ArretUrg = false;
     PushButtDecomposer.Enabled = false;
-    const std::string decimal = ReplaceAll(EditFieldNbre.Text(), " ", "");
+    const std::string decimal = WithoutBlanks(EditFieldNbre.Text());
     const double n = CDbl(decimal);
     if (decimal.empty() || !IsNumeric(decimal) || !(n > 0) || n != Round(n)) {
         TxtAreaDecomp1er.Text = decimal.empty() ? "" : Localisation::Txt_ErrNbre();

@@ -17,7 +17,7 @@ namespace {
 // What the user entered as a rank, counted from 0; -1 for nothing or 0. Beyond the last rank that a table can
 // have all are alike.
 std::int64_t EnteredRank(std::string_view text) {
-    return std::int64_t{ToInt32(Round(Val(ReplaceAll(text, " ", ""))))} - 1;
+    return std::int64_t{ToInt32(Round(Val(WithoutBlanks(text))))} - 1;
 }
 
 struct Slice {
@@ -85,7 +85,7 @@ std::string WinNbresPremiers::ListText(std::int32_t debut, std::int32_t fin) con
 
 void WinNbresPremiers::PushButtonCalcPrems_Action(PushButton&) {
     WinMain& main = program.winMain();
-    const std::uint64_t limit = ToUInt64(Round(Val(ReplaceAll(EditFieldFin.Text(), " ", ""))));
+    const std::uint64_t limit = ToUInt64(Round(Val(WithoutBlanks(EditFieldFin.Text()))));
     if (main.CalculEnCours) {
         fncts.Beep();
         return;

@@ -12,7 +12,7 @@
 namespace tessarolyne {
 
 void WinMain::ConvNbreLettresD() {
-    const std::string decimal = ReplaceAll(EditFieldNbre.Text(), " ", "");
+    const std::string decimal = WithoutBlanks(EditFieldNbre.Text());
     if (decimal.empty()) {
         TxtAreaLettres.Text = "";
         return;
