@@ -7,7 +7,6 @@
 #include "platform/IOException.h"
 #include "platform/Services.h"
 #include "platform/Stage.h"
-#include "platform/Text.h"
 #include "ui/FileItems.h"
 #include "ui/Localisation.h"
 
@@ -39,8 +38,7 @@ bool App::PrefsCharger() {
     if (outcome == PreferencesOutcome::Failed) {
         prefsReadingFailed_ = true;
         program_.fncts.BeepNbT(failureBeeps);
-        program_.fncts.MsgBox("Error ! Please contact the authors." + std::string(endOfLine) +
-                              "PrefsCharger, problem while reading file!");
+        program_.fncts.ReportFault("PrefsCharger, problem while reading file!");
         return true;
     }
     PlaceMainWindow(preferences.winMain[0], preferences.winMain[1]);
@@ -89,8 +87,7 @@ void App::ChooseLanguage(const std::string& code) {
     const auto& codes = menu.Rows();
     const auto row = std::find(codes.begin(), codes.end(), code);
     if (row == codes.end()) {
-        program_.fncts.MsgBox("Error ! Please contact the authors." + std::string(endOfLine) +
-                              "PrefsCharger, LangNbreLettr = '" + code + "'");
+        program_.fncts.ReportFault("PrefsCharger, LangNbreLettr = '" + code + "'");
         return;
     }
     menu.ListIndex = static_cast<int>(row - codes.begin());
@@ -136,8 +133,7 @@ void App::PrefsSauver(bool listeVisible) {
         WritePreferences(listeVisible);
     } catch (const IOException&) {
         program_.fncts.BeepNbT(failureBeeps);
-        program_.fncts.MsgBox("Error ! Please contact the authors." + std::string(endOfLine) +
-                              "PrefsSauver, problem while writing file!");
+        program_.fncts.ReportFault("PrefsSauver, problem while writing file!");
     }
 }
 

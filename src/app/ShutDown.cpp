@@ -6,7 +6,6 @@
 #include "platform/EventLoop.h"
 #include "platform/Numbers.h"
 #include "platform/Services.h"
-#include "platform/Text.h"
 #include "primes/WinChargSauvNb1ers.h"
 #include "primes/WinNbresPremiers.h"
 #include "ui/FileItems.h"
@@ -43,8 +42,7 @@ void SaveQuietly(const WinMain& main, const FolderItem& item) {
 bool WinMain::Event_CancelClose(bool appQuitting) {
     if (app.DrapOkQuit) {
         if (!appQuitting) {
-            fncts.MsgBox("Error ! Please contact the authors." + std::string(endOfLine) +
-                         "The application should be quitting!");
+            fncts.ReportFault("The application should be quitting!");
         }
         return false;
     }
@@ -94,8 +92,7 @@ void WinMain::AskToStopCalculation() {
 bool WinMain::AskAboutNewPrimes(bool& enregistrer) {
     const std::int32_t Nb1ersEnPlus = NewPrimes(*this);
     if (Nb1ersEnPlus < 0) {
-        fncts.MsgBox("Error ! Please contact the authors." + std::string(endOfLine) +
-                     "WinMain.Close, Nb1ersEnPlus = " + Str(Nb1ersEnPlus));
+        fncts.ReportFault("WinMain.Close, Nb1ersEnPlus = " + Str(Nb1ersEnPlus));
         return false;
     }
     if (Nb1ersEnPlus == 0 || !PasNil_Existe_Alias(app.FichNbPrems, true)) {

@@ -100,10 +100,8 @@ bool WinMain::FindPreferencesFolder() {
     if (app.DossierPref && app.DossierPref->Exists()) {
         return true;
     }
-    const std::string eol(endOfLine);
     fncts.Beep();
-    fncts.MsgBox("Error !" + eol + "Please contact the authors." + eol + eol +
-                 "Impossible to create the Preferences folder.");
+    fncts.ReportFaultInLines(std::string(endOfLine) + "Impossible to create the Preferences folder.");
     fncts.DrapMenu = true;
     Close();
     return false;

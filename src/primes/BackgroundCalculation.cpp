@@ -56,7 +56,7 @@ void WinMain::ThreadFailed(std::int16_t step, const std::string& reason) {
     Nbre_Decompose = {0};
     ThrNo = step;
     TimerThr.Mode = 1;
-    fncts.MsgBox("Error ! Please contact the authors." + std::string(endOfLine) + "Thread, " + reason);
+    fncts.ReportFault("Thread, " + reason);
 }
 
 void WinMain::TellWhyRunEnded() {

@@ -1,6 +1,5 @@
 #include "ui/BlockingOverlay.h"
 
-#include "platform/Text.h"
 #include "platform/Window.h"
 #include "ui/Fncts.h"
 
@@ -27,18 +26,14 @@ void BlockingOverlay::Open() {
 }
 
 void BlockingOverlay::LabBlockUI_Open(Label& label) {
-    const auto diagnose = [this](const char* fault) {
-        fncts_.MsgBox("Error !" + std::string(endOfLine) + "Please contact the authors." +
-                      std::string(endOfLine) + fault);
-    };
     if (UpperBound() >= 1) {
         if (UpperBound() >= 2) {
-            diagnose("LabBlockUI, LabBlockUI(2) is not Nil");
+            fncts_.ReportFaultInLines("LabBlockUI, LabBlockUI(2) is not Nil");
         }
         return;
     }
     if (label.Parent() != nullptr) {
-        diagnose("LabBlockUI, LabBlockUI(0).Parent is not Nil");
+        fncts_.ReportFaultInLines("LabBlockUI, LabBlockUI(0).Parent is not Nil");
     }
     Append(label.Name + "1", {label.Left, label.Top, label.Width, label.Height}, NoTabStop(label.TabIndex()));
     members_[1]->Text = " ";

@@ -74,8 +74,7 @@ std::string Fncts::FracTexte(const std::string& texte, int partie) {
         return *piece;
     }
     const std::string eol(endOfLine);
-    MsgBox("Error ! Please contact the authors." + eol + "FracTexte. Partie = " + Str(partie) + eol + " " +
-           eol + texte);
+    ReportFault("FracTexte. Partie = " + Str(partie) + eol + " " + eol + texte);
     return {};
 }
 
@@ -83,7 +82,11 @@ void Fncts::RestoreDrapMenu(bool found) {
     DrapMenu = found && !program_.winMain().CalculationHoldsMenu();
 }
 
-void Fncts::Diagnose(const std::string& place) {
+void Fncts::ReportFault(const std::string& place) {
+    MsgBox("Error ! Please contact the authors." + std::string(endOfLine) + place);
+}
+
+void Fncts::ReportFaultInLines(const std::string& place) {
     const std::string eol(endOfLine);
     MsgBox("Error !" + eol + "Please contact the authors." + eol + place);
 }

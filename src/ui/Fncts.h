@@ -70,6 +70,10 @@ public:
 
     // Shows a fixed English diagnostic.
     void MsgBox(const std::string& texte);
+    // Shows that the program itself is at fault, and where: at `place`. The two differ in their first line,
+    // which the second breaks.
+    void ReportFault(const std::string& place);
+    void ReportFaultInLines(const std::string& place);
 
     // The system's alert sound.
     void Beep();
@@ -104,7 +108,6 @@ private:
 
     std::optional<FolderItem> ChooseItem(
         FileDialog dialog, const std::optional<FolderItem>& depart, Window* fenetre, bool toSave);
-    void Diagnose(const std::string& place);
 
     Program& program_;
 };

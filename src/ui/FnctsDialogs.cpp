@@ -52,7 +52,7 @@ int Fncts::MyDialogBox(const std::string& message, const std::string& explicatio
     const DialogProtocol protocol(*this);
     const bool sheet = CtrlDsFenetrDiag(fenetre, true);
     if (boutonAction.empty()) {
-        Diagnose("My DialogBox, BtnAct = ''");
+        ReportFaultInLines("My DialogBox, BtnAct = ''");
     }
     MessageDialog dialog;
     dialog.message = message.empty() ? " " : message;

@@ -55,20 +55,21 @@ bool Fncts::CtrlDsFenetrDiag(Window* fenetre, bool montrer) {
             continue;
         }
         if (overlays.empty()) {
-            Diagnose("CtrlDsFenetrDiag, there is not 'LabBlockUI' in window '" + window.Title() + "'");
+            ReportFaultInLines(
+                "CtrlDsFenetrDiag, there is not 'LabBlockUI' in window '" + window.Title() + "'");
             continue;
         }
         Control& overlay = *overlays.front();
         Spread(overlay, window);
         if (!overlay.LockLeft() || !overlay.LockTop()) {
-            Diagnose("CtrlDsFenetrDiag, 'LabBlockUI' should be Lock Left and Lock Top");
+            ReportFaultInLines("CtrlDsFenetrDiag, 'LabBlockUI' should be Lock Left and Lock Top");
             overlay.LockLeft = true;
             overlay.LockTop = true;
         }
         overlay.LockRight = true;
         overlay.LockBottom = true;
         if (overlays.size() > 1) {
-            Diagnose(
+            ReportFaultInLines(
                 "CtrlDsFenetrDiag, there is more than one 'LabBlockUI' in window '" + window.Title() + "'");
         }
     }

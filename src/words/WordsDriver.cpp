@@ -27,13 +27,10 @@ void WinMain::ConvNbreLettresD() {
             Localisation::Txt_ErrNbre() + std::string(endOfLine) + Localisation::Txt_EntrerUnNbrePositif();
         return;
     }
-    const auto report = [this](std::string_view place) {
-        fncts.MsgBox("Error ! Please contact the authors." + std::string(endOfLine) + std::string(place));
-    };
     const std::string code = PopupMenuLg.Text();
     const auto language = WordsLanguageOf(code);
     if (!language) {
-        report("ConvNbreLettresD, PopupMenuLg.Text = '" + code + "'");
+        fncts.ReportFault("ConvNbreLettresD, PopupMenuLg.Text = '" + code + "'");
         return;
     }
     AmountSettings settings;
@@ -45,7 +42,7 @@ void WinMain::ConvNbreLettresD() {
     settings.hyphens = CheckBoxTrUnion.Value;
     settings.capital = CheckBoxMajusc.Value;
     settings.tooLargeText = Localisation::Txt_EntrerNbreAuDessousDe();
-    settings.report = report;
+    settings.report = [this](std::string_view place) { fncts.ReportFault(std::string(place)); };
     TxtAreaLettres.Text = AmountInWords(value, settings);
 }
 
