@@ -33,7 +33,7 @@ template <typename WindowClass>
 WindowClass& Program::Instance(std::unique_ptr<WindowClass>& window) {
     if (!window) {
         window = std::make_unique<WindowClass>(*this);
-        window->Begin();
+        window->Event_Open();
     }
     return *window;
 }

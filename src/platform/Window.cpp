@@ -20,13 +20,6 @@ Window::~Window() {
     application_.Remove(*this);
 }
 
-void Window::Begin() {
-    if (!begun_) {
-        begun_ = true;
-        Event_Open();
-    }
-}
-
 void Window::Show() {
     if (closed_) {
         return;

@@ -34,10 +34,6 @@ public:
     Window(Application& application, std::string title, int width, int height, WindowFrame frame);
     ~Window() override;
 
-    // Runs Event_Open; called once, by whoever made the window, when it is whole.
-    void Begin();
-    bool HasBegun() const { return begun_; }
-
     // Puts the window on the stage, in front; nothing once it has closed.
     void Show();
     // Shows the window and returns when it has closed or the program quits. Nothing if the window is up.
@@ -58,8 +54,9 @@ public:
     // A key that no control took. True: the window took it.
     bool UserPressedKey(const std::string& key) { return Event_KeyDown(key); }
 
-    // What the window's class answers: at its begin; before it closes (true keeps it open); before menus are
-    // shown; and for a key that no control took (true: it has no further effect).
+    // What the window's class answers: when it is whole, once, to whoever made it; before it closes (true
+    // keeps it open); before menus are shown; and for a key that no control took (true: it has no further
+    // effect).
     virtual void Event_Open() {}
     virtual bool Event_CancelClose([[maybe_unused]] bool appQuitting) { return false; }
     virtual void Event_EnableMenuItems() {}
@@ -102,7 +99,6 @@ private:
     Application& application_;
     std::vector<Control*> controls_;
     Control* focus_ = nullptr;
-    bool begun_ = false;
     bool closed_ = false;
     bool presented_ = false;
 };
