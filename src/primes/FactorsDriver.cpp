@@ -51,11 +51,8 @@ void WinMain::RunFactorsOnThread(std::uint64_t n) {
 }
 
 RunControl WinMain::MakeRunControl(bool checkTime) {
-    Services& services = program.services;
-    if (checkTime) {
-        return RunControl(fncts.ArretUrg, services.clock, services.memory, TicksFinCalc);
-    }
-    return RunControl(fncts.ArretUrg, services.clock, services.memory);
+    return RunControl(fncts.ArretUrg, program.services.clock, program.services.memory,
+        checkTime ? std::optional(TicksFinCalc) : std::nullopt);
 }
 
 void WinMain::DecompPremCalc(std::uint64_t n, bool checkTime) {

@@ -21,13 +21,10 @@ inline constexpr std::string_view outOfMemoryText =
 // of them did. One object serves one calculation on one thread; only the flag is shared with other threads.
 class RunControl {
 public:
-    // A calculation without a time limit. All three outlive the object.
-    RunControl(std::atomic<bool>& ArretUrg, const Clock& clock, const MemoryLimits& memory)
-        : stopFlag_(ArretUrg), clock_(clock), memory_(memory) {}
-
-    // A calculation that gives up once the clock's Ticks have passed `TicksFinCalc`.
+    // The first three outlive the object. With `TicksFinCalc` the calculation gives up once the clock's Ticks
+    // have passed that, without it there is no time limit.
     RunControl(std::atomic<bool>& ArretUrg, const Clock& clock, const MemoryLimits& memory,
-        std::int64_t TicksFinCalc)
+        std::optional<std::int64_t> TicksFinCalc = std::nullopt)
         : stopFlag_(ArretUrg), clock_(clock), memory_(memory), ticksFinCalc_(TicksFinCalc) {}
 
     RunControl(const RunControl&) = delete;
@@ -54,7 +51,7 @@ private:
     std::atomic<bool>& stopFlag_;
     const Clock& clock_;
     const MemoryLimits& memory_;
-    std::optional<std::int64_t> ticksFinCalc_;
+    const std::optional<std::int64_t> ticksFinCalc_;
     std::optional<std::uint64_t> byteCeiling_;
     RunEnd end_ = RunEnd::Finished;
 };
