@@ -4,6 +4,16 @@
 
 namespace tessarolyne {
 
+// The number whose product with the odd `n` is 1 modulo 2^64. By Newton's iteration: each step doubles the
+// right bits, of which n itself has three.
+constexpr std::uint64_t InverseModulo2To64(std::uint64_t n) {
+    std::uint64_t inverse = n;
+    for (int step = 0; step < 5; ++step) {
+        inverse *= 2 - n * inverse;
+    }
+    return inverse;
+}
+
 // Products modulo one odd number without divisions (P. L. Montgomery, "Modular multiplication without trial
 // division", 1985). Values are kept times 2^64; only sums, products and comparisons with One() and MinusOne()
 // are needed here, so nothing ever converts back.
@@ -11,7 +21,7 @@ class Montgomery {
 public:
     // `modulus` is odd and above 1.
     explicit Montgomery(std::uint64_t modulus)
-        : modulus_(modulus), inverse_(Inverse(modulus)), one_((~modulus + 1) % modulus),
+        : modulus_(modulus), inverse_(InverseModulo2To64(modulus)), one_((~modulus + 1) % modulus),
           square_(static_cast<std::uint64_t>(Wide{one_} * one_ % modulus)) {}
 
     std::uint64_t One() const { return one_; }
@@ -35,15 +45,6 @@ public:
 
 private:
     __extension__ using Wide = unsigned __int128;
-
-    // Newton's iteration: each step doubles the right bits, of which modulus itself has three.
-    static std::uint64_t Inverse(std::uint64_t modulus) {
-        std::uint64_t inverse = modulus;
-        for (int step = 0; step < 5; ++step) {
-            inverse *= 2 - modulus * inverse;
-        }
-        return inverse;
-    }
 
     std::uint64_t modulus_;
     std::uint64_t inverse_;

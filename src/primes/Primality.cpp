@@ -43,11 +43,7 @@ constexpr auto trialDivisors = [] {
     std::size_t count = 0;
     for (std::uint64_t n = 3; n < trialEnd; n += 2) {
         if (IsSmallPrime(n)) {
-            std::uint64_t inverse = n;
-            for (int step = 0; step < 5; ++step) {
-                inverse *= 2 - n * inverse;
-            }
-            divisors[count++] = {n, inverse, ~std::uint64_t{0} / n};
+            divisors[count++] = {n, InverseModulo2To64(n), ~std::uint64_t{0} / n};
         }
     }
     return divisors;
