@@ -16,7 +16,6 @@ namespace tessarolyne {
 
 namespace {
 
-constexpr int smallestTop = 38; // below a menu bar
 constexpr int defaultLeft = 20;
 constexpr int defaultTop = 60;
 constexpr int failureBeeps = 3;

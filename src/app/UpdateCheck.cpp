@@ -14,7 +14,6 @@ namespace tessarolyne {
 
 namespace {
 
-constexpr int handOverPeriod = 1;
 constexpr int busyPeriod = 1000;
 
 // Days of the user's calendar, not spans of 24 hours.

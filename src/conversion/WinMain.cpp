@@ -11,7 +11,6 @@ namespace {
 
 constexpr int recalculationDelay = 20; // shorter than the time between two keystrokes
 constexpr int quitPeriod = 10;
-constexpr int handOverPeriod = 1;
 constexpr int moment = 500; // what takes longer is shown to be under way
 constexpr int copyButtonTextSize = 16;
 

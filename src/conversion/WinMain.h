@@ -98,6 +98,9 @@ public:
     Timer TimerVerMaJ;
     HTTPSocket SocketVerMaJ;
 
+    // How soon TimerThr and TimerVerMaJ hand over what has come, in milliseconds.
+    static constexpr int handOverPeriod = 1;
+
     // What ThrNo says when a thread's result waits for the main thread.
     static constexpr std::int16_t factorsAreThere = 3;
     static constexpr std::int16_t listRunHasEnded = 4;
@@ -115,7 +118,7 @@ public:
     std::uint64_t NbreMax = 0;     // the largest number accepted
     std::string MemErrDecomp;      // the last mismatch of a factorisation that was reported
     std::string MemErrConv;        // the last mismatch of a base conversion that was reported
-    std::int16_t ThrNo = 0;        // what TimerThr has to do: 3 show the factors, 4 end the list's run
+    std::int16_t ThrNo = 0;        // what TimerThr has to do: factorsAreThere or listRunHasEnded
     std::uint64_t ThrPn1 = 0;      // the number or limit that the running thread works on
     std::int64_t TicksFinCalc = 0; // when a calculation on the main thread has to give up
     CalculationProgress Progress;  // how far the calculation on a thread is, in words

@@ -11,7 +11,6 @@ namespace tessarolyne {
 namespace {
 
 constexpr int waitingPeriod = 50; // milliseconds, while the thread or a dialog keeps the result waiting
-constexpr int handOverPeriod = 1;
 
 } // namespace
 

@@ -17,8 +17,6 @@ namespace {
 
 constexpr WindowFrame frame{WindowFrame::Kind::Document, true, true, true, true, 520, 400, 520, 32000};
 
-constexpr int smallestTop = 38; // below a menu bar
-
 // Where the window comes when its stored place is no longer on the screen.
 constexpr int defaultFromRight = 510;
 constexpr int defaultTop = 50;

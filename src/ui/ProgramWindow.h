@@ -10,6 +10,9 @@ namespace tessarolyne {
 
 class Program;
 
+// The least Top of a window that is placed, below a menu bar.
+inline constexpr int smallestTop = 38;
+
 // What every window of the program has at hand: the program that it belongs to, and its two shared objects by
 // the names under which the handlers speak of them.
 class ProgramWindow : public Window {
