@@ -26,7 +26,7 @@ bool TextInputStream::Fill() {
     while (true) {
         while (next_ == end_) {
             next_ = 0;
-            end_ = file_ == nullptr ? 0 : file_->Read(chunk_);
+            end_ = file_->Read(chunk_);
             if (end_ == 0) {
                 return false;
             }
@@ -66,11 +66,6 @@ std::string TextInputStream::ReadLine(std::size_t longest) {
         }
     }
     return line;
-}
-
-void TextInputStream::Close() {
-    file_.reset();
-    next_ = end_ = 0;
 }
 
 } // namespace tessarolyne

@@ -26,8 +26,6 @@ public:
     bool AtEnd();
     // The next line without its ending; empty at the end. A line of more than `longest` bytes is a failure.
     std::string ReadLine(std::size_t longest = noLimit);
-    // Gives the file back early; after it the stream is at its end.
-    void Close();
 
 private:
     bool Fill();
