@@ -11,8 +11,8 @@ namespace tessarolyne {
 namespace {
 
 constexpr std::size_t stretchBytes = 1024;
-constexpr std::size_t layers =
-    8; // patterns that are laid at once; more pointers than that leave the registers
+// Patterns that are laid at once; more pointers than that leave the registers.
+constexpr std::size_t layers = 8;
 
 // Grouped so that every period is between 5 and 10 KB.
 constexpr std::array<std::array<std::size_t, 3>, 16> groups = {{{7, 23, 37}, {11, 19, 31}, {13, 17, 29},

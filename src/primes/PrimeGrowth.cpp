@@ -122,11 +122,11 @@ GrowthEnd GrowBySieve(PrimeTable& table, std::uint64_t end, std::int32_t largest
 }
 
 std::uint64_t ExtendConsecutive(PrimeTable& table, std::uint64_t limit, RunControl& run) {
+    constexpr std::uint64_t anywhere = std::numeric_limits<std::uint64_t>::max() - 1;
+    const std::uint64_t lastTested = limit | 1; // the first odd number that isn't below the limit
     const std::int32_t largestSize = SizeWithinBudget(table, run);
-    const GrowthEnd end = limit == 0 ? GrowBySingleTests(table, std::numeric_limits<std::uint64_t>::max() - 1,
-                                           largestSize, 1, run)
-                                     : GrowConsecutive(table, limit | 1, largestSize,
-                                           run); // the first odd number that isn't below the limit
+    const GrowthEnd end = limit == 0 ? GrowBySingleTests(table, anywhere, largestSize, 1, run)
+                                     : GrowConsecutive(table, lastTested, largestSize, run);
     if (end == GrowthEnd::Full) {
         run.StopFor(RunEnd::OutOfMemory);
     }
@@ -175,14 +175,14 @@ bool VerifyPrimes(PrimeTable& table, std::uint64_t upTo, RunControl& run) {
 
 GrowthEnd GrowConsecutive(PrimeTable& table, std::uint64_t end, std::int32_t largestSize, RunControl& run) {
     try {
-        std::uint64_t singleEnd = std::min(end, BlockSieve::leastStart + 2);
-        if (table.Back() >= end || end - table.Back() < shortWay) {
-            singleEnd = end;
-        }
+        const bool isShort = table.Back() >= end || end - table.Back() < shortWay;
+        const std::uint64_t singleEnd = isShort ? end : std::min(end, BlockSieve::leastStart + 2);
         const auto growth =
             GrowBySingleTests(table, singleEnd, largestSize, std::numeric_limits<std::int32_t>::max(), run);
-        return growth != GrowthEnd::Reached || singleEnd == end ? growth
-                                                                : GrowBySieve(table, end, largestSize, run);
+        if (growth != GrowthEnd::Reached || singleEnd == end) {
+            return growth;
+        }
+        return GrowBySieve(table, end, largestSize, run);
     } catch (const std::bad_alloc&) {
         return EndForMemory(run);
     }

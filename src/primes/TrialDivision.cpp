@@ -49,10 +49,8 @@ std::uint64_t ExtendByDivision(PrimeTable& table, std::uint64_t limit, RunContro
         if (verdict == Verdict::Stopped) {
             break;
         }
-        if (verdict == Verdict::Prime) {
-            if (!AppendWithinBudget(table, candidate, run) || limit == 0) {
-                break;
-            }
+        if (verdict == Verdict::Prime && (!AppendWithinBudget(table, candidate, run) || limit == 0)) {
+            break;
         }
         if (run.MustStop()) {
             break;
