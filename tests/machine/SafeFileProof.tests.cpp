@@ -1,4 +1,5 @@
 #include "machine/SaveProof.h"
+#include "machine/SavedContent.h"
 #include "machine/Tracer.h"
 
 #include <doctest/doctest.h>
@@ -10,7 +11,12 @@ using namespace tessarolyne;
 
 namespace {
 
-const SaveProof safe{"safe"};
+const bool takesTime = std::getenv("TESSAROLYNE_LONG") != nullptr;
+const std::string primeFile(primeFileWriter);
+
+// What the preferences are saved by, and the prime file on top of it: a megabyte, or 20 where time is no
+// matter.
+const SaveProof proofs[] = {{"safe"}, {primeFile, 5000, std::size_t{takesTime ? 20U : 1U} * 1024 * 1024}};
 
 bool CanTraceHere() {
     static const bool can = CanTrace();
@@ -28,36 +34,43 @@ void CheckNone(const SaveProof::Faults& faults) {
 } // namespace
 
 TEST_CASE("A save that is killed at any of its system calls leaves the old file or the new one") {
-    if (CanTraceHere()) {
-        CheckNone(safe.WhenKilledAtEachCall());
+    for (const SaveProof& proof : proofs) {
+        if (CanTraceHere()) {
+            CheckNone(proof.WhenKilledAtEachCall());
+        }
     }
 }
 
 TEST_CASE("A system call that fails makes the save a reported failure with nothing left behind") {
-    if (CanTraceHere()) {
+    for (const SaveProof& proof : proofs) {
         for (const int error : {EIO, ENOSPC, EDQUOT, EACCES}) {
-            CheckNone(safe.WhenEachCallFails(error));
+            if (CanTraceHere()) {
+                CheckNone(proof.WhenEachCallFails(error));
+            }
         }
     }
 }
 
 TEST_CASE("A file is synced before it takes its name, and its folder after") {
-    if (CanTraceHere()) {
-        CheckNone(safe.InOrderOfSyncs());
+    for (const SaveProof& proof : proofs) {
+        if (CanTraceHere()) {
+            CheckNone(proof.InOrderOfSyncs());
+        }
     }
 }
 
 TEST_CASE("A save that is killed at a random moment leaves the old file or the new one") {
-    const int times = std::getenv("TESSAROLYNE_LONG") != nullptr ? 1000 : 50;
-    CheckNone(SaveProof{"safe", 5000, 1024 * 1024}.WhenKilledAtRandom(times, 20261122));
+    CheckNone(SaveProof{"safe", 5000, 1024 * 1024}.WhenKilledAtRandom(takesTime ? 1000 : 50, 20261122));
+    CheckNone(proofs[1].WhenKilledAtRandom(50, 20261122));
 }
 
 TEST_CASE("A save to a disk that is too small by any number of pages fails and leaves the old file") {
-    const auto faults = SaveProof{"safe", 5000, 300'000}.OnDiskOfEachSize();
-    if (faults) {
-        CheckNone(*faults);
-    } else {
-        MESSAGE("skipped: this system doesn't let a memory disk be mounted");
+    for (const std::string& writer : {std::string("safe"), primeFile}) {
+        if (const auto faults = SaveProof{writer, 5000, 300'000}.OnDiskOfEachSize()) {
+            CheckNone(*faults);
+        } else {
+            MESSAGE("skipped: this system doesn't let a memory disk be mounted");
+        }
     }
 }
 

@@ -1,9 +1,8 @@
 // The program that the proof of the safe writer kills, starves and feeds with errors. It saves a content that
 // both sides can compute, with the real writer or with one that has a known fault.
 //
-//     SaveWriter once <writer> <file> <size> <seed>     stops itself, saves, ends with 0 (saved) or 1
-//     (failed) SaveWriter forever <writer> <file> <size> <seed>  prints a byte, saves with seed and seed + 1
-//     in turn
+// SaveWriter once <writer> <file> <size> <seed>: stops itself, saves, ends with 0 (saved) or 1 (failed).
+// SaveWriter forever <writer> <file> <size> <seed>: prints a byte, saves with seed and seed + 1 in turn.
 #include "machine/SafeFile.h"
 #include "machine/SavedContent.h"
 #include "platform/IOException.h"

@@ -10,8 +10,8 @@ namespace tessarolyne {
 // What is done to one system call of a traced program.
 struct Meddling {
     std::size_t call; // counted from 0
-    std::optional<int> error =
-        {}; // the call isn't made and fails with this; without it the program is killed
+    // The call isn't made and fails with this; without it the program is killed.
+    std::optional<int> error = {};
 };
 
 struct TracedRun {
