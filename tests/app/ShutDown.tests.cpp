@@ -41,21 +41,6 @@ void StartLongRun(TestWorld& world) {
 
 } // namespace
 
-TEST_CASE("A close saves the settings and ends the program; so does a request to quit") {
-    TestWorld world;
-    world.files.entries.erase(preferencesFile);
-    SUBCASE("close box") {
-        world.Main().UserClosed();
-    }
-    SUBCASE("quit") {
-        world.program->app.RequestQuit();
-    }
-    CHECK(Ended(world));
-    CHECK(world.loop.ExitCode() == 0);
-    CHECK(
-        world.files.entries.at(preferencesFile).content.starts_with("Date Launch :@: 2026-11-22 12:00:00\n"));
-}
-
 TEST_CASE("New primes are offered to a bound file: save, drop, or stay") {
     TestWorld world;
     BindFileWithNewPrimes(world);

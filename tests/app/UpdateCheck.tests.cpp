@@ -102,19 +102,6 @@ TEST_CASE("A check from the menu tells what the server has, and opens only what 
     }
 }
 
-TEST_CASE("A failed connection is told with its code, and nothing is tried again") {
-    TestWorld world;
-    ChooseCheck(world);
-    world.dialogs.Expect(DialogButton::Action);
-    Answer(world, "", -102);
-    world.loop.Advance(5000);
-    CHECK(world.dialogs.asked.at(0).message == Localisation::Txt_Ver_MaJ_impo());
-    CHECK(world.dialogs.asked.at(0).explanation == "Server Error -102");
-    CHECK(world.dialogs.asked.at(0).icon == 1);
-    CHECK(world.sounds.beeps == 1);
-    CHECK(world.http.requests.empty());
-}
-
 TEST_CASE("Each button that opens an address shows it, unless it would not be opened") {
     TestWorld world;
     for (const char* address : {"http://download.example/page.html?a=1", "http://a@b"}) {

@@ -85,15 +85,3 @@ TEST_CASE("The copy buttons copy what is shown, groups and errors included") {
     CHECK(world.desktop.clipboard == "#Erreur Nbre !");
     CHECK(world.sounds.played == std::vector<std::string>(4, "Bip.wav"));
 }
-
-TEST_CASE("The list button shows whether the list is open, and opens and closes it") {
-    TestWorld world;
-    WinMain& window = world.Main();
-    window.BevelButtonListe.UserPressed();
-    CHECK(window.BevelButtonListe.Value());
-    CHECK(world.stage.Count<WinNbresPremiers>() == 1);
-    window.BevelButtonListe.UserPressed();
-    CHECK_FALSE(window.BevelButtonListe.Value());
-    world.loop.Advance(1);
-    CHECK(world.program->app.Windows().size() == 1);
-}

@@ -4,11 +4,6 @@ from case import ProgramTestCase
 from controls import TAB_ORDER
 
 
-class FocusAtTheStart(ProgramTestCase):
-    def test_the_number_has_the_focus_at_the_start(self):
-        self.wait_for_focus("EditFieldNbre")
-
-
 class Focus(ProgramTestCase):
     def test_every_control_that_takes_the_focus_has_a_name(self):
         focusable = [c for c in self.all_controls() if c.focusable and c.showing and c.role != "frame"]

