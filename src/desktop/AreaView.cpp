@@ -23,11 +23,6 @@ QTextCursor Selection(QTextDocument* document, const std::string& text, int star
     return cursor;
 }
 
-bool Same(const TextStyle& left, const TextStyle& right) {
-    return left.Start == right.Start && left.Length == right.Length && left.Bold == right.Bold &&
-           left.Underline == right.Underline && left.TextSize == right.TextSize;
-}
-
 } // namespace
 
 AreaView::AreaView(TextArea& model, QWidget* parent)
@@ -68,11 +63,10 @@ void AreaView::Read() {
 }
 
 void AreaView::ReadStyles() {
-    const auto& styles = model_.Styles();
-    if (std::equal(styles.begin(), styles.end(), styles_.begin(), styles_.end(), Same)) {
+    if (styles_ == model_.Styles()) {
         return;
     }
-    styles_ = styles;
+    styles_ = model_.Styles();
     for (const TextStyle& style : styles_) {
         QTextCharFormat format;
         format.setFontWeight(style.Bold ? QFont::Bold : QFont::Normal);

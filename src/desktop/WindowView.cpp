@@ -221,14 +221,10 @@ void WindowView::keyPressEvent(QKeyEvent* event) {
 }
 
 bool WindowView::event(QEvent* event) {
-    switch (event->type()) {
-    case QEvent::WindowActivate:
+    if (event->type() == QEvent::WindowActivate) {
         placed_ = true;
         TellPlace();
         focus_.SyncSoon();
-        break;
-    default:
-        break;
     }
     return QWidget::event(event);
 }

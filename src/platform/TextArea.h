@@ -13,6 +13,8 @@ struct TextStyle {
     bool Bold = false;
     bool Underline = false;
     int TextSize = 0; // points; 0 is the area's own
+
+    bool operator==(const TextStyle&) const = default;
 };
 
 // Several lines of text with a vertical scroll bar. Line breaks are CR, LF or both.
