@@ -6,6 +6,7 @@
 #include <dirent.h>
 #include <fcntl.h>
 #include <memory>
+#include <string_view>
 #include <sys/file.h>
 #include <sys/stat.h>
 #include <vector>
@@ -46,15 +47,25 @@ bool StillNamed(int folder, const std::string& name, int file) {
            open.st_ino == named.st_ino;
 }
 
-bool Sweep(int folder, const std::string& name) {
+// Whether a name is one that TemporaryFile gives.
+bool IsOurs(std::string_view name) {
+    if (!name.starts_with(prefix) || name.size() == prefix.size()) {
+        return false;
+    }
+    name.remove_prefix(prefix.size());
+    return std::all_of(name.begin(), name.end(), IsDigit);
+}
+
+void Sweep(int folder, const std::string& name) {
     // Open for writing, as network file systems want it for an exclusive lock.
     constexpr int flags = O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
     const Descriptor file(Uninterrupted([&] { return ::openat(folder, name.c_str(), flags); }));
     try {
-        return file.IsOpen() && TryLock(*file) == Locked::Yes && StillNamed(folder, name, *file) &&
-               ::unlinkat(folder, name.c_str(), 0) == 0;
+        if (file.IsOpen() && TryLock(*file) == Locked::Yes && StillNamed(folder, name, *file)) {
+            ::unlinkat(folder, name.c_str(), 0);
+        }
     } catch (const IOException&) {
-        return false;
+        return; // it can't be told who holds it
     }
 }
 
@@ -116,27 +127,20 @@ void TemporaryFile::CloseAndRename(const std::string& name) {
     name_.clear();
 }
 
-bool TemporaryFile::IsOurs(std::string_view name) {
-    if (!name.starts_with(prefix) || name.size() == prefix.size()) {
-        return false;
-    }
-    name.remove_prefix(prefix.size());
-    return std::all_of(name.begin(), name.end(), IsDigit);
-}
-
-int SweepTemporaryFiles(const std::string& folder) {
+void SweepTemporaryFiles(const std::string& folder) {
     const std::unique_ptr<DIR, int (*)(DIR*)> entries(::opendir(folder.c_str()), &::closedir);
     if (entries == nullptr) {
-        return 0;
+        return;
     }
     std::vector<std::string> names;
     while (const dirent* entry = ::readdir(entries.get())) {
-        if (TemporaryFile::IsOurs(entry->d_name)) {
+        if (IsOurs(entry->d_name)) {
             names.emplace_back(entry->d_name);
         }
     }
-    return static_cast<int>(std::count_if(names.begin(), names.end(),
-        [&](const std::string& name) { return Sweep(::dirfd(entries.get()), name); }));
+    for (const std::string& name : names) {
+        Sweep(::dirfd(entries.get()), name);
+    }
 }
 
 } // namespace tessarolyne

@@ -3,7 +3,6 @@
 #include "machine/Descriptor.h"
 
 #include <string>
-#include <string_view>
 #include <sys/types.h>
 
 namespace tessarolyne {
@@ -22,9 +21,6 @@ public:
     // Closes the file for writing, with the lock kept, and gives it its final name. Throws IOException.
     void CloseAndRename(const std::string& name);
 
-    // Whether a name is one that this class gives.
-    static bool IsOurs(std::string_view name);
-
 private:
     bool Lock();
 
@@ -33,8 +29,8 @@ private:
     Descriptor file_;
 };
 
-// Removes the files in the folder that have such a name and that no living process holds. Gives their number;
-// a folder that can't be read has none.
-int SweepTemporaryFiles(const std::string& folder);
+// Removes the files in the folder that have such a name and that no living process holds, as far as the
+// folder can be read.
+void SweepTemporaryFiles(const std::string& folder);
 
 } // namespace tessarolyne
