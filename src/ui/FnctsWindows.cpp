@@ -23,12 +23,40 @@ std::vector<Control*> Overlays(const Window& window) {
     return found;
 }
 
-void Spread(Control& overlay, const Window& window) {
+void Cover(Window& window, Fncts& fncts) {
+    const auto overlays = Overlays(window);
+    if (overlays.empty()) {
+        fncts.ReportFaultInLines(
+            "CtrlDsFenetrDiag, there is not 'LabBlockUI' in window '" + window.Title() + "'");
+        return;
+    }
+    Control& overlay = *overlays.front();
     overlay.Visible = true;
     overlay.Top = 0;
     overlay.Left = 0;
     overlay.Width = window.Width();
     overlay.Height = window.Height();
+    if (!overlay.LockLeft() || !overlay.LockTop()) {
+        fncts.ReportFaultInLines("CtrlDsFenetrDiag, 'LabBlockUI' should be Lock Left and Lock Top");
+        overlay.LockLeft = true;
+        overlay.LockTop = true;
+    }
+    overlay.LockRight = true;
+    overlay.LockBottom = true;
+    if (overlays.size() > 1) {
+        fncts.ReportFaultInLines(
+            "CtrlDsFenetrDiag, there is more than one 'LabBlockUI' in window '" + window.Title() + "'");
+    }
+}
+
+void Uncover(Window& window) {
+    for (Control* overlay : Overlays(window)) {
+        overlay->Visible = false;
+        overlay->Width = restingSize;
+        overlay->Height = restingSize;
+        overlay->LockRight = false;
+        overlay->LockBottom = false;
+    }
 }
 
 } // namespace
@@ -40,37 +68,8 @@ bool Fncts::CtrlDsFenetrDiag(Window* fenetre, bool montrer) {
     const auto windows = program_.app.Windows();
     for (auto place = windows.rbegin(); place != windows.rend(); ++place) {
         Window& window = **place;
-        if (!window.Visible() || &window == fenetre) {
-            continue;
-        }
-        const auto overlays = Overlays(window);
-        if (!montrer) {
-            for (Control* overlay : overlays) {
-                overlay->Visible = false;
-                overlay->Width = restingSize;
-                overlay->Height = restingSize;
-                overlay->LockRight = false;
-                overlay->LockBottom = false;
-            }
-            continue;
-        }
-        if (overlays.empty()) {
-            ReportFaultInLines(
-                "CtrlDsFenetrDiag, there is not 'LabBlockUI' in window '" + window.Title() + "'");
-            continue;
-        }
-        Control& overlay = *overlays.front();
-        Spread(overlay, window);
-        if (!overlay.LockLeft() || !overlay.LockTop()) {
-            ReportFaultInLines("CtrlDsFenetrDiag, 'LabBlockUI' should be Lock Left and Lock Top");
-            overlay.LockLeft = true;
-            overlay.LockTop = true;
-        }
-        overlay.LockRight = true;
-        overlay.LockBottom = true;
-        if (overlays.size() > 1) {
-            ReportFaultInLines(
-                "CtrlDsFenetrDiag, there is more than one 'LabBlockUI' in window '" + window.Title() + "'");
+        if (window.Visible() && &window != fenetre) {
+            montrer ? Cover(window, *this) : Uncover(window);
         }
     }
     return montrer;
