@@ -1,13 +1,12 @@
 #include "platform/Ascii.h"
 #include "platform/IOException.h"
+#include "primes/DigitNeighbourhood.h"
 #include "primes/FieldValue.h"
 #include "primes/PrimeFile.h"
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <cstdint>
-#include <cstring>
 #include <limits>
 #include <span>
 #include <string>
@@ -24,20 +23,6 @@ constexpr std::string_view lineEnds = "\r\n";
 bool IsLineEnd(char c) {
     return c == '\n' || c == '\r';
 }
-
-// What ends a field. Behind a number all of these mean the same: the next field begins.
-bool EndsField(char c) {
-    constexpr std::uint32_t ends = 1U << '\t' | 1U << '\n' | 1U << '\r';
-    const auto code = static_cast<unsigned char>(c);
-    return code < 32 && (ends >> code & 1U) != 0;
-}
-
-// Half a gap less one, which is at most 254 for the even gaps from 2 to 510 and more for any other: an odd
-// one is rotated into the highest bit.
-std::uint64_t HalfGapLessOne(std::uint64_t from, std::uint64_t to) {
-    return std::rotr(to - from - 2, 1);
-}
-constexpr std::uint64_t largestHalfGapLessOne = 254;
 
 // Looks for " : " in a line that comes in parts.
 class HeaderMark {
@@ -134,83 +119,6 @@ void NumberSink::Restart() {
     milestone_ = 0;
 }
 
-// The digits that a number has in common with those around it: all but the last four. Numbers of 5 to 12
-// digits have such a neighbourhood; the largest that the program accepts has 12.
-class Neighbourhood {
-public:
-    static constexpr std::size_t readAhead = 16;
-
-    void Settle(const char* digits, std::size_t size, std::uint64_t value) {
-        size_ = 0;
-        if (size > lowDigits && size <= lowDigits + sizeof leading_) {
-            size_ = size;
-            std::array<unsigned char, sizeof leading_> mask{};
-            std::fill_n(mask.begin(), size - lowDigits, static_cast<unsigned char>(0xFF));
-            std::memcpy(&mask_, mask.data(), sizeof mask_);
-            std::memcpy(&leading_, digits, sizeof leading_);
-            leading_ &= mask_;
-            base_ = value - value % 10000;
-        }
-    }
-    bool IsSettled() const { return size_ != 0; }
-    void Leave() { size_ = 0; }
-
-    // Reads numbers of the neighbourhood with small gaps, at most as many as `halfGaps` has room for, and
-    // gives how many; moves `at` behind them and `last` to the last of them. readAhead bytes beyond `end` can
-    // be read.
-    std::size_t Read(
-        const char*& at, const char* end, std::span<std::uint8_t> halfGaps, std::uint64_t& last) const;
-
-private:
-    static constexpr std::size_t lowDigits = 4;
-
-    std::size_t size_ = 0; // digits of a number, 0 for no neighbourhood
-    std::uint64_t leading_ = 0;
-    std::uint64_t mask_ = 0;
-    std::uint64_t base_ = 0;
-};
-
-std::uint32_t LoadLittleEndian(const char* bytes) {
-    const auto byte = [&](int i) { return std::uint32_t{static_cast<unsigned char>(bytes[i])}; };
-    return byte(0) | byte(1) << 8U | byte(2) << 16U | byte(3) << 24U;
-}
-
-std::size_t Neighbourhood::Read(
-    const char*& at, const char* end, std::span<std::uint8_t> halfGaps, std::uint64_t& last) const {
-    const std::size_t size = size_;
-    const std::uint64_t leading = leading_;
-    const std::uint64_t mask = mask_;
-    const char* place = at;
-    // All are of one size, so the room for numbers is room for bytes as well.
-    const auto most = static_cast<std::ptrdiff_t>(halfGaps.size() * (size + 1));
-    const char* const stop = end - place > most ? place + most : end;
-    std::uint64_t before = last - base_; // as the low digits of the one before, which may wrap
-    std::uint8_t* halfGap = halfGaps.data();
-    while (place < stop) {
-        std::uint64_t head = 0;
-        std::memcpy(&head, place, sizeof head);
-        // Four digits as bytes of 0 to 9.
-        const std::uint32_t digits = LoadLittleEndian(place + size - lowDigits) ^ 0x30303030U;
-        const std::uint64_t strange = ((digits + 0x76767676U) | digits) & 0x80808080U;
-        if ((((head & mask) ^ leading) | strange) != 0 || !EndsField(place[size])) {
-            break;
-        }
-        // Each byte ten times and the next one added, which leaves two pairs; then the same with these.
-        const std::uint32_t pairs = ((digits * (10U << 8U | 1U)) >> 8U) & 0x00FF00FFU;
-        const std::uint64_t low = (pairs * (100U << 16U | 1U)) >> 16U;
-        const std::uint64_t halfGapLessOne = HalfGapLessOne(before, low);
-        if (halfGapLessOne > largestHalfGapLessOne) {
-            break;
-        }
-        *halfGap++ = static_cast<std::uint8_t>(halfGapLessOne + 1);
-        before = low;
-        place += size + 1;
-    }
-    at = place;
-    last = base_ + before;
-    return static_cast<std::size_t>(halfGap - halfGaps.data());
-}
-
 // Takes a prime file in pieces of any size.
 class Reader {
 public:
@@ -230,7 +138,7 @@ private:
     void EndField(std::uint64_t value, char ending);
 
     NumberSink sink_;
-    Neighbourhood neighbourhood_;
+    DigitNeighbourhood neighbourhood_;
     bool inFirstLine_ = true;
     bool isHeader_ = false;
     bool hasBegun_ = false;
@@ -305,13 +213,13 @@ void Reader::TakeData(const char* at, const char* end) {
 }
 
 const char* Reader::TakeNeighbours(const char* at, const char* end) {
-    if (!neighbourhood_.IsSettled() || end - at <= std::ptrdiff_t{Neighbourhood::readAhead}) {
+    if (!neighbourhood_.IsSettled() || end - at <= std::ptrdiff_t{DigitNeighbourhood::readAhead}) {
         return at;
     }
     const auto room = static_cast<std::size_t>(sink_.Room());
     std::uint64_t last = sink_.Last();
     const auto count =
-        neighbourhood_.Read(at, end - Neighbourhood::readAhead, sink_.Gaps().first(room), last);
+        neighbourhood_.Read(at, end - DigitNeighbourhood::readAhead, sink_.Gaps().first(room), last);
     sink_.Took(count, last);
     return at;
 }
@@ -331,7 +239,7 @@ const char* Reader::TakePlainField(const char* at, const char* end) {
     if (place == at || place == end || !EndsField(*place)) {
         return at;
     }
-    if (end - at >= std::ptrdiff_t{Neighbourhood::readAhead}) {
+    if (end - at >= std::ptrdiff_t{DigitNeighbourhood::readAhead}) {
         neighbourhood_.Settle(at, static_cast<std::size_t>(place - at), value);
     }
     EndField(value, *place);
