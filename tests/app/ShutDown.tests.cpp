@@ -156,6 +156,8 @@ TEST_CASE("Without a place for preferences the program says so and ends, with no
     world.files.unwritable.insert("/opt/tessarolyne/TessarolynePrefs");
     world.dialogs.ExpectTell();
     world.program->Start();
+    CHECK(world.dialogs.told.at(0) ==
+          "Error !\nPlease contact the authors.\n\nImpossible to create the Preferences folder.");
     CHECK(Ended(world));
     CHECK(world.loop.ExitCode() == 0);
 }
