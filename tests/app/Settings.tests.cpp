@@ -44,8 +44,6 @@ TEST_CASE("Every setting is back after a restart") {
     first.Type(window.EditFieldCentimes, "");
     window.NbreNbPparLigne = 0;
     window.UserClosed();
-    CHECK(
-        first.files.entries.at(preferencesFile).content.starts_with("Date Launch :@: 2026-11-22 12:00:00\n"));
 
     auto second = StartWith("");
     second->program.reset();

@@ -60,8 +60,9 @@ TEST_CASE("Until the user has given, each start asks for a donation with a title
     CHECK(world.http.requests.size() == 1);
     world.program->app.RequestQuit();
     world.loop.Advance(100);
-    CHECK(world.files.entries["/home/user/.config/Tessarolyne Prefs.txt"].content.find("Don 03 :@: False") !=
-          std::string::npos);
+    const std::string& saved = world.files.entries["/home/user/.config/Tessarolyne Prefs.txt"].content;
+    CHECK(saved.starts_with("Date Launch :@: 2026-11-22 12:00:00\n")); // this launch, not the one before
+    CHECK(saved.find("Don 03 :@: False") != std::string::npos);
 }
 
 TEST_CASE("Who has given, or says so, isn't asked again, whatever the browser does") {
