@@ -73,6 +73,10 @@ TEST_CASE("A number at or above the table's last prime is factored on the spot, 
         CHECK(window.Nbres_Premiers.Back() == 11);
         CHECK(window.ThreadDecPrems.State() == Thread::notRunning);
     }
+    CHECK(window.TicksFinCalc == world.loop.Ticks() + 30); // half a second
+    window.TicksFinCalc = world.loop.Ticks() - 1;
+    CHECK(window.NbresPremCalc(0, true) == 11);
+    CHECK(world.program->fncts.ArretUrg);
     window.EditFieldNbre.Text = "6";
     window.DecompPremDeb(false);
     CHECK(window.TxtAreaDecomp1er.Text() == "…");
