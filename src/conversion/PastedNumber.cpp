@@ -1,5 +1,6 @@
 #include "conversion/PastedNumber.h"
 
+#include "platform/Ascii.h"
 #include "platform/Text.h"
 #include "platform/Utf8.h"
 
@@ -9,14 +10,6 @@
 namespace tessarolyne {
 
 namespace {
-
-bool IsDigit(char c) {
-    return c >= '0' && c <= '9';
-}
-
-bool IsLetter(char c) {
-    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
-}
 
 // The line ends that Unicode calls mandatory: LF, VT, FF, CR, NEL, line and paragraph separator.
 bool IsLineEnd(char32_t code) {

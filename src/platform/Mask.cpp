@@ -43,15 +43,13 @@ std::string Mask::Filter(
     if (!filters_) {
         return std::string(inserted);
     }
-    std::string left = Left(before, Position(start));
-    std::string right = Mid(before.substr(left.size()), Position(removed) + 1);
-    std::erase(left, ' ');
-    std::erase(right, ' ');
-    return FittingPart(inserted, left, right);
+    const std::string left = Left(before, Position(start));
+    const std::string right = Mid(before.substr(left.size()), Position(removed) + 1);
+    return FittingPart(inserted, WithoutBlanks(left), WithoutBlanks(right));
 }
 
 bool Mask::Holds(std::string_view text) const {
-    return !filters_ || Fits(ReplaceAll(text, " ", ""));
+    return !filters_ || Fits(WithoutBlanks(text));
 }
 
 std::string Mask::FittingPart(

@@ -59,7 +59,7 @@ class Keyboard(ProgramTestCase):
         self.wait_for_text("EditFieldBaseOrg", "BCDE")
         self.go_to("EditFieldNbre")
         self.screen.press("ctrl+a")
-        self.screen.type("1.22")
+        self.screen.type("1,22")
         self.wait_for_text("TxtAreaLettres", "One pound twenty-two pence")
         self.screen.press("F10", "Right", "Up", "Return")
         self.find("check box", "Vérifier automatiquement")
