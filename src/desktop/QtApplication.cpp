@@ -1,5 +1,6 @@
 #include "desktop/QtApplication.h"
 
+#include "desktop/OutlinedStyle.h"
 #include "desktop/QtText.h"
 #include "desktop/Resources.h"
 
@@ -41,6 +42,9 @@ QtApplication::QtApplication(const std::string& name, const std::string& identif
     setApplicationName(ToQt(name));
     setDesktopFileName(ToQt(identifier));
     setQuitOnLastWindowClosed(false);
+    if (style()->name() == u"fusion") {
+        setStyle(new OutlinedStyle);
+    }
     LoadIcon();
     connect(this, &QGuiApplication::commitDataRequest, this, [this](QSessionManager&) {
         if (OnSessionEnds) {
