@@ -13,7 +13,7 @@ namespace tessarolyne {
 // All that the desktop answers. Made after the QtApplication and before the program, and outlives it.
 struct QtServices {
     explicit QtServices(FileSystem& files, HttpLimits httpLimits = {})
-        : dialogs(loop, stage, files), http(loop, httpLimits) {}
+        : dialogs(loop, stage, files), desktop(loop), http(loop, httpLimits) {}
 
     // Them together with what the machine answers.
     Services With(Clock& clock, FileSystem& files, MemoryLimits& memory) {

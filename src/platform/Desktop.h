@@ -2,6 +2,7 @@
 
 #include "platform/FolderItem.h"
 
+#include <functional>
 #include <string>
 
 namespace tessarolyne {
@@ -18,8 +19,10 @@ public:
     virtual bool OptionKeyIsDown() const = 0;
     virtual bool ShiftKeyIsDown() const = 0;
 
-    // Hands an address or a file to the desktop without waiting. False if nothing takes it.
-    virtual bool OpenAddress(const std::string& address) = 0;
+    // Hands an address to the desktop without waiting. Where nothing takes it, `refused` is called on the
+    // main thread, at once or as soon as that is known.
+    virtual void OpenAddress(const std::string& address, std::function<void()> refused) = 0;
+    // The same for a file. False if nothing takes it.
     virtual bool OpenFile(const FolderItem& item) = 0;
 };
 

@@ -60,8 +60,11 @@ void Fncts::PressPapTxt(const std::string& texte) {
 }
 
 void Fncts::ShowURL(const std::string& adresse) {
-    if (!IsSafeOwnAddress(adresse) || !program_.services.desktop.OpenAddress(adresse)) {
-        MsgBox(adresse);
+    const auto show = [this, adresse] { MsgBox(adresse); };
+    if (IsSafeOwnAddress(adresse)) {
+        program_.services.desktop.OpenAddress(adresse, show);
+    } else {
+        show();
     }
 }
 

@@ -1,5 +1,7 @@
 """The about window, the preferences, the help and the update check, as a user meets them."""
 
+from pathlib import Path
+
 from case import ProgramTestCase
 from program import PROGRAM
 from version_site import VERSION_FILE, Site, page
@@ -39,6 +41,15 @@ class SmallWindows(ProgramTestCase):
         self.wait_until_opened(BUILD_TOOL_SITE)
         self.click("push button", "Ok")
         self.wait_until_gone("push button", "Ok")
+
+    def test_an_address_is_shown_where_the_desktop_has_nothing_to_open_it_with(self):
+        opener = Path(self._home) / "bin" / "xdg-open"
+        self.addCleanup(opener.write_text, opener.read_text())
+        opener.write_text("#!/bin/sh\nexit 3\n")
+        self.choose_command("Faire un don")
+        self.find("text", f"{AUTHOR_SITE}/site/PayPage.html?Tessarolyne")
+        self.screen.press("Return")
+        self.wait_until_gone("text", AUTHOR_SITE)
 
     def test_a_quit_goes_through_while_a_modal_window_is_up(self):
         self.choose_command("À propos")

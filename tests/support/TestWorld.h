@@ -93,9 +93,11 @@ public:
     void SetClipboardText(const std::string& text) override { clipboard = text; }
     bool OptionKeyIsDown() const override { return option; }
     bool ShiftKeyIsDown() const override { return shift; }
-    bool OpenAddress(const std::string& address) override {
+    void OpenAddress(const std::string& address, std::function<void()> refused) override {
         opened.push_back(address);
-        return takesAddresses;
+        if (!takesAddresses) {
+            refused();
+        }
     }
     bool OpenFile(const FolderItem& item) override {
         opened.push_back(item.NativePath());
