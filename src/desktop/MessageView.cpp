@@ -97,7 +97,9 @@ QWidget* MessageView::MakeButtons(const MessageDialog& dialog) {
                          const std::string& helpTag) {
         auto* const button = box->addButton(WithoutMnemonic(caption), role);
         button->setAutoDefault(false); // Return belongs to the action button alone
-        button->setToolTip(PlainToolTip(FromQt(VisibleText(helpTag))));
+        const QString tag = VisibleText(helpTag);
+        button->setToolTip(PlainToolTip(FromQt(tag)));
+        button->setAccessibleDescription(tag); // else Qt reads out the tool tip's markup
         connect(button, &QPushButton::clicked, this, [this, answer] { Finish(answer); });
         return button;
     };

@@ -26,6 +26,23 @@ Reached Walk(const std::string& text, Stop stop) {
     return reached;
 }
 
+// An address has no blank, and Qt breaks a tool tip only there: a long one would run off the screen.
+QString WithPlacesToBreak(const QString& text) {
+    constexpr qsizetype longestRun = 80;
+    constexpr QChar zeroWidthSpace(0x200B);
+    QString broken;
+    qsizetype run = 0;
+    for (const QChar unit : text) {
+        if (run >= longestRun && !unit.isLowSurrogate()) {
+            broken += zeroWidthSpace;
+            run = 0;
+        }
+        broken += unit;
+        run = unit.isSpace() ? 0 : run + 1;
+    }
+    return broken;
+}
+
 } // namespace
 
 QString ToQt(const std::string& text) {
@@ -63,8 +80,8 @@ QString PlainToolTip(const std::string& text) {
     if (text.empty()) {
         return QString();
     }
-    return QLatin1String("<p style='white-space:pre-wrap'>") + WithLineFeeds(text).toHtmlEscaped() +
-           QLatin1String("</p>");
+    return QLatin1String("<p style='white-space:pre-wrap'>") +
+           WithPlacesToBreak(WithLineFeeds(text)).toHtmlEscaped() + QLatin1String("</p>");
 }
 
 Qt::Alignment QtAlignment(Alignment alignment) {

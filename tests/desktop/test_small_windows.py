@@ -8,6 +8,7 @@ from version_site import VERSION_FILE, Site, page
 
 AUTHOR_SITE = "http://www.tessarolyne.example"
 AUTHOR_SITE_2 = "http://www2.tessarolyne.example"
+QUESTIONS = f"{AUTHOR_SITE}/prg/Xojo/Tessarolyne_FAQ.html"
 BUILD_TOOL_SITE = "http://www.buildtool.example"
 DOWNLOAD = "http://download.example/"
 
@@ -60,8 +61,9 @@ class SmallWindows(ProgramTestCase):
     def test_the_help_leads_to_the_questions_and_to_the_about_window(self):
         self.choose_command("Aide Tessarolyne", "Aide")
         self.find("text", "L'aide n'est pas disponible pour Tessarolyne.")
+        self.assertEqual(self.find("push button", "FAQ").description, QUESTIONS)
         self.click("push button", "FAQ")
-        self.wait_until_opened(f"{AUTHOR_SITE}/prg/Xojo/Tessarolyne_FAQ.html")
+        self.wait_until_opened(QUESTIONS)
         self.screen.press("ctrl+question")
         self.click("push button", "Lire À propos")
         self.find("filler", BUILD_TOOL_SITE)
