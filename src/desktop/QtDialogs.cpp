@@ -8,11 +8,36 @@
 #include "platform/EventLoop.h"
 
 #include <QApplication>
+#include <QChildEvent>
 #include <QFile>
 #include <QFileDialog>
+#include <QMessageBox>
 #include <QWindow>
 
 namespace tessarolyne {
+
+namespace {
+
+// Qt's own chooser asks before it takes a file that is there already, and would take a name such as "<b>.txt"
+// for markup.
+class PlainQuestions final : public QObject {
+public:
+    explicit PlainQuestions(QFileDialog& chooser) : QObject(&chooser) { chooser.installEventFilter(this); }
+
+protected:
+    bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::ChildPolished) {
+            QObject* const child = static_cast<QChildEvent*>(event)->child();
+            if (auto* const question = qobject_cast<QMessageBox*>(child)) {
+                question->setTextFormat(Qt::PlainText);
+                question->setText(VisibleText(FromQt(question->text())));
+            }
+        }
+        return false;
+    }
+};
+
+} // namespace
 
 DialogButton QtDialogs::Ask(const MessageDialog& dialog) {
     MessageView view(dialog, ParentFor(dialog.sheetOf));
@@ -69,6 +94,7 @@ void QtDialogs::Run(QDialog& dialog) {
 void QtDialogs::SetUp(QFileDialog& chooser, const FileDialog& dialog) const {
     chooser.setWindowModality(chooser.parentWidget() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
     chooser.setWindowTitle(VisibleText(dialog.prompt));
+    new PlainQuestions(chooser);
     // A link is chosen as itself; the program resolves it where it wants the target.
     chooser.setOption(QFileDialog::DontResolveSymlinks);
     if (!dialog.filterExtension.empty()) {

@@ -183,9 +183,7 @@ void QtEventLoop::LetHeldIn() {
 void QtEventLoop::Quit(int exitCode) {
     quitting_ = true;
     exitCode_ = exitCode;
-    for (QEventLoop* loop : loops_) {
-        loop->exit();
-    }
+    QCoreApplication::exit(exitCode); // every loop, also those of Qt's own dialogs
 }
 
 } // namespace tessarolyne

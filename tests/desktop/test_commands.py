@@ -1,12 +1,23 @@
 """Commands that reach beyond the main window: the list of primes and its file."""
 
 import os
+import signal
 from pathlib import Path
 
 from case import ProgramTestCase
 
 
-class PrimeFile(ProgramTestCase):
+class SavingTestCase(ProgramTestCase):
+    def save_as(self, target):
+        self.screen.press("ctrl+s")
+        self.program.wait_for(
+            lambda: next((c for c in self.all_controls() if c.focused and c.text.endswith(".txt")), None), "the chooser"
+        )
+        self.screen.type(str(target))
+        self.screen.press("Return")
+
+
+class PrimeFile(SavingTestCase):
     def test_primes_are_computed_saved_and_found_again(self):
         target = Path(self._home) / "primes.txt"
         self.press_button("BevelButtonListe")
@@ -17,12 +28,7 @@ class PrimeFile(ProgramTestCase):
         self.screen.press("Return")
         self.control("StaticTextNbNbre1ers")
         self.assertTrue(self.control("TxtAreaListeNbres1ers").text.startswith("\t2\t3\t5\t7\t11\t13\n\t17"))
-        self.screen.press("ctrl+s")
-        self.program.wait_for(
-            lambda: next((c for c in self.all_controls() if c.focused and c.text.endswith(".txt")), None), "the chooser"
-        )
-        self.screen.type(str(target.with_suffix("")))  # the chooser adds what it needs to show the file again
-        self.screen.press("Return")
+        self.save_as(target.with_suffix(""))  # the chooser adds what it needs to show the file again
         self.program.wait_for(lambda: target.is_file() and target.read_text().endswith("977\t983\n"), "the file")
         self.control("PushButtonFichier")  # the commands are back: while a save runs the program takes no input
         self.press_button("BevelButtonListe")
@@ -54,3 +60,14 @@ class PrimeFile(ProgramTestCase):
         format_auto = self.control("CheckBoxFormatAuto")
         self.program.wait_for(lambda: not format_auto.checked, "a click after the load to be done")
         self.assertTrue(self.control("BevelButtonListe").checked)
+
+
+class FileInTheWay(SavingTestCase):
+    def test_the_chooser_asks_in_plain_text_and_a_signal_ends_that_too(self):
+        target = Path(self._home) / "<b>1.txt"
+        target.write_text("kept")
+        self.save_as(target)
+        self.find("label", "Le fichier <b>1.txt existe")
+        self.program.signal(signal.SIGTERM)
+        self.assertEqual(self.program.wait_for_end(), 0)
+        self.assertEqual(target.read_text(), "kept")
