@@ -37,6 +37,9 @@ protected:
     void keyPressEvent(QKeyEvent* event) override {
         const bool presses =
             event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        if (presses && event->isAutoRepeat()) {
+            return; // a key that is held down is one press
+        }
         if (presses && model_.MouseDown(0, 0)) {
             model_.MouseUp(0, 0);
         } else {
