@@ -10,6 +10,10 @@ option(TESSAROLYNE_WARNINGS_AS_ERRORS "Treat warnings as errors" OFF)
 set(TESSAROLYNE_SANITIZE "" CACHE STRING "Sanitizers, as in -fsanitize= (for instance address,undefined)")
 
 set(TESSAROLYNE_SITE "http://www.tessarolyne.example" CACHE STRING "The author's site, without a trailing slash")
+if(NOT TESSAROLYNE_SITE MATCHES "^http://[^/].*[^/]$")
+    message(FATAL_ERROR "TESSAROLYNE_SITE is \"${TESSAROLYNE_SITE}\": the update check needs a site that begins with "
+                        "\"http://\" and ends without a slash.")
+endif()
 set(TESSAROLYNE_SITE_OF_PICTURES "${TESSAROLYNE_SITE}/pictures"
     CACHE STRING "Where software centres find the files of docs/pictures")
 set(TESSAROLYNE_SITE_2 "http://www2.tessarolyne.example" CACHE STRING "The second author's site")
