@@ -28,7 +28,7 @@
         <source>⇧ clic pour sauvegarder ce fichier
 ⌥ clic pour éditer le fichier texte dans TextEdit</source>
         <translation>⇧ click to save this file
-⌥ click to edit the text file in TextEdit</translation>
+⌥ click to edit the file in a text editor</translation>
     </message>
     <message id="Localisation.Btn_ChoixFich">
         <source>Choisir Fichier</source>
@@ -94,7 +94,7 @@
         <source>⇧ clic pour choisir un fichier existant
 ⌥ clic pour éditer le fichier texte dans TextEdit</source>
         <translation>⇧ click to choose an existing file
-⌥ click to edit the text file in TextEdit</translation>
+⌥ click to edit the file in a text editor</translation>
     </message>
     <message id="Localisation.Btn_SiteWeb">
         <source>Site Web</source>
@@ -114,7 +114,7 @@
     </message>
     <message id="Localisation.EdFieldNbNbresLigne_HT">
         <source>Entrer ici la quantité de nombres premiers que vous voulez par ligne dans le fichier</source>
-        <translation>Enter here how many primes you want on each line of the file</translation>
+        <translation>Enter here how many primes you want per line in the file</translation>
     </message>
     <message id="Localisation.EditFieldAffAu_HT">
         <source>Entrer 0 afin d&apos;afficher jusqu&apos;au dernier nombre premier</source>
@@ -142,7 +142,7 @@
 Il suffit de cliquer le bouton PayPal ci-dessous, même si vous ne faites pas de don, pour ne plus voir apparaître cette fenêtre.
  
 Merci beaucoup.</source>
-        <translation>A donation would be appreciated, to help me continue developing this program, because that has its cost. Apart from the time I spend, I have to pay for the tools I use.
+        <translation>A donation would be appreciated to help me go on developing this program, which has its costs: besides the time I spend on it, I have to pay for the tools I use.
  
 Just click the PayPal button below, even if you don&apos;t donate, and this window will not appear again.
  
@@ -202,9 +202,9 @@ If you notice anything that does not work, please let us know.
  
 This program creates a file named “Tessarolyne Prefs.txt” in the Preferences folder.
  
-The authors decline all responsibility for the use of this software. They cannot be held liable for any loss of data that results from its use.
+The authors accept no responsibility for the use of this software. They cannot be held liable for any loss of data resulting from its use.
  
-Many thanks to the following people for their tests and translations.
+Many thanks to the following people for testing and translating.
 English translation: the authors of Tessarolyne</translation>
     </message>
     <message id="Localisation.Menu_Aide">
