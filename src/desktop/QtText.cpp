@@ -26,15 +26,14 @@ Reached Walk(const std::string& text, Stop stop) {
     return reached;
 }
 
-// An address has no blank, and Qt breaks a tool tip only there: a long one would run off the screen.
-QString WithPlacesToBreak(const QString& text) {
+// An address has no blank to be broken at, and may be longer than the screen is wide.
+QString WithLongRunsBroken(const QString& text) {
     constexpr qsizetype longestRun = 80;
-    constexpr QChar zeroWidthSpace(0x200B);
     QString broken;
     qsizetype run = 0;
     for (const QChar unit : text) {
         if (run >= longestRun && !unit.isLowSurrogate()) {
-            broken += zeroWidthSpace;
+            broken += u'\n';
             run = 0;
         }
         broken += unit;
@@ -80,8 +79,8 @@ QString PlainToolTip(const std::string& text) {
     if (text.empty()) {
         return QString();
     }
-    return QLatin1String("<p style='white-space:pre-wrap'>") +
-           WithPlacesToBreak(WithLineFeeds(text)).toHtmlEscaped() + QLatin1String("</p>");
+    return QLatin1String("<p style='white-space:pre'>") +
+           WithLongRunsBroken(WithLineFeeds(text)).toHtmlEscaped() + QLatin1String("</p>");
 }
 
 Qt::Alignment QtAlignment(Alignment alignment) {
