@@ -57,6 +57,7 @@ void WinMain::SetInitialState() {
     RadioButton09AZ[0].Caption = "01…89AB…YZ";
     RadioButton09AZ[1].Caption = "AB…YZ01…89";
     BevelButtonListe.Caption = Localisation::BevelButtListe();
+    BevelButtonListe.HasState = true;
     PushButtDecomposer.Caption = Localisation::Btn_Decomposer();
     PushButtDecomposer.Enabled = false;
     ProgressWheel1.Visible = false;

@@ -92,12 +92,11 @@ void PushButtonView::Read() {
 
 BevelButtonView::BevelButtonView(BevelButton& model, QWidget* parent)
     : ButtonView(model, new BevelWidget(model, parent), [&model] { model.UserPressed(); }), model_(model),
-      button_(static_cast<QPushButton*>(Widget())) {
-    button_->setCheckable(true);
-}
+      button_(static_cast<QPushButton*>(Widget())) {}
 
 void BevelButtonView::Read() {
     ShowCaption(model_.Caption, pushPadding);
+    button_->setCheckable(model_.HasState);
     button_->setChecked(model_.Value);
     button_->update();
 }

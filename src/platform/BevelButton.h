@@ -7,8 +7,8 @@
 
 namespace tessarolyne {
 
-// A button with a state of its own that is shown pressed while Value is true. A press gives Action and leaves
-// Value alone.
+// A button with a picture for its face, which may have a state of its own: it is shown pressed while Value is
+// true. A press gives Action and leaves Value alone.
 class BevelButton final : public Control {
 public:
     using Control::Control;
@@ -23,6 +23,8 @@ public:
 
     Property<std::string> Caption{*this};
     Property<bool> Value{*this, false};
+    // Value means something, and a screen reader tells it; else this is a button like any other.
+    Property<bool> HasState{*this, false};
     Property<Picture> Icon{*this};
     Property<int> IconDX{*this, 0};
     Property<int> IconDY{*this, 0};

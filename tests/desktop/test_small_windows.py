@@ -33,6 +33,7 @@ class SmallWindows(ProgramTestCase):
         icon = next(c for c in self.all_controls() if c.showing and c.bounds[2:] == (64, 64))
         for picture in (icon, logo):
             self.program.wait_for(lambda: self.colours(*picture.bounds) > 8, f"{picture} to be drawn")
+        self.find("push button", "Faire un don")
         self.screen.press("alt+F4", "Tab")
         link = self.find("label", AUTHOR_SITE_2)
         self.program.wait_for(lambda: link.focused, "the first link to have the focus")
