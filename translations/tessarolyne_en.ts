@@ -144,7 +144,7 @@ Il suffit de cliquer le bouton PayPal ci-dessous, même si vous ne faites pas de
 Merci beaucoup.</source>
         <translation>A donation would be appreciated to help me go on developing this program, which has its costs: besides the time I spend on it, I have to pay for the tools I use.
  
-Just click the PayPal button below, even if you don&apos;t donate, and this window will not appear again.
+Just click the donation button below, even if you don&apos;t donate, and this window will not appear again.
  
 Thank you very much.</translation>
     </message>
