@@ -15,9 +15,17 @@ class Pressable : public Base {
 public:
     Pressable(Model& model, QWidget* parent) : Base(parent), model_(model) {}
 
-protected:
     Model& PressedModel() const { return model_; }
+    // A press in place, without the mouse. False if the model doesn't take any.
+    bool Press() {
+        const bool taken = model_.MouseDown(0, 0);
+        if (taken) {
+            model_.MouseUp(0, 0);
+        }
+        return taken;
+    }
 
+protected:
     void mousePressEvent(QMouseEvent* event) override {
         const QPoint at = event->position().toPoint();
         pressed_ = event->button() == Qt::LeftButton && model_.MouseDown(at.x(), at.y());
@@ -40,9 +48,7 @@ protected:
         if (presses && event->isAutoRepeat()) {
             return; // a key that is held down is one press
         }
-        if (presses && model_.MouseDown(0, 0)) {
-            model_.MouseUp(0, 0);
-        } else {
+        if (!presses || !Press()) {
             event->ignore();
         }
     }

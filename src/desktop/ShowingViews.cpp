@@ -5,12 +5,17 @@
 #include "desktop/Pressable.h"
 #include "desktop/QtText.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QGroupBox>
 #include <QLabel>
+#include <QMetaObject>
 #include <QPainter>
 #include <QProgressBar>
 
 #include <algorithm>
+#include <functional>
+#include <utility>
 
 namespace tessarolyne {
 
@@ -38,12 +43,46 @@ protected:
     }
 };
 
+// A link as a screen reader meets it: called one, and with a press that needs neither mouse nor keyboard.
+class LinkAccess final : public QAccessibleWidget {
+public:
+    LinkAccess(QWidget& widget, std::function<void()> press)
+        : QAccessibleWidget(&widget, QAccessible::Link), press_(std::move(press)) {}
+
+    QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
+    // The reader doesn't wait for what the press brings up.
+    void doAction(const QString& action) override {
+        if (action == pressAction()) {
+            QMetaObject::invokeMethod(widget(), press_, Qt::QueuedConnection);
+        } else {
+            QAccessibleWidget::doAction(action);
+        }
+    }
+
+private:
+    const std::function<void()> press_;
+};
+
+template <typename PressableWidget>
+QAccessibleInterface* MakeIfLink(QObject* object) {
+    auto* const widget = dynamic_cast<PressableWidget*>(object);
+    return widget == nullptr || !widget->PressedModel().IsLink
+               ? nullptr
+               : new LinkAccess(*widget, [widget] { widget->Press(); });
+}
+
+QAccessibleInterface* MakeAccess(const QString&, QObject* object) {
+    QAccessibleInterface* const label = MakeIfLink<LabelWidget>(object);
+    return label != nullptr ? label : MakeIfLink<CanvasWidget>(object);
+}
+
 } // namespace
 
 LabelView::LabelView(Label& model, QWidget* parent)
     : ControlView(model, new LabelWidget(model, parent)), model_(model),
       label_(static_cast<QLabel*>(Widget())) {
     label_->setTextFormat(Qt::PlainText);
+    QAccessible::installFactory(MakeAccess); // once, however often it is called
 }
 
 void LabelView::Read() {
@@ -92,7 +131,8 @@ void ProgressBarView::Read() {
     bar_->setValue(static_cast<int>(share * steps));
 }
 
-CanvasView::CanvasView(Canvas& model, QWidget* parent)
-    : ControlView(model, new CanvasWidget(model, parent)) {}
+CanvasView::CanvasView(Canvas& model, QWidget* parent) : ControlView(model, new CanvasWidget(model, parent)) {
+    QAccessible::installFactory(MakeAccess);
+}
 
 } // namespace tessarolyne

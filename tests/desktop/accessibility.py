@@ -95,6 +95,10 @@ class Control:
     def showing(self):
         return _has(self._accessible, Atspi.StateType.SHOWING)
 
+    def press(self):
+        """Does what a screen reader offers to do with it first."""
+        self._accessible.do_action(0)
+
     @property
     def bounds(self):
         """Left, top, width and height on the screen, in pixels."""

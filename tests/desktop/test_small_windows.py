@@ -29,18 +29,19 @@ class SmallWindows(ProgramTestCase):
 
     def test_the_about_window_shows_its_pictures_and_only_its_button_closes_it(self):
         self.choose_command("À propos")
-        logo = self.find("filler", BUILD_TOOL_SITE)
+        logo = self.find("link", BUILD_TOOL_SITE)
         icon = next(c for c in self.all_controls() if c.showing and c.bounds[2:] == (64, 64))
         for picture in (icon, logo):
             self.program.wait_for(lambda: self.colours(*picture.bounds) > 8, f"{picture} to be drawn")
         self.find("push button", "Faire un don")
         self.screen.press("alt+F4", "Tab")
-        link = self.find("label", AUTHOR_SITE_2)
+        link = self.find("link", AUTHOR_SITE_2)
         self.program.wait_for(lambda: link.focused, "the first link to have the focus")
         self.screen.press("Return")
         self.wait_until_opened(AUTHOR_SITE_2)
-        self.screen.click(*logo.centre)
-        self.wait_until_opened(BUILD_TOOL_SITE)
+        for press in (lambda: self.screen.click(*logo.centre), logo.press):
+            press()
+            self.wait_until_opened(BUILD_TOOL_SITE)
         self.click("push button", "Ok")
         self.wait_until_gone("push button", "Ok")
 
@@ -67,7 +68,7 @@ class SmallWindows(ProgramTestCase):
         self.wait_until_opened(QUESTIONS)
         self.screen.press("ctrl+question")
         self.click("push button", "Lire À propos")
-        self.find("filler", BUILD_TOOL_SITE)
+        self.find("link", BUILD_TOOL_SITE)
         self.screen.press("Return")
         self.wait_until_gone("push button", "Ok")
 
