@@ -7,6 +7,7 @@
 #include <QTimer>
 #include <QTimerEvent>
 
+#include <chrono>
 #include <utility>
 
 namespace tessarolyne {
@@ -38,6 +39,11 @@ QtEventLoop::~QtEventLoop() = default;
 int QtEventLoop::Run() {
     RunUntil([] { return false; });
     return exitCode_;
+}
+
+std::int64_t QtEventLoop::Milliseconds() const {
+    const auto since = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration_cast<std::chrono::milliseconds>(since).count();
 }
 
 void QtEventLoop::Post(std::function<void()> task) {

@@ -24,6 +24,7 @@ public:
     // Runs until Quit and returns its exit code; at once if the program quits already.
     int Run();
 
+    std::int64_t Milliseconds() const override;
     void Post(std::function<void()> task) override;
     AlarmId SetAlarm(int milliseconds, std::function<void()> task) override;
     void CancelAlarm(AlarmId alarm) override;

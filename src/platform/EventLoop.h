@@ -12,6 +12,9 @@ public:
 
     virtual ~EventLoop() = default;
 
+    // A steady count of milliseconds from an arbitrary start; callable from any thread.
+    virtual std::int64_t Milliseconds() const = 0;
+
     // Runs `task` on the main thread soon; callable from any thread.
     virtual void Post(std::function<void()> task) = 0;
 

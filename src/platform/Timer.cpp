@@ -2,32 +2,39 @@
 
 #include "platform/Thread.h"
 
+#include <algorithm>
+
 namespace tessarolyne {
 
 void Timer::SetMode(int mode) {
     if (Thread* thread = Thread::Current()) {
-        thread->AfterBody([this, mode] { SetMode(mode); });
-        return;
+        thread->AfterBody([this, mode, now = loop_.Milliseconds()] { SetModeSince(now, mode); });
+    } else {
+        SetModeSince(loop_.Milliseconds(), mode);
     }
+}
+
+void Timer::SetModeSince(std::int64_t moment, int mode) {
     if (mode == mode_) {
         return;
     }
     mode_ = mode;
     Disarm();
     if (mode_ != 0) {
-        Arm();
+        Arm(moment);
     }
 }
 
 void Timer::Reset() {
     if (mode_ != 0) {
         Disarm();
-        Arm();
+        Arm(loop_.Milliseconds());
     }
 }
 
-void Timer::Arm() {
-    alarm_ = loop_.SetAlarm(Period, [this] { Fire(); });
+void Timer::Arm(std::int64_t since) {
+    const std::int64_t left = since + Period - loop_.Milliseconds();
+    alarm_ = loop_.SetAlarm(static_cast<int>(std::clamp<std::int64_t>(left, 0, Period)), [this] { Fire(); });
 }
 
 void Timer::Disarm() {
@@ -42,7 +49,7 @@ void Timer::Fire() {
     if (mode_ == 1) {
         mode_ = 0;
     } else {
-        Arm();
+        Arm(loop_.Milliseconds());
     }
     Action();
 }

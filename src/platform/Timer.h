@@ -3,11 +3,13 @@
 #include "platform/Event.h"
 #include "platform/EventLoop.h"
 
+#include <cstdint>
+
 namespace tessarolyne {
 
 // Gives `Action` on the main thread, once or again and again. Mode: 0 off, 1 single, 2 multiple. A single
 // timer is off again before its Action runs. The only timer property that a Thread's body may touch is Mode;
-// what it assigns takes effect once the body has been left.
+// what it assigns takes effect once the body has been left, the period counted from the assignment on.
 class Timer {
 public:
     Timer(EventLoop& loop, int period) : Mode(*this), Period(period), loop_(loop) {}
@@ -40,7 +42,8 @@ public:
 
 private:
     void SetMode(int mode);
-    void Arm();
+    void SetModeSince(std::int64_t moment, int mode);
+    void Arm(std::int64_t since);
     void Disarm();
     void Fire();
 
