@@ -7,9 +7,9 @@
 #include <charconv>
 #include <cstdlib>
 #include <cstring>
+#include <memory>
 #include <span>
 #include <string>
-#include <vector>
 
 namespace tessarolyne {
 
@@ -62,7 +62,7 @@ private:
     using Leading = std::array<char, 16>;
 
     void MakeRoom() {
-        if (used_ + burstRoom > buffer_.size()) {
+        if (used_ + burstRoom > bufferSize) {
             Flush();
         }
     }
@@ -72,7 +72,8 @@ private:
     PrimeFileProgress& progress_;
     const std::int64_t lineLength_;
     std::int64_t leftInLine_;
-    std::vector<char> buffer_ = std::vector<char>(bufferSize);
+    // Not zeroed: a short table touches only what it fills.
+    std::unique_ptr<char[]> buffer_ = std::make_unique_for_overwrite<char[]>(bufferSize);
     std::size_t used_ = 0;
     Leading leading_{};
     std::size_t leadingSize_ = 0;
@@ -96,7 +97,7 @@ std::uint64_t NumberText::LeadWith(std::uint64_t value) {
 
 void NumberText::Append(std::span<const std::uint64_t> numbers) {
     MakeRoom();
-    char* out = buffer_.data() + used_;
+    char* out = buffer_.get() + used_;
     // Copies, which the characters written can't be suspected to change.
     Leading leading = leading_;
     std::size_t leadingSize = leadingSize_;
@@ -125,7 +126,7 @@ void NumberText::Append(std::span<const std::uint64_t> numbers) {
         }
     }
     leftInLine_ = left;
-    used_ = static_cast<std::size_t>(out - buffer_.data());
+    used_ = static_cast<std::size_t>(out - buffer_.get());
 }
 
 void NumberText::Append(std::string_view text) {
@@ -135,7 +136,7 @@ void NumberText::Append(std::string_view text) {
 
 void NumberText::Flush() {
     if (used_ > 0) {
-        file_.Write(std::string_view(buffer_.data(), used_));
+        file_.Write(std::string_view(buffer_.get(), used_));
         used_ = 0;
         progress_.Work();
     }
