@@ -44,15 +44,17 @@ void AreaView::Read() {
     if (edit_->textInteractionFlags() != flags) {
         edit_->setTextInteractionFlags(flags);
     }
-    if (model_.TextSize > 0) {
-        edit_->setFont(FittingFont(*edit_, QString(), 0, model_.TextSize));
-    }
     const QString text = WithLineFeeds(model_.Text);
-    if (text != shown_) {
-        shown_ = text;
-        if (model_.TabColumns > 0) {
+    const bool isNew = text != shown_;
+    if (model_.TabColumns > 0) {
+        if (isNew || edit_->viewport()->width() != columnsWidth_) {
             ReadColumns(text);
         }
+    } else if (model_.TextSize > 0) {
+        edit_->setFont(FittingFont(*edit_, QString(), 0, model_.TextSize));
+    }
+    if (isNew) {
+        shown_ = text;
         edit_->setPlainText(text);
         styles_.clear();
     }
@@ -78,19 +80,23 @@ void AreaView::ReadStyles() {
     }
 }
 
-// Right-aligned tab stops: as many columns as the area is to have, wider only if a field needs it.
+// Right-aligned tab stops: as many columns as the area is to have, in a smaller font if a field needs it, and
+// wider than the area only if that isn't enough.
 void AreaView::ReadColumns(const QString& text) {
     constexpr int gap = 6;
-    const QFontMetrics metrics(edit_->font());
     int widest = 0;
     for (const QStringView line : QStringTokenizer(text, u'\n')) {
         for (const QStringView field : QStringTokenizer(line, u'\t')) {
             widest = std::max(widest, static_cast<int>(field.size()));
         }
     }
-    const int needed = metrics.horizontalAdvance(QString(widest, u'0')) + gap;
+    const QString widestField(widest, u'0');
     const int margins = static_cast<int>(2 * edit_->document()->documentMargin());
-    const int column = std::max((edit_->viewport()->width() - margins) / model_.TabColumns(), needed);
+    columnsWidth_ = edit_->viewport()->width();
+    const int share = (columnsWidth_ - margins) / model_.TabColumns();
+    edit_->setFont(FittingFont(*edit_, widestField, share - gap, model_.TextSize));
+    const int needed = QFontMetrics(edit_->font()).horizontalAdvance(widestField) + gap;
+    const int column = std::max(share, needed);
     QList<QTextOption::Tab> stops;
     for (int i = 1; i <= model_.TabColumns(); ++i) {
         stops.append(QTextOption::Tab(i * column, QTextOption::RightTab));

@@ -30,6 +30,7 @@ private:
     TextArea& model_;
     QPlainTextEdit* const edit_;
     QString shown_;
+    int columnsWidth_ = 0; // what the tab stops fit
     std::vector<TextStyle> styles_;
 };
 
