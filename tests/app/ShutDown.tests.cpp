@@ -98,7 +98,8 @@ TEST_CASE("A close during a calculation asks: go on, or stop and quit") {
         CHECK(world.Main().CalculEnCours);
         CHECK(world.Main().TimerQuit.Mode == 0);
         world.program->fncts.ArretUrg = true;
-        world.Settle();
+        // No further: the number is due to be factored again.
+        world.loop.Until([&] { return !world.Main().CalculEnCours; });
     }
     SUBCASE("stop and quit") {
         world.dialogs.Expect(DialogButton::Action);
