@@ -6,6 +6,7 @@
 #include "desktop/Replacement.h"
 
 #include <QFontMetrics>
+#include <QScrollBar>
 #include <QStringTokenizer>
 #include <QTextCursor>
 #include <QTextOption>
@@ -47,7 +48,7 @@ void AreaView::Read() {
     const QString text = WithLineFeeds(model_.Text);
     const bool isNew = text != shown_;
     if (model_.TabColumns > 0) {
-        if (isNew || edit_->viewport()->width() != columnsWidth_) {
+        if (isNew || RoomForColumns() != columnsWidth_) {
             ReadColumns(text);
         }
     } else if (model_.TextSize > 0) {
@@ -80,6 +81,11 @@ void AreaView::ReadStyles() {
     }
 }
 
+// The viewport has this width only once the window was shown.
+int AreaView::RoomForColumns() const {
+    return edit_->width() - 2 * edit_->frameWidth() - edit_->verticalScrollBar()->sizeHint().width();
+}
+
 // Right-aligned tab stops: as many columns as the area is to have, in a smaller font if a field needs it, and
 // wider than the area only if that isn't enough.
 void AreaView::ReadColumns(const QString& text) {
@@ -92,7 +98,7 @@ void AreaView::ReadColumns(const QString& text) {
     }
     const QString widestField(widest, u'0');
     const int margins = static_cast<int>(2 * edit_->document()->documentMargin());
-    columnsWidth_ = edit_->viewport()->width();
+    columnsWidth_ = RoomForColumns();
     const int share = (columnsWidth_ - margins) / model_.TabColumns();
     edit_->setFont(FittingFont(*edit_, widestField, share - gap, model_.TextSize));
     const int needed = QFontMetrics(edit_->font()).horizontalAdvance(widestField) + gap;

@@ -22,6 +22,7 @@ protected:
 
 private:
     void ReadStyles();
+    int RoomForColumns() const;
     void ReadColumns(const QString& text);
     void ReadSelection();
     void Edited();
