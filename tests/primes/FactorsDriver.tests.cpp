@@ -137,7 +137,7 @@ TEST_CASE("A result waits for the dialog that is up, and the timer is ready for 
     TestWorld world;
     WinMain& window = world.Main();
     GrowTable(world, 1000);
-    window.EditFieldNbre.Text = "6";
+    world.Type(window.EditFieldNbre, "6"); // so that no recalculation is due
     world.program->fncts.DrapDiagBox = true;
     window.DecompPremDeb(false);
     world.loop.Until([&] { return window.TimerThr.Period == 50; });
