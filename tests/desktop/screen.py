@@ -71,16 +71,15 @@ class Screen:
 
     def run(self, *command):
         """Runs a command on the screen and gives what it printed; fails when the command fails."""
-        return subprocess.run(
-            command, env=self.environment, stdin=subprocess.DEVNULL, capture_output=True, text=True, check=True
-        ).stdout
+        return self._run(command, check=True)
 
     def find_windows(self, title, *options):
         """The ids of the windows on the screen whose title matches; none is no failure, as it is to xdotool."""
-        command = ["xdotool", "search", "--all", "--onlyvisible", *options, "--name", title]
-        return subprocess.run(
-            command, env=self.environment, stdin=subprocess.DEVNULL, capture_output=True, text=True, check=False
-        ).stdout.split()
+        return self._run(["xdotool", "search", "--all", "--onlyvisible", *options, "--name", title], check=False).split()
+
+    def clipboard(self):
+        """The text on the clipboard; nothing when there is none yet, which is a failure to xclip."""
+        return self._run(["xclip", "-out", "-selection", "clipboard"], check=False)
 
     def press(self, *keys):
         """Presses keys one after the other, as "Tab" or "ctrl+q", on whatever has the focus.
@@ -109,6 +108,11 @@ class Screen:
         path = OUTPUT / f"{name}.png"
         self.run("import", "-silent", "-window", "root", str(path))
         return path
+
+    def _run(self, command, check):
+        return subprocess.run(
+            command, env=self.environment, stdin=subprocess.DEVNULL, capture_output=True, text=True, check=check
+        ).stdout
 
     def _start(self, name, command, **options):
         """Starts a process that ends with this one, however this one ends."""

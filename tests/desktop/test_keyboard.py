@@ -12,8 +12,7 @@ class Keyboard(ProgramTestCase):
     def copies(self, text):
         """Presses the button with the focus and waits for the text on the clipboard."""
         self.screen.press("space")
-        read = ("xclip", "-out", "-selection", "clipboard")
-        self.program.wait_for(lambda: self.screen.run(*read) == text, f"“{text}” on the clipboard")
+        self.program.wait_for(lambda: self.screen.clipboard() == text, f"“{text}” on the clipboard")
 
     def test_f6_goes_over_every_control_and_keys_work_it(self):
         self.screen.press("ctrl+a")
