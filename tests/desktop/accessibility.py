@@ -79,6 +79,14 @@ class Control:
         return _has(self._accessible, Atspi.StateType.FOCUSABLE)
 
     @property
+    def window_has_keyboard(self):
+        """Whether the keys go to the window that it is in."""
+        window = self._accessible
+        while window.get_parent().get_role() != Atspi.Role.APPLICATION:
+            window = window.get_parent()
+        return any(_has(inside, Atspi.StateType.FOCUSED) for inside in descendants(window))
+
+    @property
     def enabled(self):
         return _has(self._accessible, Atspi.StateType.ENABLED)
 

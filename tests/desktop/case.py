@@ -107,6 +107,12 @@ class ProgramTestCase(unittest.TestCase):
             lambda: f"a {role} “{name}” among {self.all_controls()}",
         )
 
+    def find_with_keyboard(self, role, name):
+        """Like find, and waits for the keyboard too, which a new window gets a moment after it shows."""
+        control = self.find(role, name)
+        self.program.wait_for(lambda: control.window_has_keyboard, lambda: f"the window of {control} to take keys")
+        return control
+
     def wait_until_gone(self, role, name):
         def showing():
             return [c for c in self.all_controls() if c.role == role and c.name.startswith(name) and c.showing]

@@ -49,7 +49,7 @@ class PrimeFile(SavingTestCase):
         os.truncate(path, 300_000_000)  # zero bytes on one line: they take a second and no place on the disk
         list_button = self.control("BevelButtonListe").centre
         self.screen.press("ctrl+o")
-        self.find("dialog", "Sélectionner le Fichier")
+        self.find_with_keyboard("dialog", "Sélectionner le Fichier")
         self.screen.type(str(path))
         self.screen.press("Return")
         title = "^Chargement des Nombres Premiers$"

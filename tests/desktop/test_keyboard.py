@@ -61,7 +61,7 @@ class Keyboard(ProgramTestCase):
         self.screen.type("1,22")
         self.wait_for_text("TxtAreaLettres", "One pound twenty-two pence")
         self.screen.press("F10", "Right", "Up", "Return")
-        self.find("check box", "Vérifier automatiquement")
+        self.find_with_keyboard("check box", "Vérifier automatiquement")
         self.screen.press("Escape")
         self.wait_until_gone("check box", "Vérifier automatiquement")
 

@@ -33,7 +33,7 @@ class SmallWindows(ProgramTestCase):
         icon = next(c for c in self.all_controls() if c.showing and c.bounds[2:] == (64, 64))
         for picture in (icon, logo):
             self.program.wait_for(lambda: self.colours(*picture.bounds) > 8, f"{picture} to be drawn")
-        self.find("push button", "Faire un don")
+        self.find_with_keyboard("push button", "Faire un don")
         self.screen.press("alt+F4", "Tab")
         link = self.find("link", AUTHOR_SITE_2)
         self.program.wait_for(lambda: link.focused, "the first link to have the focus")
@@ -50,13 +50,13 @@ class SmallWindows(ProgramTestCase):
         self.addCleanup(opener.write_text, opener.read_text())
         opener.write_text("#!/bin/sh\nexit 3\n")
         self.choose_command("Faire un don")
-        self.find("text", f"{AUTHOR_SITE}/site/PayPage.html?Tessarolyne")
+        self.find_with_keyboard("text", f"{AUTHOR_SITE}/site/PayPage.html?Tessarolyne")
         self.screen.press("Return")
         self.wait_until_gone("text", AUTHOR_SITE)
 
     def test_a_quit_goes_through_while_a_modal_window_is_up(self):
         self.choose_command("À propos")
-        self.find("push button", "Ok")
+        self.find_with_keyboard("push button", "Ok")
         self.screen.press("ctrl+q")
         self.assertEqual(self.program.wait_for_end(), 0)
 
@@ -66,9 +66,10 @@ class SmallWindows(ProgramTestCase):
         self.assertEqual(self.find("push button", "FAQ").description, QUESTIONS)
         self.click("push button", "FAQ")
         self.wait_until_opened(QUESTIONS)
+        self.find_with_keyboard("check box", "Format Auto")
         self.screen.press("ctrl+question")
         self.click("push button", "Lire À propos")
-        self.find("link", BUILD_TOOL_SITE)
+        self.find_with_keyboard("link", BUILD_TOOL_SITE)
         self.screen.press("Return")
         self.wait_until_gone("push button", "Ok")
 
@@ -127,7 +128,7 @@ class UpdateCheck(ProgramTestCase):
 
         self.choose_command("Vérifier les mises à jour")
         self.assertEqual(self.find("progress bar", "Vérifier les mises à jour").description, "")
-        silent = self.find("text", "Impossible de vérifier les mises à jour")
+        silent = self.find_with_keyboard("text", "Impossible de vérifier les mises à jour")
         self.assertTrue(silent.text.endswith("\n\nServer Error 102"))
         self.screen.press("Return")
         self.wait_until_gone("push button", "Ok")
