@@ -43,7 +43,7 @@ class Program:
                 lambda: find_application(self._process.pid), "the program to join the accessibility bus"
             )
             # The window manager calls the window active a moment before the program takes its first key.
-            self.wait_for(self._has_focus, "the program to take the keyboard")
+            self.wait_for(self._has_focus, lambda: f"the program to take the keyboard, {self._keyboard()}")
         except BaseException:
             self.kill()
             raise
@@ -122,6 +122,11 @@ class Program:
 
     def _has_focus(self):
         return any(Control(accessible).focused for accessible in descendants(self.accessible))
+
+    def _keyboard(self):
+        """Who has it, for a failure's message."""
+        focus = self._screen.run("xdotool", "getwindowfocus").strip()
+        return f"which window {focus} has; ours is {self.window}, the active one {self._active_window()}"
 
     def _active_window(self):
         active = self._screen.run("xprop", "-root", "_NET_ACTIVE_WINDOW")

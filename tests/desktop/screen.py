@@ -75,7 +75,8 @@ class Screen:
 
     def find_windows(self, title, *options):
         """The ids of the windows on the screen whose title matches; none is no failure, as it is to xdotool."""
-        return self._run(["xdotool", "search", "--all", "--onlyvisible", *options, "--name", title], check=False).split()
+        command = ["xdotool", "search", "--all", "--onlyvisible", *options, "--name", title]
+        return self._run(command, check=False).split()
 
     def clipboard(self):
         """The text on the clipboard; nothing when there is none yet, which is a failure to xclip."""

@@ -23,5 +23,6 @@ def wait_until(condition, what, seconds=10.0):
             if last:
                 return last
         if time.monotonic() > deadline:
-            raise AssertionError(f"waited {seconds} s in vain: {what() if callable(what) else what}")
+            what = what() if callable(what) else what
+            raise AssertionError(f"waited {seconds} s in vain: {what} (at last: {last!r})")
         time.sleep(POLL_SECONDS)
