@@ -72,18 +72,33 @@ WaitForWindow() {
     return 1
 }
 
-# Writes a picture of window $1 to file $2, once the window has drawn something.
-WritePicture() {
-    local id=$1 file=$2 colours
+# Waits until window $1 of the program has drawn itself; uses file $2.
+WaitUntilDrawn() {
+    local id=$1 file=$2
     for ((i = 0; i < 100; ++i)); do
-        if import -silent -window "$id" "$file" 2>/dev/null; then
-            # A window that is mapped but not drawn yet has a single colour.
-            colours=$(identify -format '%k' "$file")
-            ((colours > 2)) && return 0
+        kill -0 "$programPid" 2>/dev/null || return 1
+        # A window that is mapped but not drawn yet has a single colour. For one that has just gone, import would
+        # wait until the user clicks on another.
+        if timeout 2 import -silent -window "$id" "$file" 2>/dev/null && (($(identify -format '%k' "$file") > 2)); then
+            return 0
         fi
         sleep 0.05
     done
     return 1
+}
+
+# Writes a picture of window $1 and of what the program asks above it to file $2.
+WritePicture() {
+    local id=$1 file=$2 before="" now
+    WaitUntilDrawn "$id" "$file" || return 1
+    # What is asked is drawn too when two pictures in a row are alike. A caret that blinks makes some differ.
+    for ((i = 0; i < 20; ++i)); do
+        timeout 2 import -silent -window root -trim +repage "$file" || return 1
+        now=$(identify -format '%#' "$file")
+        [[ $now == "$before" ]] && break
+        before=$now
+        sleep 0.1
+    done
 }
 
 # Ends the program and waits for it: a signal lets it save, and only one that hangs is killed.
