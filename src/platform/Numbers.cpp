@@ -68,7 +68,7 @@ bool IsLarge(std::string_view number) {
             return number[sign] != '-';
         }
     }
-    return static_cast<long>(point) + exponent > static_cast<long>(first);
+    return exponent > static_cast<long>(first) - static_cast<long>(point);
 }
 
 // The value of a text that is a number in full.

@@ -54,16 +54,17 @@ TEST_CASE("CDbl gives the nearest double of what IsNumeric accepts") {
 
 TEST_CASE("A value too large for a double is the largest one, a value too small is 0") {
     const std::string zeros(5000, '0');
+    const std::string widest = std::to_string(std::numeric_limits<std::int64_t>::max());
     for (const std::string& text :
         {std::string("1e309"), "0." + zeros + "1e9000", "1" + zeros, std::string("1e99999999999999999999999"),
-            "1" + zeros + "e-4000", std::string("17976931348623159e292")}) {
+            "1e" + widest, "1" + zeros + "e-4000", std::string("17976931348623159e292")}) {
         CAPTURE(text);
         CHECK(CDbl(text) == DBL_MAX);
         CHECK(CDbl("-" + text) == -DBL_MAX);
     }
     for (const std::string& text :
         {std::string("1e-400"), "0." + zeros + "1", std::string("0e99999999999999999999"),
-            std::string("1e-99999999999999999999999"), "1" + zeros + "e-9000", "0" + zeros}) {
+            std::string("1e-99999999999999999999999"), "1e-" + widest, "1" + zeros + "e-9000", "0" + zeros}) {
         CAPTURE(text);
         CHECK(CDbl(text) == 0);
     }
