@@ -2,7 +2,6 @@
 
 #include "app/Program.h"
 #include "app/Version.h"
-#include "conversion/NumberFormat.h"
 
 namespace tessarolyne {
 
@@ -11,10 +10,6 @@ App::App(Program& program, Services& services)
 
 void App::Event_Open() {
     program_.fncts.DefAppEncod = "UTF-8";
-}
-
-std::string App::FormatString(std::string_view texte, std::string_view separateur, int tailleGroupe) {
-    return tessarolyne::FormatString(texte, separateur, tailleGroupe);
 }
 
 } // namespace tessarolyne

@@ -8,7 +8,6 @@
 #include <cstdint>
 #include <optional>
 #include <string>
-#include <string_view>
 
 namespace tessarolyne {
 
@@ -30,10 +29,6 @@ public:
     void PrefsSauver(bool listeVisible);
     // The same without a word to the user if it fails, for when nobody can be asked.
     void SavePreferencesQuietly(bool listeVisible);
-
-    // `texte` with `separateur` between groups of `tailleGroupe` characters, counted from the right;
-    // unchanged for a size of 0 or less.
-    static std::string FormatString(std::string_view texte, std::string_view separateur, int tailleGroupe);
 
     // The version as users see it, without "v.".
     const std::string ShortVersion;

@@ -232,16 +232,6 @@ double Round(double value) {
     return std::round(value);
 }
 
-double Floor(double value) {
-    return std::floor(value);
-}
-
-std::string Str(double value) {
-    char buffer[40];
-    const auto written = std::to_chars(buffer, buffer + sizeof buffer, value);
-    return std::string(buffer, written.ptr);
-}
-
 std::string Format(double value, std::string_view mask) {
     const ParsedMask parsed = Parse(mask);
     const double magnitude = std::isnan(value) ? 0 : std::min(std::fabs(value), largest);

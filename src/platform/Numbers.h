@@ -25,17 +25,11 @@ double Val(std::string_view text);
 // The nearest whole number, halves away from zero.
 double Round(double value);
 
-// The largest whole number that isn't above the value.
-double Floor(double value);
-
 // The decimal digits of an integer, with a minus if it is negative.
 template <std::integral Integer>
 std::string Str(Integer value) {
     return std::to_string(value);
 }
-
-// The shortest text that CDbl reads back as the same value.
-std::string Str(double value);
 
 // The number written as the mask says, rounded half away from zero from the double's exact value:
 //   -     at the front: a negative number has a minus, right before its first digit; without it, none

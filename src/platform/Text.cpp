@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cstddef>
 #include <limits>
-#include <vector>
 
 namespace tessarolyne {
 
@@ -21,52 +20,6 @@ std::size_t ByteAfter(std::string_view text, std::int64_t count) {
         at += CharacterAt(text, at).size;
     }
     return at;
-}
-
-std::u32string Folded(std::string_view text) {
-    std::u32string codes;
-    codes.reserve(text.size());
-    for (std::size_t at = 0; at < text.size();) {
-        const Character character = CharacterAt(text, at);
-        codes += UppercaseOf(character.code);
-        at += character.size;
-    }
-    return codes;
-}
-
-// For each prefix of `find`, the length of its longest proper prefix that also ends it.
-std::vector<std::size_t> Borders(const std::u32string& find) {
-    std::vector<std::size_t> borders(find.size(), 0);
-    std::size_t matched = 0;
-    for (std::size_t i = 1; i < find.size(); ++i) {
-        while (matched > 0 && find[i] != find[matched]) {
-            matched = borders[matched - 1];
-        }
-        if (find[i] == find[matched]) {
-            ++matched;
-        }
-        borders[i] = matched;
-    }
-    return borders;
-}
-
-// Where `find`, which isn't empty, begins in the text, counted from 0, or npos. By Knuth, Morris and Pratt,
-// so that no pair of texts takes longer than their lengths.
-std::size_t IndexOf(const std::u32string& text, const std::u32string& find) {
-    const std::vector<std::size_t> borders = Borders(find);
-    std::size_t matched = 0;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        while (matched > 0 && text[i] != find[matched]) {
-            matched = borders[matched - 1];
-        }
-        if (text[i] == find[matched]) {
-            ++matched;
-        }
-        if (matched == find.size()) {
-            return i + 1 - matched;
-        }
-    }
-    return std::u32string::npos;
 }
 
 } // namespace
@@ -90,25 +43,6 @@ std::string Mid(std::string_view text, std::int64_t start, std::int64_t length) 
 
 std::string Left(std::string_view text, std::int64_t length) {
     return Mid(text, 1, length);
-}
-
-std::string Right(std::string_view text, std::int64_t length) {
-    const std::int64_t count = Len(text);
-    return length <= 0 ? std::string() : Mid(text, count - std::min(length, count) + 1);
-}
-
-std::int64_t InStr(std::string_view text, std::string_view find) {
-    return InStr(1, text, find);
-}
-
-std::int64_t InStr(std::int64_t start, std::string_view text, std::string_view find) {
-    start = std::max<std::int64_t>(start, 1);
-    if (find.empty()) {
-        return start <= Len(text) + 1 ? start : 0;
-    }
-    text.remove_prefix(ByteAfter(text, start - 1));
-    const std::size_t index = IndexOf(Folded(text), Folded(find));
-    return index == std::u32string::npos ? 0 : start + static_cast<std::int64_t>(index);
 }
 
 std::string ReplaceAll(std::string_view text, std::string_view find, std::string_view with) {

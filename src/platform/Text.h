@@ -20,14 +20,8 @@ std::int64_t Len(std::string_view text);
 std::string Mid(std::string_view text, std::int64_t start);
 std::string Mid(std::string_view text, std::int64_t start, std::int64_t length);
 
-// The first, the last `length` characters.
+// The first `length` characters.
 std::string Left(std::string_view text, std::int64_t length);
-std::string Right(std::string_view text, std::int64_t length);
-
-// The position of `find` in the text, from `start` on; 0 if it isn't there. Ignores the case of letters of
-// ASCII, Latin-1 and Latin Extended-A. An empty `find` is found at `start`, up to the end of the text.
-std::int64_t InStr(std::string_view text, std::string_view find);
-std::int64_t InStr(std::int64_t start, std::string_view text, std::string_view find);
 
 // The text with each `find` replaced, from left to right. Compares bytes, so that case counts; an empty
 // `find` changes nothing.

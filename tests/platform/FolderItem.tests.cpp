@@ -7,22 +7,17 @@ using namespace tessarolyne;
 
 TEST_CASE("A native path is taken without empty parts, and only if it is absolute and plain") {
     MemoryFileSystem files;
-    const auto path = [&](std::string_view text) {
-        const auto item = FolderItem::FromNativePath(files, text);
-        return item ? item->NativePath() : "nil";
-    };
-    CHECK(path("/") == "/");
-    CHECK(path("//a///b/./c/") == "/a/b/c");
-    CHECK(path("a/b") == "nil");
-    CHECK(path("/a/../b") == "nil");
-    CHECK(path(std::string_view("/a\0b", 4)) == "nil");
+    CHECK(files.At("/").NativePath() == "/");
+    CHECK(files.At("//a///b/./c/").NativePath() == "/a/b/c");
+    for (const std::string_view path : {std::string_view("a/b"), {"/a/../b"}, {"/a\0b", 4}}) {
+        CHECK_FALSE(FolderItem::FromNativePath(files, path).has_value());
+    }
 }
 
 TEST_CASE("A folder has children by every name that a file can bear and no other") {
     MemoryFileSystem disk;
     CHECK(disk.At("/").TrueChild("a:b\n%")->NativePath() == "/a:b\n%");
-    for (const std::string_view name : {std::string_view(""), std::string_view("."), std::string_view(".."),
-             std::string_view("a/b"), std::string_view("a\0b", 3)}) {
+    for (const std::string_view name : {std::string_view(""), {"."}, {".."}, {"a/b"}, {"a\0b", 3}}) {
         CHECK_FALSE(disk.At("/x").TrueChild(name).has_value());
         CHECK_FALSE(disk.At("/x").Child(name).has_value());
     }
@@ -66,7 +61,7 @@ TEST_CASE("A URL brings back every path, and others are refused") {
     const auto item = disk.At(everyByte);
     CHECK(FolderItem::GetTrueFolderItem(disk, item.URLPath()) == item);
     CHECK(disk.At("/a b/é").URLPath() == "file:///a%20b/%C3%A9");
-    CHECK(FolderItem::GetTrueFolderItem(disk, "file://localhost/a%2fb")->NativePath() == "/a/b");
+    CHECK(FolderItem::GetTrueFolderItem(disk, "file://localhost/a%2fb%aa")->NativePath() == "/a/b\xAA");
     for (const char* bad :
         {"", "/a", "http://h/a", "file://host/a", "file:///a%2", "file:///a%zz", "file:///a%00b"}) {
         CHECK_FALSE(FolderItem::GetTrueFolderItem(disk, bad).has_value());
