@@ -11,9 +11,6 @@ namespace tessarolyne {
 // laid over the map. The primes themselves are struck out too.
 class PreSieve {
 public:
-    // The largest prime that is dealt with.
-    static constexpr std::uint64_t largestPrime = 163;
-
     // Works out the patterns, about 150 KB, in a few dozen microseconds.
     PreSieve();
 

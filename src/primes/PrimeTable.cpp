@@ -254,26 +254,6 @@ std::int32_t PrimeTable::CopyTo(std::int32_t rank, std::span<std::uint64_t> valu
     return static_cast<std::int32_t>(done);
 }
 
-std::int32_t PrimeTable::RankOf(std::uint64_t value) const {
-    std::int32_t low = 0;
-    std::int32_t high = size_ == 0 ? 0 : (size_ - 1) / blockEntries + 1;
-    while (low < high) {
-        const std::int32_t middle = low + (high - low) / 2;
-        if ((*this)[middle * blockEntries] <= value) {
-            low = middle + 1;
-        } else {
-            high = middle;
-        }
-    }
-    if (low == 0) {
-        return -1;
-    }
-    Cursor cursor(*this, (low - 1) * blockEntries);
-    while (cursor.Value() < value && cursor.Next()) {
-    }
-    return cursor.Value() == value ? cursor.Rank() : -1;
-}
-
 std::int32_t PrimeTable::SizeWithin(std::uint64_t bytes) const {
     const std::uint64_t newChunks = bytes > bytes_ ? (bytes - bytes_) / sizeof(Chunk) : 0;
     const std::uint64_t entries = (chunks_.size() + newChunks) * std::uint64_t{chunkEntries};

@@ -53,9 +53,6 @@ public:
     // Empties the table and gives its memory back.
     void Clear();
 
-    // Rank of `value` in a table whose entries rise, -1 where it is missing.
-    std::int32_t RankOf(std::uint64_t value) const;
-
     // Bytes that the entries take at present.
     std::uint64_t Bytes() const { return bytes_; }
 

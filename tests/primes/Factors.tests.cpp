@@ -14,6 +14,7 @@ using Reference::Numbers;
 
 namespace {
 
+constexpr std::int64_t forEver = std::numeric_limits<std::int64_t>::max();
 const Numbers none = {0};
 
 Numbers Factor(std::uint64_t n, PrimeTable& table, RunControl& run) {
@@ -22,51 +23,34 @@ Numbers Factor(std::uint64_t n, PrimeTable& table, RunControl& run) {
     return factors;
 }
 
-void Begin(PrimeTable& table, const Numbers& values = {2, 3, 5, 7}) {
-    table.Clear();
-    REQUIRE(AppendAll(table, values));
-}
-
 } // namespace
 
 TEST_CASE("Factors and the table's end are those of dividing by entry after entry") {
     for (std::uint64_t n = 0; n < 3000; ++n) {
         Numbers expectedTable = {2, 3, 5, 7};
         const Numbers expected = Reference::DecompPremCalc(n, expectedTable, 1'000'000'000);
-        PrimeTable table;
-        Begin(table);
+        TableOf table;
         RunFixture run;
         REQUIRE(Factor(n, table, n % 2 == 0 ? run.timed : run.untimed) == expected);
         REQUIRE(Entries(table) == expectedTable);
     }
     std::mt19937_64 random(7);
-    PrimeTable table;
-    Begin(table);
+    TableOf table;
     Numbers expectedTable = {2, 3, 5, 7};
+    RunFixture run;
     for (int i = 0; i < 300; ++i) {
         const std::uint64_t n = (1 + random() % 30'000) * (1 + random() % 3000);
-        RunFixture run;
         REQUIRE(Factor(n, table, run.untimed) == Reference::DecompPremCalc(n, expectedTable, 1'000'000'000));
         REQUIRE(table.Back() == expectedTable.back());
     }
     CHECK(Entries(table) == expectedTable);
-}
-
-TEST_CASE("1 is its own result; 0 and what has no sign as a signed number have none") {
-    PrimeTable table;
-    Begin(table);
-    RunFixture run;
-    CHECK(Factor(1, table, run.untimed) == Numbers{1});
-    CHECK(Factor(0, table, run.untimed) == none);
-    CHECK(Factor(std::uint64_t{1} << 63, table, run.untimed) == none);
     CHECK(Factor(std::uint64_t{1} << 62, table, run.untimed) == Numbers(62, 2));
+    CHECK(Factor(std::uint64_t{1} << 63, table, run.untimed) == none); // it has no sign as a signed number
     CHECK_FALSE(run.ArretUrg);
 }
 
 TEST_CASE("A loaded table is compared as far as a number needs it") {
-    const auto primes = Reference::Primes(2'000'000);
-    PrimeTable table;
-    Begin(table, primes);
+    TableOf table(Reference::Primes(2'000'000));
     RunFixture run;
     CHECK(Factor(2 * 97, table, run.timed) == Numbers{2, 97});
     CHECK(table.ConsecutiveBack() < 2'000'000);
@@ -76,70 +60,58 @@ TEST_CASE("A loaded table is compared as far as a number needs it") {
 }
 
 TEST_CASE("Without a time limit every number is answered, a far factor by its root") {
-    PrimeTable table;
-    RunFixture run(std::numeric_limits<std::int64_t>::max(), 8'000'000);
-    Begin(table);
-    CHECK(Factor(999'999'999'989, table, run.untimed) == Numbers{999'999'999'989});
-    CHECK(table.Back() == 999'983);
-    Begin(table);
-    CHECK(Factor(999'999'999'958, table, run.untimed) == Numbers{2, 499'999'999'979});
-    CHECK(table.Back() <= FloorSquareRoot(499'999'999'979));
-    CHECK(table.Back() + 100 > FloorSquareRoot(499'999'999'979));
+    RunFixture run(forEver, 8'000'000);
+    TableOf first;
+    CHECK(Factor(999'999'999'989, first, run.untimed) == Numbers{999'999'999'989});
+    CHECK(first.Back() == 999'983);
+    TableOf second;
+    CHECK(Factor(999'999'999'958, second, run.untimed) == Numbers{2, 499'999'999'979});
+    CHECK(second.Back() <= FloorSquareRoot(499'999'999'979));
+    CHECK(second.Back() + 100 > FloorSquareRoot(499'999'999'979));
     // About at the budget of 4 MB, where an estimate alone can't tell.
-    for (const std::uint64_t prime : {std::uint64_t{64'000'031}, std::uint64_t{66'000'049},
-             std::uint64_t{68'000'069}, std::uint64_t{70'000'027}, std::uint64_t{75'000'007}}) {
-        std::uint64_t near = prime;
+    for (std::uint64_t near : {64'000'031U, 66'000'049U, 68'000'069U, 70'000'027U, 75'000'007U}) {
         while (!IsPrime(near)) {
             near += 2;
         }
-        Begin(table);
-        RunFixture budget(std::numeric_limits<std::int64_t>::max(), 8'000'000);
+        TableOf table;
+        RunFixture budget(forEver, 8'000'000);
         CHECK(Factor(near, table, budget.untimed) == Numbers{near});
         CHECK_FALSE(budget.ArretUrg);
     }
     CHECK_FALSE(run.ArretUrg);
-    Begin(table);
-    RunFixture tiny(std::numeric_limits<std::int64_t>::max(), 0); // not even the root
-    CHECK(Factor(999'999'999'989, table, tiny.untimed) == none);
+    TableOf third;
+    RunFixture tiny(forEver, 0); // not even the root
+    CHECK(Factor(999'999'999'989, third, tiny.untimed) == none);
     CHECK(tiny.untimed.End() == RunEnd::OutOfMemory);
     CHECK(tiny.ArretUrg);
 }
 
 TEST_CASE("With a time limit a number adds a fixed number of entries, and goes further when it comes again") {
-    PrimeTable table;
-    Begin(table);
-    int tries = 0;
-    for (std::int32_t size = table.Size();; size = table.Size()) {
+    TableOf table;
+    Numbers factors = none;
+    for (int again = 0; again < 3; ++again) {
+        const std::int32_t size = table.Size();
         RunFixture run;
-        const Numbers factors = Factor(2 * 49'999'991, table, run.timed);
-        ++tries;
-        if (factors != none) {
-            CHECK(factors == Numbers{2, 49'999'991});
-            CHECK_FALSE(run.ArretUrg);
-            break;
-        }
-        REQUIRE(run.ArretUrg);
-        REQUIRE(run.timed.End() == RunEnd::OutOfTime);
-        REQUIRE(table.Size() == size + timedRunEntries);
+        factors = Factor(2 * 49'999'991, table, run.timed);
+        REQUIRE(run.ArretUrg == (again < 2));
+        REQUIRE(run.timed.End() == (again < 2 ? RunEnd::OutOfTime : RunEnd::Finished));
+        REQUIRE((factors != none || table.Size() == size + timedRunEntries));
     }
-    CHECK(tries == 3);
+    CHECK(factors == Numbers{2, 49'999'991});
     CHECK(table.Back() == 49'999'991);
 }
 
 TEST_CASE("A stop leaves no factors, and what the table has gained") {
     for (std::int64_t looks = 0; looks < 40; ++looks) {
-        PrimeTable table;
-        Begin(table);
+        TableOf table;
         RunFixture run(looks);
         const Numbers factors = Factor(6 * 9'999'991ULL, table, run.timed);
-        CHECK((factors == none) == run.ArretUrg);
-        CHECK((factors == none || factors == Numbers{2, 3, 9'999'991}));
+        CHECK(factors == (run.ArretUrg ? none : Numbers{2, 3, 9'999'991}));
         RunFixture again;
         CHECK(Factor(6 * 9'999'991ULL, table, again.untimed) == Numbers{2, 3, 9'999'991});
         CHECK(table.Back() == 9'999'991);
     }
-    PrimeTable table;
-    Begin(table);
+    TableOf table;
     RunFixture run;
     run.ArretUrg = true;
     CHECK(Factor(2, table, run.untimed) == none);
@@ -153,20 +125,26 @@ TEST_CASE("A table that a file made odd is divided by as it stands") {
         for (std::uint64_t n = 2; n < 400; ++n) {
             Numbers expectedTable = odd;
             const Numbers expected = Reference::DecompPremCalc(n, expectedTable, 20'000);
-            PrimeTable table;
-            Begin(table, odd);
+            TableOf table(odd);
             RunFixture run(20'000);
             REQUIRE(Factor(n, table, run.timed) == expected);
-            if (expected != none) {
-                REQUIRE(Entries(table) == expectedTable);
-            }
+            REQUIRE((expected == none || Entries(table) == expectedTable));
         }
     }
-    PrimeTable table;
-    Begin(table, {2, 3, 5, 7, 1});
+    TableOf table({2, 3, 5, 7, 1});
     RunFixture run;
     CHECK(Factor(22, table, run.untimed) == none); // a 1 would divide for ever
     CHECK(run.ArretUrg);
     RunFixture other;
     CHECK(Factor(21, table, other.untimed) == Numbers{3, 7});
+}
+
+TEST_CASE("The entries of an odd table are divided by until a stop, and none is added then") {
+    Numbers entries = {2, 3, 5, 7, 1'000'003};
+    entries.resize(20'000, 17);
+    TableOf table(entries);
+    RunFixture run(100); // too few looks to get to the end
+    CHECK(Factor(11 * 13, table, run.timed) == none);
+    CHECK(run.timed.End() == RunEnd::OutOfTime);
+    CHECK(table.Size() == 20'000);
 }

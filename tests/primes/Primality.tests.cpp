@@ -12,13 +12,10 @@ using namespace tessarolyne;
 TEST_CASE("Up to a million the primes are those of the sieve") {
     const auto primes = Reference::Primes(1'000'000);
     auto next = primes.begin();
-    std::size_t wrong = 0;
-    for (std::uint64_t n = 0; n <= 1'000'000; ++n) {
-        const bool isPrime = next != primes.end() && *next == n;
-        wrong += static_cast<std::size_t>(IsPrime(n) != isPrime);
-        next += isPrime ? 1 : 0;
+    for (std::uint64_t n = 0; n <= primes.back(); ++n) {
+        REQUIRE(IsPrime(n) == (*next == n));
+        next += *next == n ? 1 : 0;
     }
-    CHECK(wrong == 0);
 }
 
 TEST_CASE("Numbers that pass the test for some bases are told from primes") {
@@ -27,18 +24,10 @@ TEST_CASE("Numbers that pass the test for some bases are told from primes") {
              3474749660383ULL, 341550071728321ULL, 3825123056546413051ULL, 1122004669633ULL}) {
         CHECK_FALSE(IsPrime(n));
     }
-    for (const std::uint64_t n :
-        {999'999'999'989ULL, 50'685'770'143ULL, 1'122'004'669'613ULL + 38, 4'294'967'291ULL, 4'294'967'311ULL,
-            9'223'372'036'854'775'783ULL, 18'446'744'073'709'551'557ULL}) {
-        const bool byDivision = [n] {
-            for (std::uint64_t d = 3; d < 2'000'000 && d * d <= n; d += 2) {
-                if (n % d == 0) {
-                    return false;
-                }
-            }
-            return true;
-        }();
-        CHECK(IsPrime(n) == byDivision);
+    // And primes, some of them beside those or beside the ends of types.
+    for (const std::uint64_t n : {999'999'999'989ULL, 50'685'770'143ULL, 4'294'967'291ULL, 4'294'967'311ULL,
+             9'223'372'036'854'775'783ULL, 18'446'744'073'709'551'557ULL}) {
+        CHECK(IsPrime(n));
     }
 }
 

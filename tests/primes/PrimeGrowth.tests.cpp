@@ -17,17 +17,15 @@ namespace {
 constexpr std::int64_t forEver = std::numeric_limits<std::int64_t>::max();
 
 // Grows a table of `start` to each limit in turn, by the routine and by the slow way.
-void CheckAgainstReference(const Numbers& start, const std::vector<std::uint64_t>& limits) {
+void CheckAgainstReference(const Numbers& start, const Numbers& limits) {
     Numbers expected = start;
-    PrimeTable table;
-    REQUIRE(AppendAll(table, start));
+    TableOf table(start);
     for (const std::uint64_t limit : limits) {
         RunFixture run;
         std::int64_t divisions = forEver;
         const std::uint64_t last = Reference::NbresPremCalc(expected, limit, divisions);
         REQUIRE(NbresPremCalc(table, limit, run.untimed) == last);
         REQUIRE(run.untimed.End() == RunEnd::Finished);
-        REQUIRE_FALSE(run.ArretUrg);
     }
     CHECK(Entries(table) == expected);
 }
@@ -49,20 +47,15 @@ const std::vector<Numbers> oddTables = {
 
 } // namespace
 
-TEST_CASE("Every limit up to some thousand gives the entries that division gives") {
+TEST_CASE("Growth to any limit, at once or in portions, gives the entries that division gives") {
     for (std::uint64_t limit = 0; limit < 3000; ++limit) {
         CheckAgainstReference(firstFour, {limit});
     }
-    CheckAgainstReference(firstFour, std::vector<std::uint64_t>(500, 0));
-}
-
-TEST_CASE("Growth in portions gives what division gives, from any start to any limit") {
     std::mt19937_64 random(6);
-    for (int i = 0; i < 15; ++i) {
-        std::vector<std::uint64_t> limits;
-        for (std::uint64_t at = 0; at < 300'000; at += random() % (i < 5 ? 5'000U : 90'000U)) {
-            limits.push_back(at);
-            limits.push_back(0);
+    for (const std::uint64_t largestPortion : {1'000U, 5'000U, 90'000U}) {
+        Numbers limits(300, 0);
+        for (std::uint64_t at = 0; at < 200'000; at += random() % largestPortion) {
+            limits.insert(limits.end(), {at, 0});
         }
         CheckAgainstReference(firstFour, limits);
     }
@@ -70,7 +63,7 @@ TEST_CASE("Growth in portions gives what division gives, from any start to any l
 
 TEST_CASE("The sieve misses and adds nothing at the edges of bytes, windows, blocks and squares") {
     const auto primes = Reference::Primes(4'000'000);
-    std::vector<std::uint64_t> limits = {1'999'993, 1'999'993 + 30 * 224 * 1024};
+    Numbers limits = {1'999'993, 1'999'993 + 30 * 224 * 1024};
     for (const std::uint64_t window : {1U, 2U, 3U}) {
         limits.push_back(30 * 28 * 1024 * window); // from the start, and below from behind a run of its own
     }
@@ -79,9 +72,8 @@ TEST_CASE("The sieve misses and adds nothing at the edges of bytes, windows, blo
     }
     for (const std::uint64_t limit : limits) {
         for (std::uint64_t near = limit - 32; near <= limit + 32 && near < 4'000'000; near += 3) {
-            PrimeTable table;
+            TableOf table;
             RunFixture run;
-            REQUIRE(AppendAll(table, firstFour));
             NbresPremCalc(table, near, run.untimed);
             const auto count = std::upper_bound(primes.begin(), primes.end(), near | 1) - primes.begin();
             REQUIRE(table.Size() == count);
@@ -94,9 +86,8 @@ TEST_CASE("The sieve misses and adds nothing at the edges of bytes, windows, blo
 
 TEST_CASE("Twenty million numbers are decided as by the plain sieve") {
     const auto primes = Reference::Primes(20'000'001);
-    PrimeTable table;
+    TableOf table;
     RunFixture run;
-    REQUIRE(AppendAll(table, firstFour));
     CHECK(NbresPremCalc(table, 20'000'000, run.untimed) == primes.back());
     CHECK(Entries(table) == primes);
     CHECK(table.IsConsecutive());
@@ -104,9 +95,8 @@ TEST_CASE("Twenty million numbers are decided as by the plain sieve") {
 
 TEST_CASE("Round 2^32, and where the ranks end, the primes are right") {
     for (const std::uint64_t around : {std::uint64_t{1} << 32, std::uint64_t{50'685'770'143}}) {
-        PrimeTable table;
+        TableOf table;
         RunFixture run;
-        REQUIRE(AppendAll(table, firstFour));
         NbresPremCalc(table, 230'000, run.untimed);
         // The primes in between are left out: the sieve needs those below the root alone.
         std::uint64_t prime = around - 400'000;
@@ -114,15 +104,13 @@ TEST_CASE("Round 2^32, and where the ranks end, the primes are right") {
             --prime;
         }
         REQUIRE(table.AppendNextPrime(prime));
-        const std::int32_t first = table.UpperBound();
+        std::int32_t rank = table.UpperBound();
         CHECK(
             GrowConsecutive(table, around + 400'001, PrimeTable::maxSize, run.untimed) == GrowthEnd::Reached);
-        std::int32_t rank = first;
         for (std::uint64_t n = prime; n <= around + 400'001; ++n) {
             if (IsPrime(n)) {
                 REQUIRE(rank < table.Size());
-                REQUIRE(table[rank] == n);
-                ++rank;
+                REQUIRE(table[rank++] == n);
             }
         }
         CHECK(rank == table.Size());
@@ -140,20 +128,17 @@ TEST_CASE("A table that a file made odd grows by division, whatever it holds") {
 
 TEST_CASE("One wrong entry is found wherever it is, and those before it stay known") {
     const auto primes = Reference::Primes(1'300'000);
+    RunFixture run;
     for (const std::size_t rank : {4U, 5U, 52U, 53U, 54U, 55U, 255U, 256U, 257U, 65535U, 65536U, 99'000U}) {
         Numbers odd = primes;
         odd[rank] += 2;
-        PrimeTable table;
-        REQUIRE(AppendAll(table, odd));
-        RunFixture run;
+        TableOf table(odd);
         CHECK(VerifyPrimes(table, forEver, run.untimed));
         CHECK(table.IsOdd());
         CHECK(table.ConsecutiveCount() == static_cast<std::int32_t>(rank));
         CHECK(table.ConsecutiveBack() == primes[rank - 1]);
     }
-    PrimeTable table;
-    REQUIRE(AppendAll(table, primes));
-    RunFixture run;
+    TableOf table(primes);
     CHECK(VerifyPrimes(table, 500'000, run.untimed));
     CHECK_FALSE(table.IsConsecutive());
     CHECK(table.ConsecutiveBack() >= 500'000);
@@ -172,8 +157,7 @@ TEST_CASE("A stop at any look leaves a valid shorter table, from which the next 
         std::int64_t divisions = forEver;
         Reference::NbresPremCalc(expected, limit, divisions);
         for (std::int64_t looks = 0; looks < 300; looks = looks * 4 / 3 + 1) {
-            PrimeTable table;
-            REQUIRE(AppendAll(table, start));
+            TableOf table(start);
             RunFixture run(looks);
             const std::uint64_t last = NbresPremCalc(table, limit, run.timed);
             CHECK(last == table.Back());
@@ -189,41 +173,31 @@ TEST_CASE("A stop at any look leaves a valid shorter table, from which the next 
 }
 
 TEST_CASE("With the stop flag raised before, nothing is added unless no division comes first") {
-    for (const Numbers& start : oddTables) {
-        Numbers expected = start;
-        std::int64_t divisions = 0;
-        Reference::NbresPremCalc(expected, 0, divisions);
-        PrimeTable table;
-        REQUIRE(AppendAll(table, start));
-        RunFixture run;
-        run.ArretUrg = true;
-        CHECK(NbresPremCalc(table, 0, run.untimed) == expected.back());
-        CHECK(Entries(table) == expected);
-    }
-    for (const std::uint64_t limit : {std::uint64_t{0}, std::uint64_t{100}, std::uint64_t{5'000'000}}) {
-        PrimeTable table;
-        REQUIRE(AppendAll(table, firstFour));
-        RunFixture run(0);
-        CHECK(NbresPremCalc(table, limit, run.timed) == 7);
-        CHECK(run.ArretUrg);
-        CHECK(table.Size() == 4);
-        RunFixture byUser;
-        byUser.ArretUrg = true;
-        CHECK(NbresPremCalc(table, limit, byUser.untimed) == 7);
-        CHECK(byUser.untimed.End() == RunEnd::Stopped);
+    std::vector<Numbers> tables = oddTables;
+    tables.push_back(firstFour);
+    for (const Numbers& start : tables) {
+        for (const std::uint64_t limit : {0U, 100U, 5'000'000U}) {
+            Numbers expected = start;
+            std::int64_t divisions = 0;
+            Reference::NbresPremCalc(expected, limit, divisions);
+            TableOf table(start);
+            RunFixture run;
+            run.ArretUrg = true;
+            CHECK(NbresPremCalc(table, limit, run.untimed) == expected.back());
+            CHECK(Entries(table) == expected);
+            CHECK((start != firstFour || run.untimed.End() == RunEnd::Stopped));
+        }
     }
 }
 
 TEST_CASE("The end of the memory ends a run like a stop") {
     const auto primes = Reference::Primes(3'000'000);
-    PrimeTable table;
-    REQUIRE(AppendAll(table, firstFour));
+    TableOf table;
     RunFixture tight(forEver, 200'000); // half of it is one chunk beside the one that is begun
     NbresPremCalc(table, 3'000'000, tight.untimed);
     CHECK(tight.untimed.End() == RunEnd::OutOfMemory);
     CHECK(tight.ArretUrg);
-    CHECK(table.Size() == 2 * 65536);
-    CHECK(Entries(table) == Numbers(primes.begin(), primes.begin() + table.Size()));
+    CHECK(Entries(table) == Numbers(primes.begin(), primes.begin() + 2 * 65536));
 
     for (int allocations = 4; allocations < 8; ++allocations) {
         ShortMemory memory(allocations);
@@ -236,6 +210,6 @@ TEST_CASE("The end of the memory ends a run like a stop") {
         memory.left = 100;
         RunFixture again;
         NbresPremCalc(shortTable, 2'999'999, again.untimed);
-        CHECK(shortTable.RankOf(2'999'999) == static_cast<std::int32_t>(primes.size() - 1));
+        CHECK(shortTable[static_cast<std::int32_t>(primes.size() - 1)] == primes.back());
     }
 }

@@ -14,32 +14,19 @@ inline std::uint64_t NbresPremCalc(Numbers& table, std::uint64_t limit, std::int
     std::uint64_t candidate = table.back();
     while (limit == 0 || limit > candidate) {
         candidate += 2;
-        const auto root = static_cast<std::uint64_t>(std::floor(std::sqrt(static_cast<double>(candidate))));
-        std::size_t i = 1;
-        std::uint64_t p = table[1];
+        const auto root = static_cast<std::uint64_t>(std::sqrt(static_cast<double>(candidate)));
         bool isPrime = true;
-        while (p <= root && isPrime) {
-            if (candidate % p == 0) {
-                isPrime = false;
-            } else {
-                ++i;
-                if (i >= table.size()) {
-                    break;
-                }
-                p = table[i];
-            }
-            if (divisionsLeft <= 0 || --divisionsLeft == 0) {
-                isPrime = false;
+        for (std::size_t i = 1; isPrime && table[i] <= root;) {
+            const bool divides = candidate % table[i] == 0;
+            if (!divides && ++i == table.size()) {
                 break;
             }
+            isPrime = --divisionsLeft > 0 && !divides;
         }
         if (isPrime) {
             table.push_back(candidate);
-            if (limit == 0) {
-                break;
-            }
         }
-        if (divisionsLeft <= 0) {
+        if ((isPrime && limit == 0) || divisionsLeft <= 0) {
             break;
         }
     }

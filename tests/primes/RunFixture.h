@@ -3,6 +3,7 @@
 #include "primes/PrimeTable.h"
 #include "primes/RunControl.h"
 
+#include <algorithm>
 #include <atomic>
 #include <cstdint>
 #include <limits>
@@ -27,7 +28,7 @@ private:
 struct FixedMemory final : MemoryLimits {
     explicit FixedMemory(std::uint64_t available) : bytes(available) {}
     std::uint64_t AvailableBytes() const override { return bytes; }
-    std::uint64_t bytes;
+    const std::uint64_t bytes;
 };
 
 // Everything a calculation needs, with nothing that ends it unless a test says so.
@@ -63,13 +64,18 @@ private:
 };
 
 inline bool AppendAll(PrimeTable& table, const std::vector<std::uint64_t>& values) {
-    for (const std::uint64_t value : values) {
-        if (!table.Append(value)) {
-            return false;
+    return std::all_of(
+        values.begin(), values.end(), [&](std::uint64_t value) { return table.Append(value); });
+}
+
+// A table of these numbers.
+struct TableOf : PrimeTable {
+    TableOf(const std::vector<std::uint64_t>& values = {2, 3, 5, 7}) {
+        if (!AppendAll(*this, values)) {
+            throw std::bad_alloc();
         }
     }
-    return true;
-}
+};
 
 inline std::vector<std::uint64_t> Entries(const PrimeTable& table) {
     std::vector<std::uint64_t> values;

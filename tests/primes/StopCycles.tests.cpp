@@ -21,8 +21,7 @@ constexpr const char* farAway = "39999999967"; // a prime that no run here gets 
 constexpr std::int32_t largeEnough = 2'000'000;
 
 void CheckAgainstGrowthInOneGo(const PrimeTable& table) {
-    PrimeTable inOneGo;
-    REQUIRE(AppendAll(inOneGo, {2, 3, 5, 7}));
+    TableOf inOneGo;
     RunFixture run;
     CHECK(NbresPremCalc(inOneGo, table.Back(), run.untimed) == table.Back());
     CHECK(inOneGo.Size() == table.Size());
