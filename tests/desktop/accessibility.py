@@ -9,27 +9,21 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi  # noqa: E402
 
 
+def _children(accessible):
+    found = (accessible.get_child_at_index(index) for index in range(accessible.get_child_count()))
+    return (child for child in found if child is not None)
+
+
 def find_application(pid):
     """The tree's root of the process, or None as long as it has not registered."""
-    desktop = Atspi.get_desktop(0)
-    for index in range(desktop.get_child_count()):
-        child = desktop.get_child_at_index(index)
-        if child is not None and child.get_process_id() == pid:
-            return child
-    return None
+    return next((child for child in _children(Atspi.get_desktop(0)) if child.get_process_id() == pid), None)
 
 
 def descendants(accessible):
     """All that is below, parents before their children."""
-    for index in range(accessible.get_child_count()):
-        child = accessible.get_child_at_index(index)
-        if child is not None:
-            yield child
-            yield from descendants(child)
-
-
-def _has(accessible, state):
-    return accessible.get_state_set().contains(state)
+    for child in _children(accessible):
+        yield child
+        yield from descendants(child)
 
 
 class Control:
@@ -40,6 +34,10 @@ class Control:
 
     def __repr__(self):
         return f"{self.role} “{self.name}”"
+
+    def __getattr__(self, state):
+        """Whether it is `focused`, `focusable`, `enabled`, `checked`, `expanded`, `showing`: any state by its name."""
+        return self._accessible.get_state_set().contains(getattr(Atspi.StateType, state.upper()))
 
     @property
     def name(self):
@@ -71,37 +69,12 @@ class Control:
         return int(Atspi.Value.get_current_value(self._accessible))
 
     @property
-    def focused(self):
-        return _has(self._accessible, Atspi.StateType.FOCUSED)
-
-    @property
-    def focusable(self):
-        return _has(self._accessible, Atspi.StateType.FOCUSABLE)
-
-    @property
     def window_has_keyboard(self):
         """Whether the keys go to the window that it is in."""
         window = self._accessible
         while window.get_parent().get_role() != Atspi.Role.APPLICATION:
             window = window.get_parent()
-        return any(_has(inside, Atspi.StateType.FOCUSED) for inside in descendants(window))
-
-    @property
-    def enabled(self):
-        return _has(self._accessible, Atspi.StateType.ENABLED)
-
-    @property
-    def checked(self):
-        return _has(self._accessible, Atspi.StateType.CHECKED)
-
-    @property
-    def expanded(self):
-        """Of a combo box: whether its list is open."""
-        return _has(self._accessible, Atspi.StateType.EXPANDED)
-
-    @property
-    def showing(self):
-        return _has(self._accessible, Atspi.StateType.SHOWING)
+        return any(Control(inside).focused for inside in descendants(window))
 
     def press(self):
         """Does what a screen reader offers to do with it first."""

@@ -5,10 +5,9 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from accessibility import Control, descendants
 from controls import CONTROLS
 from program import PROGRAM, Program
-from screen import OUTPUT, Screen
+from screen import Screen
 
 
 class ProgramTestCase(unittest.TestCase):
@@ -18,19 +17,6 @@ class ProgramTestCase(unittest.TestCase):
     A failure leaves a picture of the screen and the program's messages in build/desktop-tests/.
     """
 
-    @classmethod
-    def setUpClass(cls):
-        if not cls.command()[0].is_file():
-            raise AssertionError(f"there is no {cls.command()[0]}: build the presets `release` and `desktop` first")
-        cls.screen = Screen.shared()
-        (OUTPUT / f"{cls.__name__}.log").unlink(missing_ok=True)
-        cls._home = tempfile.mkdtemp(prefix="tessarolyne-home-")
-        cls.addClassCleanup(shutil.rmtree, cls._home, ignore_errors=True)
-        cls.write_preferences(cls.PREFERENCES)
-        cls._provide_browser()
-        cls.start_program()
-        cls.addClassCleanup(lambda: cls.program.kill())
-
     # What stands in the preferences file of the empty home: the start asks nothing.
     PREFERENCES = "Deja Envoye Don 03 :@: True\n"
 
@@ -38,14 +24,22 @@ class ProgramTestCase(unittest.TestCase):
     ENVIRONMENT = {}
 
     @classmethod
+    def setUpClass(cls):
+        if not cls.command()[0].is_file():
+            raise AssertionError(f"there is no {cls.command()[0]}: build the presets `release` and `desktop` first")
+        cls.screen = Screen.shared()
+        cls._home = tempfile.mkdtemp(prefix="tessarolyne-home-")
+        cls.addClassCleanup(shutil.rmtree, cls._home, ignore_errors=True)
+        cls.preferences_file = Path(cls._home) / ".config" / "Tessarolyne Prefs.txt"
+        cls.write_preferences(cls.PREFERENCES)
+        cls._provide_browser()
+        cls.start_program()
+        cls.addClassCleanup(lambda: cls.program.kill())
+
+    @classmethod
     def write_preferences(cls, text):
         cls.preferences_file.parent.mkdir(parents=True, exist_ok=True)
         cls.preferences_file.write_text(text)
-
-    @classmethod
-    @property
-    def preferences_file(cls):
-        return Path(cls._home) / ".config" / "Tessarolyne Prefs.txt"
 
     @classmethod
     def start_program(cls):
@@ -86,7 +80,7 @@ class ProgramTestCase(unittest.TestCase):
 
     def all_controls(self):
         """Everything below the program's root, menus included."""
-        return [Control(accessible) for accessible in descendants(self.program.accessible)]
+        return self.program.controls()
 
     def control(self, told_name):
         """The control of the main window that the program calls `told_name`."""
@@ -100,12 +94,7 @@ class ProgramTestCase(unittest.TestCase):
 
     def find(self, role, name):
         """Waits for a control on the screen, of whatever window, whose name begins with `name`."""
-        return self.program.wait_for(
-            lambda: next(
-                (c for c in self.all_controls() if c.role == role and c.name.startswith(name) and c.showing), None
-            ),
-            lambda: f"a {role} “{name}” among {self.all_controls()}",
-        )
+        return self.program.find(role, name)
 
     def find_with_keyboard(self, role, name):
         """Like find, and waits for the keyboard too, which a new window gets a moment after it shows."""
@@ -114,13 +103,10 @@ class ProgramTestCase(unittest.TestCase):
         return control
 
     def wait_until_gone(self, role, name):
-        def showing():
-            return [c for c in self.all_controls() if c.role == role and c.name.startswith(name) and c.showing]
-
-        self.program.wait_for(lambda: not showing(), lambda: f"{showing()} to go")
+        self.program.wait_for(lambda: not any(self.program.showing(role, name)), f"the {role} “{name}” to go")
 
     def click(self, role, name):
-        self.screen.click(*self.find(role, name).centre)
+        self.program.click(self.find(role, name))
 
     def choose_command(self, caption, menu="Édition"):
         """Chooses a command of the main window's menu bar with the mouse."""
@@ -140,11 +126,11 @@ class ProgramTestCase(unittest.TestCase):
 
     def focused(self):
         """The controls that say they have the focus."""
-        return [control for control in self.all_controls() if control.focused]
+        return self.program.focused()
 
     def focus(self, told_name):
         """Clicks into a field and waits until it has the focus."""
-        self.screen.click(*self.control(told_name).centre)
+        self.press_button(told_name)
         self.wait_for_focus(told_name)
 
     def choose(self, told_name, row):
@@ -153,13 +139,13 @@ class ProgramTestCase(unittest.TestCase):
         Waits for the list to open and to close again: while it is up it takes every click for its own.
         """
         popup = self.control(told_name)
-        self.screen.click(*popup.centre)
+        self.program.click(popup)
         self.program.wait_for(lambda: popup.expanded, lambda: f"the list of {told_name} to open")
         self.screen.press("Home", *["Down"] * row, "Return")
         self.program.wait_for(lambda: not popup.expanded, lambda: f"the list of {told_name} to close")
 
     def press_button(self, told_name):
-        self.screen.click(*self.control(told_name).centre)
+        self.program.click(self.control(told_name))
 
     def clear(self, told_name):
         """Empties a field by keys."""

@@ -7,7 +7,7 @@ from pathlib import Path
 
 from accessibility import Control, descendants, find_application
 from controls import WINDOW_TITLE
-from screen import OUTPUT, ROOT
+from screen import OUTPUT, ROOT, start
 from waiting import wait_until
 
 PROGRAM = Path(os.environ.get("TESSAROLYNE_PROGRAM", ROOT / "build" / "release" / "tessarolyne"))
@@ -20,22 +20,13 @@ class Program:
         self._screen = screen
         self._log_path = OUTPUT / f"{log_name}.log"
         environment = screen.environment | extra_environment
+        self._scale = int(environment.get("QT_SCALE_FACTOR", 1))
         environment["HOME"] = str(home)
         environment["PATH"] = f"{home}/bin:{environment['PATH']}"
         for name, folder in (("CONFIG", ".config"), ("DATA", ".local/share"), ("CACHE", ".cache")):
             environment[f"XDG_{name}_HOME"] = str(Path(home) / folder)
         # A shell's background job ignores SIGINT, and hands that on; the program honours it.
-        command = ["setpriv", "--pdeathsig", "TERM", "env", "--default-signal", *map(str, command)]
-        with open(self._log_path, "ab") as log:
-            self._process = subprocess.Popen(
-                command,
-                env=environment,
-                cwd=home,
-                stdin=subprocess.DEVNULL,
-                stdout=log,
-                stderr=subprocess.STDOUT,
-                start_new_session=True,
-            )
+        self._process = start(["env", "--default-signal", *command], self._log_path, environment, cwd=home)
         try:
             self.window = self.wait_for(self._find_window, f"the window “{WINDOW_TITLE}” to come up")
             self.wait_for(lambda: self._active_window() == self.window, "the window to become active")
@@ -43,7 +34,7 @@ class Program:
                 lambda: find_application(self._process.pid), "the program to join the accessibility bus"
             )
             # The window manager calls the window active a moment before the program takes its first key.
-            self.wait_for(self._has_focus, lambda: f"the program to take the keyboard, {self._keyboard()}")
+            self.wait_for(self.focused, lambda: f"the program to take the keyboard, {self._keyboard()}")
         except BaseException:
             self.kill()
             raise
@@ -52,7 +43,7 @@ class Program:
         """Like wait_until, but fails at once, with the program's last words, when the program has ended."""
 
         def condition_of_a_living_program():
-            if self._process.poll() is not None:
+            if not self.running:
                 raise AssertionError(
                     f"the program ended with {self._process.returncode} while waiting for {what}\n{self.log()}"
                 )
@@ -69,8 +60,7 @@ class Program:
 
     def kill(self):
         """Ends the process at once if it is still there."""
-        if self._process.poll() is None:
-            self._process.kill()
+        self._process.kill()
         self._process.wait()
 
     @property
@@ -84,24 +74,39 @@ class Program:
         """What the program has printed so far."""
         return self._log_path.read_text(errors="replace")
 
+    def controls(self):
+        """Everything below the program's root, menus included."""
+        return [Control(accessible) for accessible in descendants(self.accessible)]
+
+    def focused(self):
+        """The controls that say they have the focus."""
+        return [control for control in self.controls() if control.focused]
+
+    def showing(self, role, *names, text=None):
+        """The controls on the screen, of whatever window, whose name begins with one of these or that show the text."""
+        for control in map(Control, descendants(self.accessible)):
+            if control.role == role and control.name.startswith(names or "") and control.showing:
+                if text is None or control.text == text:
+                    yield control
+
+    def find(self, role, *names, text=None):
+        """Waits for the first of those controls."""
+        return self.wait_for(
+            lambda: next(self.showing(role, *names, text=text), None),
+            lambda: f"a {role} {names or text} among {self.controls()}",
+        )
+
+    def click(self, control):
+        self._screen.click(*(self._scale * place for place in control.centre))
+
     @property
     def position(self):
         """Left and top of the window's contents on the screen, without the frame."""
-        information = self._screen.run("xwininfo", "-id", self.window)
-        return tuple(
-            int(re.search(rf"Absolute upper-left {axis}: +(-?\d+)", information).group(1)) for axis in "XY"
-        )
+        return self._numbers("Absolute upper-left X: +", "Absolute upper-left Y: +")
 
     @property
     def size(self):
-        information = self._screen.run("xwininfo", "-id", self.window)
-        return tuple(int(re.search(rf"{side}: (\d+)", information).group(1)) for side in ("Width", "Height"))
-
-    @property
-    def frame(self):
-        """Widths of the frame that the window manager put around: left, right, top, bottom."""
-        extents = self._screen.run("xprop", "-id", self.window, "_NET_FRAME_EXTENTS")
-        return tuple(int(number) for number in extents.split("=")[1].split(","))
+        return self._numbers("Width: ", "Height: ")
 
     def move(self, x, y):
         """Moves the window as a user's drag does: by way of the window manager."""
@@ -111,17 +116,18 @@ class Program:
 
     def click_close_box(self):
         """Clicks the window manager's close box, the rightmost button of the title bar."""
+        extents = self._screen.run("xprop", "-id", self.window, "_NET_FRAME_EXTENTS").split("=")[1]
+        _, right_border, title_height, _ = map(int, extents.split(","))
         left, top = self.position
-        width, _ = self.size
-        _, right_border, title_height, _ = self.frame
-        self._screen.click(left + width + right_border - title_height // 2, top - title_height // 2)
+        self._screen.click(left + self.size[0] + right_border - title_height // 2, top - title_height // 2)
+
+    def _numbers(self, *labels):
+        information = self._screen.run("xwininfo", "-id", self.window)
+        return tuple(int(re.search(rf"{label}(-?\d+)", information).group(1)) for label in labels)
 
     def _find_window(self):
         found = self._screen.find_windows(f"^{WINDOW_TITLE}$", "--pid", str(self._process.pid))
         return found[0] if found else None
-
-    def _has_focus(self):
-        return any(Control(accessible).focused for accessible in descendants(self.accessible))
 
     def _keyboard(self):
         """Who has it, for a failure's message."""
@@ -129,6 +135,5 @@ class Program:
         return f"which window {focus} has; ours is {self.window}, the active one {self._active_window()}"
 
     def _active_window(self):
-        active = self._screen.run("xprop", "-root", "_NET_ACTIVE_WINDOW")
-        match = re.search(r"0x[0-9a-f]+", active)
-        return str(int(match.group(0), 16)) if match else None
+        active = re.search(r"0x[0-9a-f]+", self._screen.run("xprop", "-root", "_NET_ACTIVE_WINDOW"))
+        return str(int(active.group(0), 16)) if active else None

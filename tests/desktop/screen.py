@@ -10,6 +10,7 @@ import select
 import shutil
 import subprocess
 import tempfile
+from functools import cache
 from pathlib import Path
 
 from waiting import wait_until
@@ -18,22 +19,33 @@ ROOT = Path(__file__).resolve().parents[2]
 OUTPUT = ROOT / "build" / "desktop-tests"
 
 
+def start(command, log, environment, **options):
+    """Starts a process that ends with this one, however this one ends, and tells all it has to say in a file."""
+    with open(log, "ab") as log_file:
+        return subprocess.Popen(
+            ["setpriv", "--pdeathsig", "TERM", *map(str, command)],
+            env=environment,
+            stdin=subprocess.DEVNULL,
+            stdout=log_file,
+            stderr=subprocess.STDOUT,
+            start_new_session=True,
+            **options,
+        )
+
+
 class Screen:
     """Started at the first use by Screen.shared(), ended with the interpreter. Knows nothing of the program."""
 
-    _shared = None
-
     @classmethod
+    @cache
     def shared(cls):
-        if cls._shared is None:
-            cls._shared = cls()
-        return cls._shared
+        return cls()
 
     def __init__(self, size="1280x1024"):
         self._processes = []
         OUTPUT.mkdir(parents=True, exist_ok=True)
-        for picture in OUTPUT.glob("*.png"):
-            picture.unlink()
+        for old in (*OUTPUT.glob("*.png"), *OUTPUT.glob("*.log")):
+            old.unlink()
         self._folder = Path(tempfile.mkdtemp(prefix="tessarolyne-screen-"))
         atexit.register(self.end)
         # Whatever the user's session sets (styles, scale factors, input methods) stays outside.
@@ -45,12 +57,15 @@ class Screen:
             "GSETTINGS_BACKEND": "memory",
             "QT_LINUX_ACCESSIBILITY_ALWAYS_ON": "1",
         }
-        self.environment["DISPLAY"] = self._start_x_server(size)
-        self._start_window_manager()
+        x_server = ["Xvfb", "-displayfd", "{fd}", "-screen", "0", f"{size}x24", "-nolisten", "tcp", "-noreset"]
+        self.environment["DISPLAY"] = ":" + self._start_and_read("xvfb", x_server)
+        # It runs its start-up command, in its home, when it has taken over the screen: a window that is mapped
+        # in the meantime may never be shown.
+        self._start("openbox", ["openbox", "--sm-disable", "--startup", "touch managed"])
+        wait_until((self._folder / "managed").exists, "the window manager to take over", 20)
         # The bus starts the accessibility bus itself when the first one asks for it.
-        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_and_read(
-            "dbus", ["dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address={fd}"]
-        )
+        bus = ["dbus-daemon", "--session", "--nofork", "--nopidfile", "--print-address={fd}"]
+        self.environment["DBUS_SESSION_BUS_ADDRESS"] = self._start_and_read("dbus", bus)
         # This process reads the accessibility tree and takes pictures: it belongs to the screen too.
         for name in ("DISPLAY", "DBUS_SESSION_BUS_ADDRESS"):
             os.environ[name] = self.environment[name]
@@ -66,21 +81,22 @@ class Screen:
             except subprocess.TimeoutExpired:
                 process.kill()
                 process.wait()
-        self._processes.clear()
         shutil.rmtree(self._folder, ignore_errors=True)
 
-    def run(self, *command):
+    def run(self, *command, check=True):
         """Runs a command on the screen and gives what it printed; fails when the command fails."""
-        return self._run(command, check=True)
+        return subprocess.run(
+            command, env=self.environment, stdin=subprocess.DEVNULL, capture_output=True, text=True, check=check
+        ).stdout
 
     def find_windows(self, title, *options):
         """The ids of the windows on the screen whose title matches; none is no failure, as it is to xdotool."""
-        command = ["xdotool", "search", "--all", "--onlyvisible", *options, "--name", title]
-        return self._run(command, check=False).split()
+        command = ("xdotool", "search", "--all", "--onlyvisible", *options, "--name", title)
+        return self.run(*command, check=False).split()
 
     def clipboard(self):
         """The text on the clipboard; nothing when there is none yet, which is a failure to xclip."""
-        return self._run(["xclip", "-out", "-selection", "clipboard"], check=False)
+        return self.run("xclip", "-out", "-selection", "clipboard", check=False)
 
     def press(self, *keys):
         """Presses keys one after the other, as "Tab" or "ctrl+q", on whatever has the focus.
@@ -110,52 +126,15 @@ class Screen:
         self.run("import", "-silent", "-window", "root", str(path))
         return path
 
-    def _run(self, command, check):
-        return subprocess.run(
-            command, env=self.environment, stdin=subprocess.DEVNULL, capture_output=True, text=True, check=check
-        ).stdout
-
     def _start(self, name, command, **options):
-        """Starts a process that ends with this one, however this one ends."""
-        with open(OUTPUT / f"{name}.log", "wb") as log:
-            process = subprocess.Popen(
-                ["setpriv", "--pdeathsig", "TERM", *command],
-                env=self.environment,
-                stdin=subprocess.DEVNULL,
-                stdout=log,
-                stderr=subprocess.STDOUT,
-                start_new_session=True,
-                **options,
-            )
-        self._processes.append(process)
-        return process
+        self._processes.append(start(command, OUTPUT / f"{name}.log", self.environment, **options))
 
-    def _start_and_read(self, name, command, seconds=20):
+    def _start_and_read(self, name, command):
         """Starts a process that says one line on a descriptor ({fd} in its command) once it is ready."""
         reading, writing = os.pipe()
-        try:
-            self._start(name, [part.format(fd=writing) for part in command], pass_fds=(writing,))
-        finally:
-            os.close(writing)
         with os.fdopen(reading) as pipe:
-            if not select.select([pipe], [], [], seconds)[0]:
-                raise RuntimeError(f"{name} did not start within {seconds} s; see {OUTPUT / name}.log")
-            line = pipe.readline().strip()
-        if not line:
-            raise RuntimeError(f"{name} ended at once; see {OUTPUT / name}.log")
-        return line
-
-    def _start_x_server(self, size):
-        number = self._start_and_read(
-            "xvfb",
-            ["Xvfb", "-displayfd", "{fd}", "-screen", "0", f"{size}x24", "-nolisten", "tcp", "-noreset"],
-        )
-        return f":{number}"
-
-    def _start_window_manager(self):
-        """Waits for its start-up command, which it runs, in its home, when it has taken over the screen.
-
-        A window that is mapped while the window manager takes over may never be shown.
-        """
-        self._start("openbox", ["openbox", "--sm-disable", "--startup", "touch managed"])
-        wait_until((self._folder / "managed").exists, "the window manager to take over", 20)
+            self._start(name, [part.format(fd=writing) for part in command], pass_fds=(writing,))
+            os.close(writing)
+            if select.select([pipe], [], [], 20)[0] and (line := pipe.readline().strip()):
+                return line
+        raise RuntimeError(f"{name} did not start; see {OUTPUT / name}.log")

@@ -1,27 +1,18 @@
 """The colours follow the desktop's."""
 
-import subprocess
-import sys
-from pathlib import Path
-
 from case import ProgramTestCase
 from screen import Screen
+from settings_portal import Portal
 
-DARK, LIGHT = "1", "0"
+LIGHT, DARK = 0, 1
 
 
 class DesktopThatTellsByItsPortal(ProgramTestCase):
     @classmethod
     def setUpClass(cls):
-        cls.portal = subprocess.Popen(
-            [sys.executable, Path(__file__).with_name("settings_portal.py"), DARK],
-            env=Screen.shared().environment,
-            stdin=subprocess.PIPE,
-            stdout=subprocess.PIPE,
-            text=True,
-        )
-        cls.addClassCleanup(cls.portal.communicate, timeout=10)
-        cls.portal.stdout.readline()
+        Screen.shared()
+        cls.portal = Portal(DARK)
+        cls.addClassCleanup(cls.portal.end)
         super().setUpClass()
 
     def wait_until_window_is(self, scheme):
@@ -37,5 +28,5 @@ class DesktopThatTellsByItsPortal(ProgramTestCase):
     def test_the_window_is_dark_where_the_desktop_is_and_turns_with_it(self):
         self.wait_until_window_is(DARK)
         for scheme in (LIGHT, DARK):
-            print(scheme, file=self.portal.stdin, flush=True)
+            self.portal.change(scheme)
             self.wait_until_window_is(scheme)

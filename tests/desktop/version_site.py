@@ -1,5 +1,6 @@
 """A web server of the tests' own for the version file, which does what it is told."""
 
+import queue
 import socketserver
 import threading
 
@@ -13,30 +14,20 @@ def page(text):
 
 
 class Site:
-    """Answers requests, one at a time, once `answer` has been called for them."""
+    """Answers requests, one at a time, once `answer` has been called for them, and hangs up."""
 
     def __init__(self):
-        self._answers = []
-        self._there_is_one = threading.Condition()
-        site = self
+        self.answer = (answers := queue.SimpleQueue()).put
 
         class Handler(socketserver.StreamRequestHandler):
             def handle(self):
                 while self.rfile.readline().strip():
                     pass
-                with site._there_is_one:
-                    site._there_is_one.wait_for(lambda: site._answers)
-                    self.wfile.write(site._answers.pop(0))
+                self.wfile.write(answers.get())
 
         self._server = socketserver.TCPServer(("127.0.0.1", 0), Handler)
         self.address = f"http://127.0.0.1:{self._server.server_address[1]}"
         threading.Thread(target=self._server.serve_forever, daemon=True).start()
-
-    def answer(self, answer):
-        """Gives the request under way, or the next one, this answer and hangs up."""
-        with self._there_is_one:
-            self._answers.append(answer)
-            self._there_is_one.notify()
 
     def end(self):
         self.answer(b"")  # to whom it still keeps waiting
