@@ -18,7 +18,6 @@ from pathlib import Path
 ROOT = Path(__file__).resolve().parents[1]
 sys.path.insert(0, str(ROOT / "tests" / "desktop"))
 
-from accessibility import Control, descendants  # noqa: E402
 from program import PROGRAM, Program  # noqa: E402
 from screen import Screen  # noqa: E402
 from waiting import wait_until  # noqa: E402
@@ -77,7 +76,6 @@ class Session:
         self._screen = screen
         self._folder = folder
         self._look = f"{language}-{palette}" + (f"@{scale}x" if scale > 1 else "")
-        self._scale = scale
         self._home = Path(tempfile.mkdtemp(prefix="tessarolyne-home-"))
         config = self._home / ".config"
         config.mkdir()
@@ -97,7 +95,7 @@ class Session:
 
     def take_all(self):
         self._screen.type("255")
-        self._find("text", text="3 x 5 x 17")
+        self._program.find("text", text="3 x 5 x 17")
         self._take("main", self._program.window)
         self._choose("Préférences", "Preferences")
         self._take("preferences", self._new_window())
@@ -109,19 +107,19 @@ class Session:
         self._take_save()
 
     def _take_list(self):
-        self._click(self._find("check box", "Liste", "Prime"))
+        self._program.click(self._program.find("check box", "Liste", "Prime"))
         window = self._new_window()
-        limit = self._find("text", "Calculer", "Calculate")
+        limit = self._program.find("text", "Calculer", "Calculate")
         self._program.wait_for(lambda: limit.focused, "the list to take the keyboard")
         self._run_list_to(LIST_LIMIT)
-        self._find("label", "78 498")
+        self._program.find("label", "78 498")
         self._take("list", window)
         self._screen.press("ctrl+q")
         self._take("message", self._new_window())
-        self._click(self._find("push button", "Ne pas quitter", "Don't Quit", "Don’t Quit"))
+        self._program.click(self._program.find("push button", "Ne pas quitter", "Don't Quit", "Don’t Quit"))
         self._wait_until_left({int(self._program.window), window})
         self._run_list_to(FAR_LIMIT)
-        wheel = self._find("progress bar")
+        wheel = self._program.find("progress bar")
         self._take("calculating", window, moving=True)
         self._screen.press("Escape")
         self._program.wait_for(lambda: not wheel.showing, "the run to end")
@@ -137,28 +135,9 @@ class Session:
         self._screen.press("Return")
         self._take("saving", self._new_window(), moving=True)
 
-    def _find(self, role, *names, text=None):
-        """Waits for a control on the screen whose name begins with one of these, or that shows that text."""
-
-        def fits(control):
-            return (
-                control.role == role
-                and control.showing
-                and (not names or control.name.startswith(names))
-                and (text is None or control.text == text)
-            )
-
-        return self._program.wait_for(
-            lambda: next(filter(fits, map(Control, descendants(self._program.accessible))), None),
-            f"a {role} {names or text}",
-        )
-
-    def _click(self, control):
-        self._screen.click(*(self._scale * place for place in control.centre))
-
     def _choose(self, *names):
-        self._click(self._find("menu item", "Édition", "Edit"))
-        self._click(self._find("menu item", *names))
+        self._program.click(self._program.find("menu item", "Édition", "Edit"))
+        self._program.click(self._program.find("menu item", *names))
 
     def _windows(self):
         """Those that the window manager knows: no menus."""
