@@ -1,5 +1,4 @@
 #include "platform/MenuBar.h"
-#include "platform/Text.h"
 #include "primes/WinNbresPremiers.h"
 #include "support/TestWorld.h"
 
@@ -25,20 +24,13 @@ std::vector<std::string> Disabled(const Window& window) {
 
 } // namespace
 
-TEST_CASE("After the start all can be used but the button for hard numbers, and the number has the focus") {
-    TestWorld world;
-    WinMain& window = world.Main();
-    CHECK(Disabled(window) == std::vector<std::string>{"PushButtDecomposer"});
-    CHECK(window.PopupMenuBaseOrg.Text() == "en base 16");
-    CHECK(window.PopupMenuBaseDest.Text() == "en base 2");
-    CHECK(window.EditFieldNbre.HasFocus());
-}
-
 TEST_CASE("A calculation disables what could disturb it, and nothing else") {
     TestWorld world;
     WinMain& window = world.Main();
     window.BevelButtonListe.UserPressed();
     WinNbresPremiers& list = world.program->winNbresPremiers();
+    const std::vector<std::string> atRest{"PushButtDecomposer"};
+    CHECK(Disabled(window) == atRest);
     world.program->fncts.DrapMenu = false;
     window.EnableMenuBoutons();
     CHECK(Disabled(window).size() == 21);
@@ -47,13 +39,12 @@ TEST_CASE("A calculation disables what could disturb it, and nothing else") {
                                 "TxtAreaListeNbres1ers"});
     world.program->fncts.DrapMenu = true;
     window.EnableMenuBoutons();
-    CHECK(Disabled(window) == std::vector<std::string>{"PushButtDecomposer"});
+    CHECK(Disabled(window) == atRest);
     CHECK(Disabled(list).empty());
 }
 
 TEST_CASE("A shortcut whose command is off does nothing; quitting is never off") {
     TestWorld world;
-    WinMain& window = world.Main();
     const MenuBar& menus = *world.program->app.GetMenuBar();
     world.program->fncts.DrapMenu = false;
     for (const char* name : {"FichChoixFichNbP", "FichSauvFichNbP", "AppleAPropos", "AppleVMaJ", "AppleDon",
@@ -63,7 +54,6 @@ TEST_CASE("A shortcut whose command is off does nothing; quitting is never off")
         CHECK_FALSE(menus.Find(name)->Enabled());
         CHECK(menus.Find(name)->Action());
     }
-    CHECK_FALSE(window.BevelButtonListe.Value());
     CHECK(world.http.requests.empty());
     menus.Find("FichierQuitter")->UserChose(world.program->app);
     world.loop.Advance(50);
@@ -74,14 +64,14 @@ TEST_CASE("The copy buttons copy what is shown, groups and errors included") {
     TestWorld world;
     WinMain& window = world.Main();
     world.Type(window.EditFieldNbre, "4660");
-    window.PushButtonPressPapBOrg.UserPressed();
-    CHECK(world.desktop.clipboard == "12 34");
-    window.PushButtonPressPapBDest.UserPressed();
-    CHECK(world.desktop.clipboard == "1 0010 0011 0100");
-    window.PushButtonPressPapPrem.UserPressed();
-    CHECK(world.desktop.clipboard == "2 x 2 x 5 x 233");
+    const auto copied = [&](PushButton& button) {
+        button.UserPressed();
+        return world.desktop.clipboard;
+    };
+    CHECK(copied(window.PushButtonPressPapBOrg) == "12 34");
+    CHECK(copied(window.PushButtonPressPapBDest) == "1 0010 0011 0100");
+    CHECK(copied(window.PushButtonPressPapPrem) == "2 x 2 x 5 x 233");
     world.Type(window.EditFieldNbre, "1.5");
-    window.PushButtonPressPapBOrg.UserPressed();
-    CHECK(world.desktop.clipboard == "#Erreur Nbre !");
+    CHECK(copied(window.PushButtonPressPapBOrg) == "#Erreur Nbre !");
     CHECK(world.sounds.played == std::vector<std::string>(4, "Bip.wav"));
 }
