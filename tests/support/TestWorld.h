@@ -12,6 +12,8 @@
 #include "support/MemoryFileSystem.h"
 #include "support/VirtualLoop.h"
 
+#include <doctest/doctest.h>
+
 #include <algorithm>
 #include <deque>
 #include <functional>
@@ -47,27 +49,61 @@ class TestSounds final : public Sounds {
 public:
     explicit TestSounds(VirtualLoop& loop) : loop_(loop) {}
     void Beep() override { ++beeps; }
-    std::unique_ptr<Playing> Play(const std::string& file) override;
+    std::unique_ptr<Playing> Play(const std::string& file) override {
+        played.push_back(file);
+        return std::make_unique<TestPlaying>(loop_);
+    }
 
     int beeps = 0;
     std::vector<std::string> played;
 
 private:
+    class TestPlaying final : public Playing {
+    public:
+        explicit TestPlaying(const Clock& clock) : clock_(clock), end_(clock.Milliseconds() + 100) {}
+        bool IsPlaying() const override { return clock_.Milliseconds() < end_; }
+
+    private:
+        const Clock& clock_;
+        std::int64_t end_;
+    };
+
     VirtualLoop& loop_;
 };
 
 // Answers dialogs as the test has laid down. A dialog that no test expected fails it.
 class ScriptedDialogs final : public Dialogs {
 public:
-    ~ScriptedDialogs() override;
-
-    DialogButton Ask(const MessageDialog& dialog) override;
-    void Tell(const std::string& text) override;
-    std::optional<FolderItem> ChooseFile(const FileDialog& dialog) override;
-    std::optional<FolderItem> ChooseTarget(const FileDialog& dialog) override;
+    ~ScriptedDialogs() override {
+        CHECK_MESSAGE(StillExpected() == 0, "a dialog that was expected never came");
+        CHECK_MESSAGE(expectedTells_ == 0, "a message that was expected never came");
+    }
+    DialogButton Ask(const MessageDialog& dialog) override {
+        asked.push_back(dialog);
+        REQUIRE_MESSAGE(!answers_.empty(), "unexpected dialog: " << dialog.message);
+        const auto [button, meanwhile] = answers_.front();
+        answers_.pop_front();
+        meanwhile();
+        return button;
+    }
+    void Tell(const std::string& text) override {
+        told.push_back(text);
+        REQUIRE_MESSAGE(expectedTells_-- > 0, "unexpected message: " << text);
+    }
+    std::optional<FolderItem> ChooseFile(const FileDialog& dialog) override {
+        fileDialogs.push_back(dialog);
+        REQUIRE_MESSAGE(!fileAnswers_.empty(), "unexpected file dialog: " << dialog.prompt);
+        const auto answer = fileAnswers_.front();
+        fileAnswers_.pop_front();
+        return answer;
+    }
+    std::optional<FolderItem> ChooseTarget(const FileDialog& dialog) override { return ChooseFile(dialog); }
 
     // The next question, its answer, and what happens while it is up.
-    void Expect(DialogButton answer, std::function<void()> meanwhile = {});
+    void Expect(
+        DialogButton answer, std::function<void()> meanwhile = [] {}) {
+        answers_.emplace_back(answer, std::move(meanwhile));
+    }
     void ExpectTell() { ++expectedTells_; }
     void ExpectFile(std::optional<FolderItem> answer) { fileAnswers_.push_back(std::move(answer)); }
     std::size_t StillExpected() const { return answers_.size() + fileAnswers_.size(); }
@@ -77,13 +113,7 @@ public:
     std::vector<FileDialog> fileDialogs;
 
 private:
-    struct Answer {
-        DialogButton button;
-        std::function<void()> meanwhile;
-    };
-    std::optional<FolderItem> NextFile(const FileDialog& dialog);
-
-    std::deque<Answer> answers_;
+    std::deque<std::pair<DialogButton, std::function<void()>>> answers_;
     std::deque<std::optional<FolderItem>> fileAnswers_;
     int expectedTells_ = 0;
 };
@@ -137,7 +167,6 @@ class TestWorld {
 public:
     enum class Launch { Settled, First, NotYet };
     explicit TestWorld(Launch launch = Launch::Settled);
-    ~TestWorld();
 
     WinMain& Main() { return program->winMain(); }
     // What the user does: into the field, replacing all of it, key by key; time passes as it does for a
