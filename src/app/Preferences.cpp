@@ -67,13 +67,10 @@ void App::Apply(const Preferences& preferences) {
     window.EditFieldCentimes.Text = preferences.centimes;
 }
 
-// A window that would not be whole on the first screen comes to the default place.
+// A window that would not be whole on a screen comes to the default place.
 void App::PlaceMainWindow(int left, int top) {
     WinMain& window = program_.winMain();
-    const ScreenSize screen = GetServices().stage.Screen();
-    // Compared this way round, a position near the end of its type can't overflow.
-    if (left < 0 || top < smallestTop || left > screen.Width - window.Width() ||
-        top > screen.Height - window.Height()) {
+    if (!window.CanStandAt({left, top, window.Width, window.Height})) {
         left = defaultLeft;
         top = defaultTop;
     }

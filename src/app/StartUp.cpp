@@ -57,6 +57,7 @@ void WinMain::Event_Open() {
     if (program.services.loop.IsQuitting()) {
         return; // a signal ended the dialogs: there is nothing to save, and no window to open
     }
+    const QuietShowing quiet(app); // the list may come back, but the amount is typed here
     fncts.DrapMenu = true;
     EnableMenuBoutons();
     app.initProg = true;

@@ -36,6 +36,14 @@ ScreenSize QtStage::Screen() const {
     return screen == nullptr ? ScreenSize() : ScreenSize{screen->size().width(), screen->size().height()};
 }
 
+bool QtStage::IsOnOtherScreen(const WindowPlace& place) const {
+    const QRect wanted(place.left, place.top, place.width, place.height);
+    const auto screens = QGuiApplication::screens();
+    return std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
+        return screen != QGuiApplication::primaryScreen() && screen->geometry().contains(wanted);
+    });
+}
+
 WindowView* QtStage::Find(const Window* window) const {
     const auto found = std::find_if(views_.begin(), views_.end(),
         [&](const auto& view) { return !view.isNull() && view->isVisible() && &view->Model() == window; });

@@ -23,6 +23,7 @@ public:
 
     void Present(Window& window) override;
     ScreenSize Screen() const override;
+    bool IsOnOtherScreen(const WindowPlace& place) const override;
 
     // The real window of a model; null if it isn't shown or has closed.
     WindowView* Find(const Window* window) const;

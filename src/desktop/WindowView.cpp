@@ -2,6 +2,7 @@
 
 #include "desktop/QtMenu.h"
 #include "desktop/QtText.h"
+#include "desktop/WindowContent.h"
 #include "platform/Application.h"
 #include "platform/EventLoop.h"
 #include "platform/Services.h"
@@ -36,7 +37,7 @@ Qt::CursorShape Shape(Cursor cursor) {
 } // namespace
 
 WindowView::WindowView(Window& window, QtMenu* menu, bool withBar)
-    : QWidget(nullptr, Flags(window.Frame)), window_(window), content_(new QWidget(this)),
+    : QWidget(nullptr, Flags(window.Frame)), window_(window), content_(new WindowContent(this)),
       focus_(window, *this, [this](const Control* control) { return Find(control); }) {
     if (window.Frame.kind == WindowFrame::Kind::MovableModal) {
         setWindowModality(Qt::ApplicationModal);
@@ -57,7 +58,10 @@ WindowView::~WindowView() {
 
 void WindowView::Observe() {
     connections_.push_back(window_.Changed.Connect([this] { Read(); }));
-    connections_.push_back(window_.FocusMoved.Connect([this] { focus_.Sync(); }));
+    connections_.push_back(window_.FocusMoved.Connect([this] {
+        focus_.Sync();
+        ShowFocus();
+    }));
     connections_.push_back(window_.Raised.Connect([this] { Raise(); }));
     connections_.push_back(window_.DrawNow.Connect([this] { repaint(); }));
     connections_.push_back(window_.Closed.Connect([this] { ModelClosed(); }));
@@ -70,7 +74,7 @@ void WindowView::AddViews() {
             continue;
         }
         const ControlView* parent = control->Parent() == nullptr ? nullptr : Find(control->Parent());
-        auto view = MakeControlView(*control, parent == nullptr ? content_ : parent->Widget());
+        auto view = MakeControlView(*control, parent == nullptr ? content_->Sheet() : parent->Widget());
         if (view == nullptr) {
             continue;
         }
@@ -124,20 +128,59 @@ int WindowView::BarHeight() const {
 void WindowView::ReadSize() {
     const int bar = BarHeight();
     const WindowFrame& frame = window_.Frame;
-    const QSize size(window_.Width, window_.Height + bar);
+    const QSize aboveIt(0, bar);
+    const QSize sheet(window_.Width, window_.Height);
+    QSize room = Room();
+    content_->Sheet()->resize(sheet);
     if (frame.resizeable) {
-        setMinimumSize(frame.minWidth, frame.minHeight + bar);
-        setMaximumSize(frame.maxWidth, frame.maxHeight + bar);
-        if (this->size() != size) {
-            resize(size);
-        }
-    } else if (minimumSize() != size || maximumSize() != size) {
-        setFixedSize(size);
+        const QSize least = content_->SizeFor({frame.minWidth, frame.minHeight}, room);
+        setMinimumSize(least + aboveIt);
+        setMaximumSize(QSize(frame.maxWidth, frame.maxHeight).expandedTo(least) + aboveIt);
+        room = isVisible() ? room.expandedTo(size() - aboveIt) : room; // the user may make it larger
+    }
+    const QSize shown = content_->SizeFor(sheet, room);
+    const QSize whole = shown + aboveIt;
+    if (!frame.resizeable && (minimumSize() != whole || maximumSize() != whole)) {
+        setFixedSize(whole);
+    } else if (size() != whole) {
+        resize(whole);
     }
     if (bar > 0) {
-        bar_->setGeometry(0, 0, size.width(), bar);
+        bar_->setGeometry(0, 0, shown.width(), bar);
     }
-    content_->setGeometry(0, bar, window_.Width, window_.Height);
+    content_->setGeometry(QRect(QPoint(0, bar), shown));
+}
+
+// What the screen has for the content, inside of the frame and below the menu bar.
+QSize WindowView::Room() const {
+    const QMargins margins = windowHandle() == nullptr ? QMargins() : windowHandle()->frameMargins();
+    const QSize room = screen()->availableSize().shrunkBy(margins) - QSize(0, BarHeight());
+    return room.expandedTo({1, 1});
+}
+
+// Once, when the window manager has put its frame around a window that opens: what would be beyond the
+// screen's edge is pulled in, and a window of variable size that is larger than the screen becomes smaller.
+void WindowView::PullOntoScreen() {
+    if (placed_ || window_.IsClosed()) {
+        return;
+    }
+    placed_ = true;
+    if (window_.Frame.resizeable && window_.Height > Room().height()) {
+        window_.UserResized(window_.Width, Room().height());
+    }
+    ReadSize();
+    const QRect available = screen()->availableGeometry();
+    const QRect frame = frameGeometry();
+    const QPoint lastPlace(available.right() + 1 - frame.width(), available.bottom() + 1 - frame.height());
+    move(std::max(std::min(frame.left(), lastPlace.x()), available.left()),
+        std::max(std::min(frame.top(), lastPlace.y()), available.top()));
+    TellPlace();
+}
+
+void WindowView::ShowFocus() {
+    if (QWidget* const widget = FocusedWidget()) {
+        content_->ensureWidgetVisible(widget);
+    }
 }
 
 // A window that was never given a place is left to the window manager.
@@ -159,6 +202,7 @@ void WindowView::ReadVisible() {
             winId();
             windowHandle()->setTransientParent(active->windowHandle());
         }
+        setAttribute(Qt::WA_ShowWithoutActivating, !window_.TakesKeyboard());
         show();
         QTimer::singleShot(0, this, [this] { focus_.Begin(); });
     } else {
@@ -193,6 +237,9 @@ void WindowView::closeEvent(QCloseEvent* event) {
 
 void WindowView::moveEvent(QMoveEvent* event) {
     QWidget::moveEvent(event);
+    if (!placed_ && isVisible() && !windowHandle()->frameMargins().isNull()) {
+        QTimer::singleShot(0, this, [this] { PullOntoScreen(); });
+    }
     TellPlace();
 }
 
@@ -222,7 +269,7 @@ void WindowView::keyPressEvent(QKeyEvent* event) {
 
 bool WindowView::event(QEvent* event) {
     if (event->type() == QEvent::WindowActivate) {
-        placed_ = true;
+        PullOntoScreen();
         TellPlace();
         focus_.SyncSoon();
     }

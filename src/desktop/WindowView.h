@@ -13,10 +13,11 @@ namespace tessarolyne {
 
 class QtMenu;
 class Window;
+class WindowContent;
 
 // The real window of a model: its frame, menu bar and controls. The menu bar stands above the model's
-// area, which keeps its size. The view never closes by itself; it asks the model, and goes when that has
-// closed.
+// area, which keeps its size and scrolls where the screen is smaller. The view never closes by itself; it
+// asks the model, and goes when that has closed.
 class WindowView final : public QWidget {
 public:
     // `menu` may be null; `withBar` shows the menus in this window.
@@ -41,6 +42,9 @@ private:
     ControlView* Find(const Control* control) const;
     void Read();
     void ReadSize();
+    QSize Room() const;
+    void PullOntoScreen();
+    void ShowFocus();
     void ReadPlace();
     void ReadVisible();
     void TellPlace();
@@ -49,7 +53,7 @@ private:
     void ModelClosed();
 
     Window& window_;
-    QWidget* const content_;
+    WindowContent* const content_;
     QWidget* bar_ = nullptr;
     std::vector<std::unique_ptr<ControlView>> views_;
     std::vector<Connection> connections_;

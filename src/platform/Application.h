@@ -41,8 +41,12 @@ public:
     // return.
     std::function<void(Window&)> OnWindowClosed;
 
+    // Windows that are shown now leave the keyboard where it is.
+    bool ShowsQuietly() const { return showsQuietly_; }
+
 private:
     friend class Window;
+    friend class QuietShowing;
     void Add(Window& window) { windows_.push_back(&window); }
     void Remove(Window& window) { std::erase(windows_, &window); }
     void WindowClosed(Window& window);
@@ -51,6 +55,21 @@ private:
     Services& services_;
     std::vector<Window*> windows_;
     MenuBar* menuBar_ = nullptr;
+    bool showsQuietly_ = false;
+};
+
+// For as long as it lives, windows of the application come up without taking the keyboard.
+class QuietShowing {
+public:
+    explicit QuietShowing(Application& application) : application_(application) {
+        application_.showsQuietly_ = true;
+    }
+    ~QuietShowing() { application_.showsQuietly_ = false; }
+    QuietShowing(const QuietShowing&) = delete;
+    QuietShowing& operator=(const QuietShowing&) = delete;
+
+private:
+    Application& application_;
 };
 
 } // namespace tessarolyne

@@ -28,8 +28,11 @@ void Window::Show() {
         presented_ = true;
         application_.GetServices().stage.Present(*this);
     }
+    takesKeyboard_ = !application_.ShowsQuietly();
     Visible = true;
-    Raised();
+    if (takesKeyboard_) {
+        Raised();
+    }
 }
 
 void Window::ShowModal() {

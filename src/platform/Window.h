@@ -34,8 +34,10 @@ public:
     Window(Application& application, std::string title, int width, int height, WindowFrame frame);
     ~Window() override;
 
-    // Puts the window on the stage, in front; nothing once it has closed.
+    // Puts the window on the stage, in front; nothing once it has closed. While the application shows quietly
+    // (QuietShowing), the keyboard stays with the window that has it.
     void Show();
+    bool TakesKeyboard() const { return takesKeyboard_; }
     // Shows the window and returns when it has closed or the program quits. Nothing if the window is up.
     void ShowModal();
     // Asks Event_CancelClose(false) and closes unless it refuses.
@@ -101,6 +103,7 @@ private:
     Control* focus_ = nullptr;
     bool closed_ = false;
     bool presented_ = false;
+    bool takesKeyboard_ = true;
 };
 
 } // namespace tessarolyne

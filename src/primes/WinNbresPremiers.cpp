@@ -110,8 +110,7 @@ void WinNbresPremiers::Event_Open() {
 void WinNbresPremiers::PlaceWindow() {
     const ScreenSize screen = program.services.stage.Screen();
     const auto [left, top, width, height] = app.WinNBP;
-    if (left < 0 || top < smallestTop || width < Frame.minWidth || height < Frame.minHeight ||
-        screen.Width < left + width || screen.Height < top + height) {
+    if (width < Frame.minWidth || height < Frame.minHeight || !CanStandAt({left, top, width, height})) {
         app.WinNBP = {ToInt16(screen.Width - defaultFromRight), defaultTop, defaultWidth, defaultHeight};
     }
     Left = app.WinNBP[0];

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/App.h"
+#include "platform/Stage.h"
 #include "platform/Window.h"
 #include "ui/Fncts.h"
 
@@ -10,14 +11,15 @@ namespace tessarolyne {
 
 class Program;
 
-// The least Top of a window that is placed, below a menu bar.
-inline constexpr int smallestTop = 38;
-
 // What every window of the program has at hand: the program that it belongs to, and its two shared objects by
 // the names under which the handlers speak of them.
 class ProgramWindow : public Window {
 public:
     ProgramWindow(Program& owner, std::string title, int width, int height, WindowFrame frame);
+
+    // Whether the window can be put back to a place of an earlier run: it is whole on the first screen and
+    // below a menu bar there, or whole on another screen that is still there.
+    bool CanStandAt(const WindowPlace& place) const;
 
 protected:
     Program& program;

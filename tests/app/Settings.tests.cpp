@@ -81,6 +81,7 @@ TEST_CASE("A place that isn't whole on the screen, by one point, is the default 
     CHECK(place(-1, 100) == std::pair(20, 60));
     CHECK(place(1280 - 550, 1024 - 594) == std::pair(1280 - 550, 1024 - 594));
     CHECK(place(1280 - 549, 100) == std::pair(20, 60));
+    CHECK(place(1280 + 10, 0) == std::pair(1280 + 10, 0)); // the second screen of the tests is to the right
 }
 
 TEST_CASE("A file that can't be read to its end says so, keeps what came before, and is kept beside") {
