@@ -395,6 +395,11 @@ from base ¿% = ¿% </translation>
         <extracomment>The first line of a prime file; &quot; : &quot; and a number follow.</extracomment>
         <translation>Number of Primes</translation>
     </message>
+    <message id="Localisation.Txt_NbrePrecedent">
+        <source>Correspond au nombre précédent.</source>
+        <extracomment>Of factors or words that are dimmed, since another base made another number.</extracomment>
+        <translation>Goes with the number before.</translation>
+    </message>
     <message id="Localisation.Txt_NombresPremiers">
         <source> nombres premiers</source>
         <extracomment>A number stands before it, 4 or more.</extracomment>

@@ -36,8 +36,8 @@ void WinMain::ConvNbreBaseD() {
             EditFieldBaseOrg.Text = error;
         }
         EditFieldBaseDest.Text = error;
-        TxtAreaDecomp1er.Text = error;
-        TxtAreaLettres.Text = error;
+        Write(factors_, error);
+        Write(words_, error);
     }
 }
 

@@ -29,7 +29,10 @@ void WinMain::CheckBoxFormatAuto_Action(CheckBox& bouton) {
             EditFieldBaseDest.Text =
                 FormatType(EditFieldBaseDest.Text(), PopupMenuBaseDest.ListIndex + 2, grouped);
         }
-        DecompPremDeb(false);
+    }
+    // The area may hold something else: nothing, an error, the hint to use the button.
+    if (TxtAreaDecomp1er.Text == FactorsText(!grouped)) {
+        TxtAreaDecomp1er.Text = FactorsText(grouped);
     }
     if (BevelButtonListe.Value) {
         WinNbresPremiers& list = program.winNbresPremiers();
@@ -39,7 +42,10 @@ void WinMain::CheckBoxFormatAuto_Action(CheckBox& bouton) {
             field->Format = mask;
         }
         for (TextField* field : fields) {
-            field->Text = WithoutBlanks(field->Text());
+            const std::string bare = WithoutBlanks(field->Text());
+            if (IsNumeric(bare)) { // a message keeps its blanks
+                field->Text = bare;
+            }
         }
     }
     app.initProg = true;

@@ -40,7 +40,6 @@ void WinMain::EditFieldBaseOrg_GotFocus(TextField& champ) {
     app.initProg = true;
 }
 
-// The flag falls before the text is set, so that the change of text is no input.
 void WinMain::EditFieldNbre_LostFocus(TextField& champ) {
     if (app.initProg && FocusNbre) {
         FocusNbre = false;
@@ -57,20 +56,20 @@ void WinMain::EditFieldBaseOrg_LostFocus(TextField& champ) {
     }
 }
 
-void WinMain::RememberSource(TextField& field, bool hasFocus, bool isDecimal, std::string& lastText) {
-    if (app.initProg && hasFocus && field.Text() != lastText) {
+// What the program writes is no input, whichever field has the focus.
+void WinMain::TakeAsSource(bool isDecimal, ChangedBy who) {
+    if (app.initProg && who == ChangedBy::User) {
         DrapTimerNbre = isDecimal;
         TimerTempo.Mode = 1;
     }
-    lastText = field.Text();
 }
 
-void WinMain::EditFieldNbre_TextChange(TextField& champ) {
-    RememberSource(champ, FocusNbre, true, lastTextNbre_);
+void WinMain::EditFieldNbre_TextChange(TextField&, ChangedBy who) {
+    TakeAsSource(true, who);
 }
 
-void WinMain::EditFieldBaseOrg_TextChange(TextField& champ) {
-    RememberSource(champ, FocusBase, false, lastTextBaseOrg_);
+void WinMain::EditFieldBaseOrg_TextChange(TextField&, ChangedBy who) {
+    TakeAsSource(false, who);
 }
 
 bool WinMain::EditFieldNbre_KeyDown(TextField&, const std::string& key) {
@@ -114,22 +113,44 @@ std::string WinMain::FormatType(std::string_view nombre, int base, bool formatAu
     return tessarolyne::FormatType(nombre, base, formatAuto);
 }
 
-void WinMain::PopupMenuBaseOrg_Change(PopupMenu&) {
-    if (app.initProg) {
-        ConvNbreBaseD();
+// The decimal number in the one form that doesn't depend on the switch and on the focus.
+std::string WinMain::NumberShown() const {
+    return tessarolyne::FormatNbre(EditFieldNbre.Text(), false);
+}
+
+void WinMain::Write(Output& output, const std::string& text) {
+    output.area.Text = text;
+    output.number = NumberShown();
+    output.Dim(false);
+}
+
+void WinMain::Output::Dim(bool dimmed) {
+    area.Dimmed = dimmed;
+    area.HelpTag = dimmed ? Localisation::Txt_NbrePrecedent() : "";
+}
+
+// The digits in EditFieldBaseOrg may be another number now, of which the factors and the words don't speak
+// before the next key.
+void WinMain::ConvertAgain() {
+    if (!app.initProg) {
+        return;
     }
+    ConvNbreBaseD();
+    for (Output* output : {&factors_, &words_}) {
+        output->Dim(output->number != NumberShown());
+    }
+}
+
+void WinMain::PopupMenuBaseOrg_Change(PopupMenu&) {
+    ConvertAgain();
 }
 
 void WinMain::PopupMenuBaseDest_Change(PopupMenu&) {
-    if (app.initProg) {
-        ConvNbreBaseD();
-    }
+    ConvertAgain();
 }
 
 void WinMain::RadioButton09AZ_Action(RadioButton&, int) {
-    if (app.initProg) {
-        ConvNbreBaseD();
-    }
+    ConvertAgain();
 }
 
 } // namespace tessarolyne

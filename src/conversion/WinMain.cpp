@@ -97,12 +97,13 @@ void WinMain::NameForScreenReaders() {
 void WinMain::BindEvents() {
     EditFieldNbre.GotFocus = [this] { EditFieldNbre_GotFocus(EditFieldNbre); };
     EditFieldNbre.LostFocus = [this] { EditFieldNbre_LostFocus(EditFieldNbre); };
-    EditFieldNbre.TextChange = [this] { EditFieldNbre_TextChange(EditFieldNbre); };
+    EditFieldNbre.TextChange = [this](ChangedBy who) { EditFieldNbre_TextChange(EditFieldNbre, who); };
     EditFieldNbre.KeyDown = [this](
                                 const std::string& key) { return EditFieldNbre_KeyDown(EditFieldNbre, key); };
     EditFieldBaseOrg.GotFocus = [this] { EditFieldBaseOrg_GotFocus(EditFieldBaseOrg); };
     EditFieldBaseOrg.LostFocus = [this] { EditFieldBaseOrg_LostFocus(EditFieldBaseOrg); };
-    EditFieldBaseOrg.TextChange = [this] { EditFieldBaseOrg_TextChange(EditFieldBaseOrg); };
+    EditFieldBaseOrg.TextChange = [this](
+                                      ChangedBy who) { EditFieldBaseOrg_TextChange(EditFieldBaseOrg, who); };
     EditFieldBaseOrg.KeyDown = [this](const std::string& key) {
         return EditFieldBaseOrg_KeyDown(EditFieldBaseOrg, key);
     };
@@ -110,10 +111,10 @@ void WinMain::BindEvents() {
     PopupMenuBaseDest.Change = [this] { PopupMenuBaseDest_Change(PopupMenuBaseDest); };
     RadioButton09AZ[0].Action = [this] { RadioButton09AZ_Action(RadioButton09AZ[0], 0); };
     RadioButton09AZ[1].Action = [this] { RadioButton09AZ_Action(RadioButton09AZ[1], 1); };
-    EditFieldMonnaies.TextChange = [this] { EditFieldMonnaies_TextChange(EditFieldMonnaies); };
-    EditFieldMonnaie.TextChange = [this] { EditFieldMonnaie_TextChange(EditFieldMonnaie); };
-    EditFieldCentimes.TextChange = [this] { EditFieldCentimes_TextChange(EditFieldCentimes); };
-    EditFieldCentime.TextChange = [this] { EditFieldCentime_TextChange(EditFieldCentime); };
+    EditFieldMonnaies.TextChange = [this](ChangedBy) { EditFieldMonnaies_TextChange(EditFieldMonnaies); };
+    EditFieldMonnaie.TextChange = [this](ChangedBy) { EditFieldMonnaie_TextChange(EditFieldMonnaie); };
+    EditFieldCentimes.TextChange = [this](ChangedBy) { EditFieldCentimes_TextChange(EditFieldCentimes); };
+    EditFieldCentime.TextChange = [this](ChangedBy) { EditFieldCentime_TextChange(EditFieldCentime); };
     CheckBoxMajusc.Action = [this] { CheckBoxMajusc_Action(CheckBoxMajusc); };
     CheckBoxTrUnion.Action = [this] { CheckBoxTrUnion_Action(CheckBoxTrUnion); };
     PopupMenuLg.Change = [this] { PopupMenuLg_Change(PopupMenuLg); };

@@ -176,11 +176,11 @@ public:
 
     void EditFieldNbre_GotFocus(TextField& champ);
     void EditFieldNbre_LostFocus(TextField& champ);
-    void EditFieldNbre_TextChange(TextField& champ);
+    void EditFieldNbre_TextChange(TextField& champ, ChangedBy who);
     bool EditFieldNbre_KeyDown(TextField& champ, const std::string& key);
     void EditFieldBaseOrg_GotFocus(TextField& champ);
     void EditFieldBaseOrg_LostFocus(TextField& champ);
-    void EditFieldBaseOrg_TextChange(TextField& champ);
+    void EditFieldBaseOrg_TextChange(TextField& champ, ChangedBy who);
     bool EditFieldBaseOrg_KeyDown(TextField& champ, const std::string& key);
     void PopupMenuBaseOrg_Change(PopupMenu& menu);
     void PopupMenuBaseDest_Change(PopupMenu& menu);
@@ -219,6 +219,14 @@ public:
     bool AppleVMaJ_Action();
 
 private:
+    // An output that a change of base leaves alone, and the number that its text speaks of.
+    struct Output {
+        TextArea& area;
+        std::string number;
+        void Dim(bool dimmed);
+    };
+    void Write(Output& output, const std::string& text);
+
     void BindEvents();
     void BindCommandEvents();
     void BindUpdateCheck();
@@ -241,7 +249,10 @@ private:
     void ShowDestination(
         const std::string& decimal, const std::string& source, int baseOrg, std::string_view alphabet);
     bool IsErrorText(std::string_view text) const;
-    void RememberSource(TextField& field, bool hasFocus, bool isDecimal, std::string& lastText);
+    void ConvertAgain();
+    std::string NumberShown() const;
+    std::string FactorsText(bool grouped) const;
+    void TakeAsSource(bool isDecimal, ChangedBy who);
 
     void RunFactorsOnThread(std::uint64_t n);
     void ReportFactorMismatch(std::uint64_t product, std::uint64_t n);
@@ -263,8 +274,8 @@ private:
     Timer slowCheck_; // until a check from the menu has to show that it is under way
     int fetchesUnderWay_ = 0;
     RunEnd lastRunEnd_{};
-    std::string lastTextNbre_;    // what EditFieldNbre held at its last TextChange
-    std::string lastTextBaseOrg_; // what EditFieldBaseOrg held at its last TextChange
+    Output factors_{TxtAreaDecomp1er, {}};
+    Output words_{TxtAreaLettres, {}};
 
 public:
     // Last, so that it is joined before anything goes that its body uses.

@@ -27,8 +27,7 @@ QTextCursor Selection(QTextDocument* document, const std::string& text, int star
 } // namespace
 
 AreaView::AreaView(TextArea& model, QWidget* parent)
-    : ControlView(model, new PlainEdit(parent)), model_(model),
-      edit_(static_cast<QPlainTextEdit*>(Widget())) {
+    : ControlView(model, new PlainEdit(parent)), model_(model), edit_(static_cast<PlainEdit*>(Widget())) {
     edit_->setFocusPolicy(Qt::StrongFocus);
     edit_->setTabChangesFocus(true);
     edit_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
@@ -45,6 +44,7 @@ void AreaView::Read() {
     if (edit_->textInteractionFlags() != flags) {
         edit_->setTextInteractionFlags(flags);
     }
+    edit_->SetDimmed(model_.Dimmed);
     const QString text = WithLineFeeds(model_.Text);
     const bool isNew = text != shown_;
     if (model_.TabColumns > 0) {

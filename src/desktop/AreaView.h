@@ -7,9 +7,9 @@
 
 #include <vector>
 
-class QPlainTextEdit;
-
 namespace tessarolyne {
+
+class PlainEdit;
 
 // An area as a plain text edit: carriage returns are line breaks, Tab leaves it, and a read-only one can
 // still be walked through, selected and copied by keyboard.
@@ -29,7 +29,7 @@ private:
     void Selected();
 
     TextArea& model_;
-    QPlainTextEdit* const edit_;
+    PlainEdit* const edit_;
     QString shown_;
     int columnsWidth_ = 0; // what the tab stops fit
     std::vector<TextStyle> styles_;

@@ -25,4 +25,27 @@ void PlainEdit::mouseMoveEvent(QMouseEvent* event) {
     }
 }
 
+void PlainEdit::changeEvent(QEvent* event) {
+    QPlainTextEdit::changeEvent(event);
+    if (event->type() == QEvent::PaletteChange) {
+        ReadPalette();
+    }
+}
+
+void PlainEdit::SetDimmed(bool dimmed) {
+    if (dimmed != dimmed_) {
+        dimmed_ = dimmed;
+        ReadPalette();
+    }
+}
+
+// The colour of the text alone is the edit's own; all others, that of hints too, follow the desktop's.
+void PlainEdit::ReadPalette() {
+    QPalette own;
+    if (dimmed_) {
+        own.setColor(QPalette::Text, palette().color(QPalette::PlaceholderText));
+    }
+    setPalette(own);
+}
+
 } // namespace tessarolyne

@@ -10,9 +10,18 @@ class PlainEdit final : public QPlainTextEdit {
 public:
     using QPlainTextEdit::QPlainTextEdit;
 
+    // Shows the text in the colour of hints, also when the desktop's colours change.
+    void SetDimmed(bool dimmed);
+
 protected:
     QMimeData* createMimeDataFromSelection() const override;
     void mouseMoveEvent(QMouseEvent* event) override;
+    void changeEvent(QEvent* event) override;
+
+private:
+    void ReadPalette();
+
+    bool dimmed_ = false;
 };
 
 } // namespace tessarolyne

@@ -3,6 +3,7 @@
 #include "platform/Text.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tessarolyne {
 
@@ -29,6 +30,7 @@ void TextControl::UserReplaced(int start, int removed, const std::string& insert
     if (Text == text) {
         Changed();
     } else {
+        changing_ = ChangedBy::User;
         Text = text;
     }
 }
@@ -43,6 +45,8 @@ std::string TextControl::Accepted(int, int, const std::string& inserted) const {
 }
 
 void TextControl::PropertyChanged(const void* property) {
+    // Taken at once: what the handlers below write into this control is the program's.
+    const ChangedBy changedBy = std::exchange(changing_, ChangedBy::Program);
     if (property == &Text) {
         const int length = static_cast<int>(Len(Text()));
         SelStart.Assign(std::min(SelStart(), length));
@@ -50,7 +54,7 @@ void TextControl::PropertyChanged(const void* property) {
     }
     Control::PropertyChanged(property);
     if (property == &Text) {
-        TextChange();
+        TextChange(changedBy);
     }
 }
 

@@ -7,6 +7,9 @@
 
 namespace tessarolyne {
 
+// Whose doing a change of text is: what comes in by the User… methods is the user's, all else the program's.
+enum class ChangedBy { Program, User };
+
 enum class Alignment { Default = 0, Left = 1, Center = 2, Right = 3 };
 
 // What text fields and text areas have in common: a text, a selection in it, and the one way in which the
@@ -32,7 +35,7 @@ public:
     Property<int> TextSize{*this, 0}; // points; 0 is the system's own size
 
     // Any change of Text, the program's own included.
-    Event<void()> TextChange;
+    Event<void(ChangedBy)> TextChange;
     // Rewrites what the user inserts before the mask sees it; none leaves it as it is.
     std::function<std::string(const std::string& inserted)> CleanInserted;
 
@@ -42,6 +45,9 @@ protected:
     virtual std::string Accepted(int start, int removed, const std::string& inserted) const;
     // Whether the text is none of the user's, such as a message: an insertion takes the place of all of it.
     virtual bool GivesWay() const { return false; }
+
+private:
+    ChangedBy changing_ = ChangedBy::Program; // of the change of Text under way
 };
 
 } // namespace tessarolyne

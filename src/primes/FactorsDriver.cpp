@@ -13,6 +13,9 @@
 #include "primes/WinNbresPremiers.h"
 #include "ui/Localisation.h"
 
+#include <functional>
+#include <numeric>
+
 namespace tessarolyne {
 
 namespace {
@@ -28,7 +31,7 @@ void WinMain::DecompPremDeb(bool force) {
     const std::string decimal = WithoutBlanks(EditFieldNbre.Text());
     const double n = CDbl(decimal);
     if (decimal.empty() || !IsNumeric(decimal) || !(n > 0) || n != Round(n)) {
-        TxtAreaDecomp1er.Text = decimal.empty() ? "" : Localisation::Txt_ErrNbre();
+        Write(factors_, decimal.empty() ? "" : Localisation::Txt_ErrNbre());
         CalculEnCours = false;
         return;
     }
@@ -43,7 +46,7 @@ void WinMain::DecompPremDeb(bool force) {
 
 void WinMain::RunFactorsOnThread(std::uint64_t n) {
     TurnWheel(factorsTakeTime_, true);
-    TxtAreaDecomp1er.Text = Localisation::Txt_Attente();
+    Write(factors_, Localisation::Txt_Attente());
     HoldMenuForCalculation(true);
     ThrPn1 = n;
     Progress.Follow(ProgressWheel1, n);
@@ -68,6 +71,14 @@ std::uint64_t WinMain::NbresPremCalc(std::uint64_t limit, bool checkTime) {
     return last;
 }
 
+std::string WinMain::FactorsText(bool grouped) const {
+    std::string text;
+    for (const std::uint64_t factor : Nbre_Decompose) {
+        text += (text.empty() ? "" : " x ") + FormatWhole(factor, grouped);
+    }
+    return text;
+}
+
 void WinMain::DecompPremFin(std::uint64_t n) {
     std::string text;
     if (Nbre_Decompose.front() == 0 || fncts.ArretUrg) {
@@ -75,11 +86,9 @@ void WinMain::DecompPremFin(std::uint64_t n) {
         PushButtDecomposer.Enabled = true;
         TellWhyRunEnded();
     } else {
-        std::uint64_t product = 1;
-        for (const std::uint64_t factor : Nbre_Decompose) {
-            product *= factor;
-            text += (text.empty() ? "" : " x ") + FormatWhole(factor, CheckBoxFormatAuto.Value);
-        }
+        text = FactorsText(CheckBoxFormatAuto.Value);
+        const std::uint64_t product = std::accumulate(
+            Nbre_Decompose.begin(), Nbre_Decompose.end(), std::uint64_t{1}, std::multiplies());
         if (product != n) {
             ReportFactorMismatch(product, n);
         }
@@ -87,7 +96,7 @@ void WinMain::DecompPremFin(std::uint64_t n) {
             program.winNbresPremiers().FaireListe(false, false);
         }
     }
-    TxtAreaDecomp1er.Text = text;
+    Write(factors_, text);
     CalculEnCours = false;
 }
 

@@ -14,17 +14,17 @@ namespace tessarolyne {
 void WinMain::ConvNbreLettresD() {
     const std::string decimal = WithoutBlanks(EditFieldNbre.Text());
     if (decimal.empty()) {
-        TxtAreaLettres.Text = "";
+        Write(words_, "");
         return;
     }
     if (!IsNumeric(decimal)) {
-        TxtAreaLettres.Text = Localisation::Txt_ErrNbre();
+        Write(words_, Localisation::Txt_ErrNbre());
         return;
     }
     const double value = CDbl(decimal);
     if (!(value >= 0)) {
-        TxtAreaLettres.Text =
-            Localisation::Txt_ErrNbre() + std::string(endOfLine) + Localisation::Txt_EntrerUnNbrePositif();
+        Write(words_,
+            Localisation::Txt_ErrNbre() + std::string(endOfLine) + Localisation::Txt_EntrerUnNbrePositif());
         return;
     }
     const std::string code = PopupMenuLg.Text();
@@ -43,7 +43,7 @@ void WinMain::ConvNbreLettresD() {
     settings.capital = CheckBoxMajusc.Value;
     settings.tooLargeText = Localisation::Txt_EntrerNbreAuDessousDe();
     settings.report = [this](std::string_view place) { fncts.ReportFault(std::string(place)); };
-    TxtAreaLettres.Text = AmountInWords(value, settings);
+    Write(words_, AmountInWords(value, settings));
 }
 
 void WinMain::RecomputeWords() {

@@ -61,4 +61,8 @@ TEST_CASE("The list window's numbers follow the switch; a field shows the bare n
     window.CheckBoxFormatAuto.UserPressed();
     CHECK(list.EditFieldAffAu.DisplayText() == "2000");
     CHECK(list.EditFieldAffAu.Text() == "2000");
+    list.EditFieldFin.Text = "1000000000000"; // one more than the limit
+    list.PushButtonCalcPrems.UserPressed();
+    window.CheckBoxFormatAuto.UserPressed();
+    CHECK(list.EditFieldFin.Text() == "Nb Max = 999999999999");
 }

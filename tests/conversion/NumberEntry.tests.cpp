@@ -101,7 +101,7 @@ TEST_CASE("A burst of keys costs one recalculation, and the same text none") {
     TestWorld world;
     WinMain& window = world.Main();
     int conversions = 0;
-    window.EditFieldBaseDest.TextChange = [&] { ++conversions; };
+    window.EditFieldBaseDest.TextChange = [&](ChangedBy) { ++conversions; };
     window.EditFieldNbre.UserFocused();
     for (const char* key : {"1", "2", "3"}) {
         window.EditFieldNbre.UserTyped(key);
@@ -114,25 +114,64 @@ TEST_CASE("A burst of keys costs one recalculation, and the same text none") {
     CHECK(window.TimerTempo.Mode == 0);
 }
 
-TEST_CASE("A change of base or alphabet converts the source again and nothing else") {
+TEST_CASE(
+    "Looking at another base or alphabet leaves what was typed last the source, wherever the focus is") {
     TestWorld world;
     WinMain& window = world.Main();
+    const auto baseOrg = [&](int base) { window.PopupMenuBaseOrg.UserChose(base - 2), world.Settle(); };
     world.Type(window.EditFieldNbre, "255");
     window.PopupMenuBaseDest.UserChose(6);
     CHECK(window.EditFieldBaseDest.Text() == "377");
-    window.RadioButton09AZ[1].UserPressed();
-    CHECK_FALSE(window.RadioButton09AZ[0].Value());
-    CHECK(window.EditFieldBaseOrg.Text() == "PP");
-    CHECK(window.EditFieldNbre.Text() == "255");
-
-    world.Type(window.EditFieldBaseOrg, "BA"); // 16
-    CHECK(window.EditFieldNbre.Text() == "16");
-    const std::string words = window.TxtAreaLettres.Text;
-    window.PopupMenuBaseOrg.UserChose(0);
-    CHECK(window.EditFieldNbre.Text() == "2");
-    CHECK(window.TxtAreaLettres.Text() == words); // until the next recalculation
-    window.RadioButton09AZ[0].UserPressed();
+    window.EditFieldBaseOrg.UserFocused();
+    baseOrg(2);
+    CHECK(window.EditFieldBaseOrg.Text() == "1111 1111");
+    baseOrg(16);
+    CHECK(window.EditFieldBaseOrg.Text() == "FF");
+    for (const int letters : {1, 0}) {
+        window.RadioButton09AZ[static_cast<std::size_t>(letters)].UserPressed();
+        world.Settle();
+        CHECK(window.EditFieldBaseOrg.Text() == (letters == 1 ? "PP" : "FF"));
+        CHECK(window.EditFieldNbre.Text() == "255");
+    }
+    world.Type(window.EditFieldBaseOrg, "1FF");
+    window.EditFieldNbre.UserFocused();
+    baseOrg(10);
     CHECK(window.EditFieldNbre.Text() == errNbre);
+    baseOrg(16);
+    CHECK(window.EditFieldNbre.Text() == "511");
+    CHECK(window.EditFieldBaseOrg.Text() == "1 FF");
+}
+
+TEST_CASE("Factors and words of another number than the one that stands there are dimmed, and say so") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    const TextArea& factors = window.TxtAreaDecomp1er;
+    const TextArea& words = window.TxtAreaLettres;
+    const auto baseOrg = [&](int base) { window.PopupMenuBaseOrg.UserChose(base - 2); };
+    world.Type(window.EditFieldBaseOrg, "10");
+    const std::string textOfSixteen = words.Text;
+    baseOrg(12);
+    CHECK(window.EditFieldNbre.Text() == "12");
+    CHECK(factors.Text() == "2 x 2 x 2 x 2");
+    CHECK(words.Text() == textOfSixteen);
+    CHECK((factors.Dimmed && words.Dimmed));
+    CHECK(factors.HelpTag() == "Correspond au nombre précédent.");
+    window.CheckBoxMajusc.UserPressed(); // the words are written again, and only they
+    CHECK((factors.Dimmed && !words.Dimmed));
+    baseOrg(16); // the factors hold again
+    CHECK((!factors.Dimmed && words.Dimmed));
+    CHECK(factors.HelpTag().empty());
+    world.Type(window.EditFieldBaseOrg, "A");
+    CHECK_FALSE((factors.Dimmed || words.Dimmed));
+    baseOrg(10); // an error is written at once
+    CHECK(words.Text() == errNbre);
+    CHECK_FALSE((factors.Dimmed || words.Dimmed));
+    baseOrg(16);
+    CHECK((factors.Dimmed && words.Dimmed));
+    world.Type(window.EditFieldNbre, "12.5");
+    window.EditFieldMonnaie.UserFocused(); // 12.50 is the same number
+    baseOrg(10);
+    CHECK_FALSE((factors.Dimmed || words.Dimmed));
 }
 
 TEST_CASE("Pasted numbers are taken as people write them, within the mask") {
@@ -150,12 +189,15 @@ TEST_CASE("Pasted numbers are taken as people write them, within the mask") {
     CHECK(window.EditFieldBaseOrg.Text() == "F F");
 }
 
-TEST_CASE("A recalculation waits for the end of a calculation and of a dialog, and then comes once") {
+TEST_CASE(
+    "A recalculation waits for the end of a calculation and of a dialog, and then comes once, also for a "
+    "fraction whose field was left meanwhile") {
     TestWorld world;
     WinMain& window = world.Main();
     window.EditFieldNbre.UserFocused();
     window.CalculEnCours = true;
-    window.EditFieldNbre.UserTyped("255");
+    window.EditFieldNbre.UserTyped("12.5");
+    window.EditFieldBaseOrg.UserFocused();
     world.loop.Advance(100);
     CHECK(window.EditFieldBaseOrg.Text().empty());
     window.CalculEnCours = false;
@@ -164,6 +206,8 @@ TEST_CASE("A recalculation waits for the end of a calculation and of a dialog, a
     CHECK(window.EditFieldBaseOrg.Text().empty());
     world.program->fncts.DrapDiagBox = false;
     world.loop.Advance(25);
-    CHECK(window.EditFieldBaseOrg.Text() == "FF");
+    CHECK(window.EditFieldBaseOrg.Text() == errNbre);
+    CHECK(window.EditFieldNbre.Text() == "12.50");
+    CHECK(window.TxtAreaLettres.Text() == "douze euros cinquante centimes");
     CHECK(window.TimerTempo.Mode == 0);
 }

@@ -17,14 +17,41 @@ class Outputs(ProgramTestCase):
         self.wait_for_text("EditFieldBaseDest", "1111 1111")
         self.choose("PopupMenuBaseDest", 6)
         self.wait_for_text("EditFieldBaseDest", "377")
+        self.focus("EditFieldBaseOrg")  # what the program writes where the caret is counts as typed no more than elsewhere
         self.choose("PopupMenuBaseOrg", 0)
         self.wait_for_text("EditFieldBaseOrg", "1111 1111")
         self.press_button("RadioButton09AZ 1")
         self.wait_for_text("EditFieldBaseOrg", "BBBB BBBB")
+        self.focus("EditFieldNbre")
         self.press_button("CheckBoxFormatAuto")
         self.wait_for_text("EditFieldBaseOrg", "BBBBBBBB")
         self.press_button("CheckBoxFormatAuto")
         self.wait_for_text("EditFieldBaseOrg", "BBBB BBBB")
+
+    def test_bases_that_make_another_number_leave_the_factors_dimmed(self):
+        factors = self.control("TxtAreaDecomp1er")
+        left, top, _, _ = factors.bounds
+
+        def darkest():
+            crop = f"100x20+{left + 4}+{top + 4}"
+            return float(
+                self.screen.run("import", "-silent", "-window", "root", "-crop", crop, "-format", "%[fx:minima]", "info:-")
+            )
+
+        self.press_button("RadioButton09AZ 0")
+        self.choose("PopupMenuBaseOrg", 1)
+        self.clear("EditFieldBaseOrg")
+        self.screen.type("22")
+        self.wait_for_text("TxtAreaDecomp1er", "2 x 2 x 2")
+        self.program.wait_for(lambda: darkest() < 0.2, "black factors")
+        self.choose("PopupMenuBaseOrg", 2)
+        self.wait_for_text("EditFieldNbre", "10")
+        self.program.wait_for(lambda: darkest() > 0.3, "dimmed factors")
+        self.assertEqual((factors.text, factors.description), ("2 x 2 x 2", "Correspond au nombre précédent."))
+        self.focus("EditFieldBaseOrg")
+        self.screen.press("End", "BackSpace")
+        self.wait_for_text("TxtAreaDecomp1er", "2")
+        self.program.wait_for(lambda: darkest() < 0.2 and not factors.description, "black factors again")
 
     def test_factors_at_once_or_by_the_button(self):
         self.enter("1000002")
@@ -33,6 +60,9 @@ class Outputs(ProgramTestCase):
         self.wait_for_text("TxtAreaDecomp1er", HINT)
         self.press_button("PushButtDecomposer")
         self.wait_for_text("TxtAreaDecomp1er", "999 999 999 989")
+        self.press_button("CheckBoxFormatAuto")
+        self.wait_for_text("TxtAreaDecomp1er", "999999999989")
+        self.press_button("CheckBoxFormatAuto")
 
     def test_factors_dragged_into_a_field_count_as_typed_there(self):
         self.enter("97")
@@ -58,7 +88,12 @@ class Outputs(ProgramTestCase):
             lambda: f"words for a prime beyond {told}, not “{wheel.description}”",
         )
         self.focus("EditFieldNbre")
-        self.screen.press("Escape")
+        self.screen.type("12.5")
+        self.screen.press("Tab", "Escape")
         self.wait_until_gone("progress bar", "Liste des Nombres Premiers")
         self.assertEqual(wheel.description, "")
         self.press_button("BevelButtonListe")
+        self.wait_for_text("TxtAreaLettres", "douze euros cinquante centimes")
+        self.screen.press("shift+Tab")
+        self.wait_for_focus("EditFieldNbre")
+        self.assertEqual(self.control("EditFieldNbre").text, "12.50")

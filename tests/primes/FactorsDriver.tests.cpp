@@ -101,7 +101,10 @@ TEST_CASE("A hard number gives the hint and the button; Escape stops its run onc
     world.Type(window.EditFieldNbre, "999999999998");
     CHECK(window.TxtAreaDecomp1er.Text() == hint);
     CHECK(window.PushButtDecomposer.Enabled());
-    CHECK(window.Nbres_Premiers.UpperBound() > 3);
+    const auto reached = window.Nbres_Premiers.UpperBound();
+    CHECK(reached > 3);
+    window.CheckBoxFormatAuto.UserPressed(); // changes the display only
+    CHECK(window.Nbres_Premiers.UpperBound() == reached);
 
     window.PushButtDecomposer.UserPressed();
     CHECK(window.TxtAreaDecomp1er.Text() == "…");
