@@ -10,7 +10,7 @@ class PlainEdit final : public QPlainTextEdit {
 public:
     using QPlainTextEdit::QPlainTextEdit;
 
-    // Shows the text in the colour of hints, also when the desktop's colours change.
+    // Shows the text fainter, also when the desktop's colours change.
     void SetDimmed(bool dimmed);
 
 protected:
