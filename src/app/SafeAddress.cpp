@@ -36,10 +36,44 @@ bool HasOnlyAddressCharacters(std::string_view text) {
     return std::count(text.begin(), text.end(), '#') <= 1;
 }
 
-// A name of the domain system or a number with dots: labels of letters, digits, hyphens and underscores.
+// Four numbers up to 255 without leading zeros.
+bool IsDottedNumber(std::string_view host) {
+    constexpr int largest = 255;
+    int parts = 0;
+    for (std::size_t end = 0; end != std::string_view::npos; ++parts) {
+        end = host.find('.');
+        const auto part = host.substr(0, end);
+        int value = 0;
+        for (const char c : part.substr(0, 4)) {
+            value = IsDigit(c) ? value * 10 + (c - '0') : largest + 1;
+        }
+        if (part.empty() || value > largest || (part.size() > 1 && part.front() == '0')) {
+            return false;
+        }
+        host.remove_prefix(end == std::string_view::npos ? 0 : end + 1);
+    }
+    return parts == 4;
+}
+
+// Whether browsers take the host for a number (WHATWG URL): its last label is one, maybe in hexadecimal.
+bool EndsInNumber(std::string_view host) {
+    const auto label = host.substr(host.rfind('.') + 1);
+    const bool hexadecimal = label.starts_with("0x") || label.starts_with("0X");
+    const auto digits = label.substr(hexadecimal ? 2 : 0);
+    return std::all_of(digits.begin(), digits.end(), hexadecimal ? IsHexDigit : IsDigit);
+}
+
+// A name of the domain system: labels of letters, digits, hyphens and underscores. Or a number, but only as
+// everybody writes it: 2130706433, 0177.1 and 0x7f.1 lead to 127.0.0.1 too, and don't look like it.
 bool IsHostName(std::string_view host) {
+    if (IsDottedNumber(host)) {
+        return true;
+    }
     if (host.ends_with('.')) {
         host.remove_suffix(1);
+    }
+    if (EndsInNumber(host)) {
+        return false;
     }
     bool inLabel = false;
     for (const char c : host) {

@@ -9,7 +9,8 @@ using namespace tessarolyne;
 TEST_CASE("An address that says where it leads may be opened") {
     for (const char* address :
         {"http://a", "http://www.tessarolyne.example/", "http://host.example:8080/a?b=c#d",
-            "http://127.0.0.1:65535", "http://[2001:db8::1]/x", "http://[::1]:80", "http://host./a%20b",
+            "http://127.0.0.1:65535", "http://1.2.3.4.example", "http://0.255.10.9/", "http://0x7g",
+            "http://[2001:db8::1]/x", "http://[::1]:80", "http://host./a%20b",
             "http://x-y_z.example/~me/(1),;=+$!*'&", "http://host?@", "http://host/user@elsewhere:80"}) {
         CAPTURE(address);
         CHECK(IsSafeAddress(address));
@@ -26,7 +27,9 @@ TEST_CASE("An address that is malformed, or hides where it leads, may not be ope
              "http://host/a\tb", "http://host/\x7F", "http://h\xC3\xB4te/", "http://host/\xE2\x80\xAE",
              "http://host%2Fevil", "http://host/%", "http://host/%2", "http://host/%2G", "http://host/#a#b",
              "http://host/<script>", "http://host/\"", "http://[]", "http://[::1", "http://[x]/",
-             "http://[::1]x", "HTTP://host", " http://host", "javascript:alert(1)", "file:///etc/passwd"}) {
+             "http://[::1]x", "http://2130706433/", "http://127.1", "http://0177.0.0.1", "http://0x7f.0.0.1",
+             "http://127.0.0.0x1", "http://256.0.0.1", "http://127.0.0.1.", "http://a.0x", "http://1.2.3.4.5",
+             "HTTP://host", " http://host", "javascript:alert(1)", "file:///etc/passwd"}) {
         CAPTURE(address);
         CHECK_FALSE(IsSafeAddress(address));
         CHECK_FALSE(IsSafeOwnAddress(address));
