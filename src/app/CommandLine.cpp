@@ -25,6 +25,9 @@ std::optional<int> AnswerCommandLine(
         return std::nullopt;
     }
     const std::string_view first = arguments.front();
+    if (arguments.size() == 2 && first == "-session" && *arguments.back() != '\0') {
+        return std::nullopt; // what an X session starts again
+    }
     if (arguments.size() == 1 && (first == "--help" || first == "-h")) {
         out << "Usage: tessarolyne [--help | --version]\n"
             << description << ".\n"

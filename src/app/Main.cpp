@@ -17,7 +17,8 @@ using namespace tessarolyne;
 
 int main(int count, char** arguments) {
     const std::span<const char* const> all(arguments, static_cast<std::size_t>(count));
-    if (const auto status = AnswerCommandLine(all.subspan(all.empty() ? 0 : 1), std::cout, std::cerr)) {
+    const auto options = all.subspan(all.empty() ? 0 : 1);
+    if (const auto status = AnswerCommandLine(options, std::cout, std::cerr)) {
         return *status;
     }
 
@@ -26,7 +27,7 @@ int main(int count, char** arguments) {
     SystemMemory memory;
     Signals endSignals;
 
-    QtApplication desktop("Tessarolyne", applicationIdentifier);
+    QtApplication desktop("Tessarolyne", applicationIdentifier, options);
     const QtTranslations translations;
     System::UseTranslations(&translations);
     QtServices services(files);

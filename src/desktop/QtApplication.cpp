@@ -26,10 +26,11 @@ bool PrefersX() {
 
 } // namespace
 
-detail::QtArguments::QtArguments() : texts{"tessarolyne"} {
+detail::QtArguments::QtArguments(std::span<const char* const> more) : texts{"tessarolyne"} {
     if (PrefersX()) {
         texts.insert(texts.end(), {"-platform", "xcb"});
     }
+    texts.insert(texts.end(), more.begin(), more.end());
     for (std::string& text : texts) {
         pointers.push_back(text.data());
     }
@@ -37,8 +38,9 @@ detail::QtArguments::QtArguments() : texts{"tessarolyne"} {
     count = static_cast<int>(texts.size());
 }
 
-QtApplication::QtApplication(const std::string& name, const std::string& identifier)
-    : QApplication(count, pointers.data()) {
+QtApplication::QtApplication(
+    const std::string& name, const std::string& identifier, std::span<const char* const> options)
+    : QtArguments(options), QApplication(count, pointers.data()) {
     setApplicationName(ToQt(name));
     setDesktopFileName(ToQt(identifier));
     setQuitOnLastWindowClosed(false);

@@ -6,6 +6,7 @@
 
 #include <functional>
 #include <memory>
+#include <span>
 #include <string>
 #include <vector>
 
@@ -16,7 +17,7 @@ namespace tessarolyne {
 namespace detail {
 // The arguments that Qt is started with; made before QApplication, which keeps references to them.
 struct QtArguments {
-    QtArguments();
+    explicit QtArguments(std::span<const char* const> more);
     std::vector<std::string> texts;
     std::vector<char*> pointers;
     int count = 0;
@@ -27,8 +28,9 @@ struct QtArguments {
 // its own, and the desktop's requests handed on. Made first thing in main(), after nothing but the machine.
 class QtApplication final : private detail::QtArguments, public QApplication {
 public:
-    // `identifier` is the reverse domain name of the desktop entry.
-    QtApplication(const std::string& name, const std::string& identifier);
+    // `identifier` is the reverse domain name of the desktop entry. `options` are for Qt: the X session's.
+    QtApplication(
+        const std::string& name, const std::string& identifier, std::span<const char* const> options = {});
     ~QtApplication() override;
 
     // Calls back on the main thread whenever the descriptor can be read; for signals of the machine.

@@ -19,6 +19,9 @@ TEST_CASE("Help and version are printed, any other argument is refused by name, 
     };
     const Case cases[] = {
         {{}, std::nullopt, ""},
+        {{"-session", "10ab_12"}, std::nullopt, ""},
+        {{"-session"}, 2, ""},
+        {{"-session", "a", "b"}, 2, ""},
         {{"-h"}, 0, help},
         {{"--help"}, 0, help},
         {{"-v"}, 0, version},

@@ -14,6 +14,10 @@ DOWNLOAD = "http://download.example/"
 
 
 class SmallWindows(ProgramTestCase):
+    @classmethod
+    def command(cls):
+        return [PROGRAM, "-session", "10ab_12"]  # as an X session starts it again
+
     def setUp(self):
         if not self.program.running:
             self.start_program()
