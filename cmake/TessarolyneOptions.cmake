@@ -16,6 +16,11 @@ if(NOT TESSAROLYNE_SITE MATCHES "^http://[^/].*[^/]$")
 endif()
 set(TESSAROLYNE_SITE_OF_PICTURES "${TESSAROLYNE_SITE}/pictures"
     CACHE STRING "Where software centres find the files of docs/pictures")
+set(TESSAROLYNE_DONATION_PAGE "${TESSAROLYNE_SITE}/site/PayPage.html?Tessarolyne"
+    CACHE STRING "The page for donations, on whatever site, https too")
+if(NOT TESSAROLYNE_DONATION_PAGE MATCHES "^https?://[^/]")
+    message(FATAL_ERROR "TESSAROLYNE_DONATION_PAGE is \"${TESSAROLYNE_DONATION_PAGE}\": it needs a web address.")
+endif()
 set(TESSAROLYNE_SITE_2 "http://www2.tessarolyne.example" CACHE STRING "The second author's site")
 set(TESSAROLYNE_EMAIL "author@tessarolyne.example" CACHE STRING "The author's e-mail address")
 set(TESSAROLYNE_EMAIL_2 "author2@tessarolyne.example" CACHE STRING "The second author's e-mail address")

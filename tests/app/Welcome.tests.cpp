@@ -10,7 +10,7 @@ using namespace tessarolyne::tests;
 
 namespace {
 
-const std::string donationPage = std::string(authorSite) + "/site/PayPage.html?Tessarolyne";
+const std::string donationPage = DONATION_PAGE; // of the build's setting
 
 // The next start of a user who hasn't given yet.
 void StartWithPrompt(TestWorld& world) {
