@@ -56,7 +56,7 @@ void Fncts::PlayT(Sound& son, bool attendre) {
 }
 
 void Fncts::PressPapTxt(const std::string& texte) {
-    program_.services.desktop.SetClipboardText(texte);
+    program_.services.desktop.SetClipboardText(ReplaceLineEndings(texte, endOfLine));
 }
 
 void Fncts::ShowURL(const std::string& adresse) {

@@ -71,7 +71,10 @@ TEST_CASE("The copy buttons copy what is shown, groups and errors included") {
     CHECK(copied(window.PushButtonPressPapBOrg) == "12 34");
     CHECK(copied(window.PushButtonPressPapBDest) == "1 0010 0011 0100");
     CHECK(copied(window.PushButtonPressPapPrem) == "2 x 2 x 5 x 233");
+    world.Type(window.EditFieldNbre, "999999999989");
+    CHECK(copied(window.PushButtonPressPapPrem) ==
+          "Pour les grands nombres, cliquez Décomposer.\nCela peut être long.");
     world.Type(window.EditFieldNbre, "1.5");
     CHECK(copied(window.PushButtonPressPapBOrg) == "#Erreur Nbre !");
-    CHECK(world.sounds.played == std::vector<std::string>(4, "Bip.wav"));
+    CHECK(world.sounds.played == std::vector<std::string>(5, "Bip.wav"));
 }
