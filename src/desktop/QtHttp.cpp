@@ -4,7 +4,6 @@
 #include "platform/EventLoop.h"
 #include "platform/HttpAnswer.h"
 
-#include <QNetworkProxy>
 #include <QTcpSocket>
 #include <QUrl>
 
@@ -16,8 +15,7 @@ namespace {
 
 constexpr int httpPort = 80;
 
-// HTTP/1.0, so that the answer comes in one piece and the server closes. A host may have several names, so it
-// is told which one is meant.
+// HTTP/1.0, so that the server closes. A host may have several names, so it is told which one is meant.
 QByteArray Request(const QUrl& url) {
     const QUrl page = url.adjusted(QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveFragment);
     const QUrl site = url.adjusted(QUrl::RemoveUserInfo);
@@ -41,24 +39,36 @@ public:
         : QObject(parent), loop_(loop), largestAnswer_(limits.largestAnswer), url_(std::move(url)),
           reply_(std::move(reply)) {
         deadline_ = loop_.SetAlarm(limits.deadline, [this] { Finish(false); });
-        socket_.setProxy(QNetworkProxy::NoProxy);
-        socket_.setReadBufferSize(static_cast<qint64>(largestAnswer_) + 1); // a fast sender waits for us
-        connect(&socket_, &QTcpSocket::readyRead, this, [this] { Read(); });
-        connect(&socket_, &QTcpSocket::errorOccurred, this, [this](QAbstractSocket::SocketError error) {
-            Finish(error == QAbstractSocket::RemoteHostClosedError);
-        });
     }
     ~Exchange() override { loop_.CancelAlarm(deadline_); }
 
-    void Begin(const QUrl& url) {
-        connect(&socket_, &QTcpSocket::connected, this,
-            [this, request = Request(url)] { socket_.write(request); });
-        socket_.connectToHost(url.host(QUrl::FullyEncoded), static_cast<quint16>(url.port(httpPort)));
+    void Begin(const QUrl& url, const HostResolver& resolver) {
+        auto* const connection =
+            new HostConnection(this, loop_, static_cast<std::uint16_t>(url.port(httpPort)),
+                [this, request = Request(url)](HostConnection::Result result) {
+                    if (result.socket != nullptr) {
+                        Ask(*result.socket, request);
+                    } else {
+                        error_ = result.unknownHost ? QtHttp::notFound : QtHttp::lostConnection;
+                        Finish(false);
+                    }
+                });
+        connection->Begin(resolver, url.host(QUrl::FullyEncoded).toLatin1());
     }
 
 private:
+    void Ask(QTcpSocket& socket, const QByteArray& request) {
+        socket_ = &socket;
+        socket.setReadBufferSize(static_cast<qint64>(largestAnswer_) + 1); // a fast sender waits for us
+        connect(&socket, &QTcpSocket::readyRead, this, [this] { Read(); });
+        connect(&socket, &QTcpSocket::errorOccurred, this, [this](QAbstractSocket::SocketError error) {
+            Finish(error == QAbstractSocket::RemoteHostClosedError);
+        });
+        socket.write(request);
+    }
+
     void Read() {
-        const QByteArray bytes = socket_.readAll();
+        const QByteArray bytes = socket_->readAll();
         answer_.Add({bytes.data(), static_cast<std::size_t>(bytes.size())});
         if (answer_.Size() > largestAnswer_ || answer_.IsOver()) {
             Finish(false);
@@ -69,13 +79,12 @@ private:
         if (finished_) {
             return;
         }
+        finished_ = true;
         if (closed) {
-            const QByteArray rest = socket_.readAll();
+            const QByteArray rest = socket_->readAll();
             answer_.Add({rest.data(), static_cast<std::size_t>(rest.size())});
         }
-        finished_ = true;
         loop_.Post([reply = std::move(reply_), result = Result(closed)] { reply(result); });
-        socket_.abort();
         deleteLater();
     }
 
@@ -86,8 +95,7 @@ private:
                 return *page;
             }
         }
-        const bool unknown = socket_.error() == QAbstractSocket::HostNotFoundError;
-        return Failure(url_, unknown ? QtHttp::notFound : QtHttp::lostConnection);
+        return Failure(url_, error_);
     }
 
     EventLoop& loop_;
@@ -95,15 +103,16 @@ private:
     const std::string url_;
     std::function<void(const HttpReply&)> reply_;
     HttpAnswer answer_;
+    int error_ = QtHttp::lostConnection;
     EventLoop::AlarmId deadline_ = 0;
     bool finished_ = false;
-    QTcpSocket socket_; // last: it closes before what its signals use
+    QTcpSocket* socket_ = nullptr; // the connection's
 };
 
 } // namespace
 
-QtHttp::QtHttp(EventLoop& loop, HttpLimits limits)
-    : loop_(loop), limits_(limits), exchanges_(std::make_unique<QObject>()) {}
+QtHttp::QtHttp(EventLoop& loop, HttpLimits limits, HostResolver resolver)
+    : loop_(loop), limits_(limits), resolver_(std::move(resolver)), exchanges_(std::make_unique<QObject>()) {}
 QtHttp::~QtHttp() = default;
 
 void QtHttp::Get(const std::string& url, std::function<void(const HttpReply&)> reply) {
@@ -112,7 +121,7 @@ void QtHttp::Get(const std::string& url, std::function<void(const HttpReply&)> r
         loop_.Post([url, reply = std::move(reply)] { reply(Failure(url, notFound)); });
         return;
     }
-    (new Exchange(exchanges_.get(), loop_, limits_, url, std::move(reply)))->Begin(address);
+    (new Exchange(exchanges_.get(), loop_, limits_, url, std::move(reply)))->Begin(address, resolver_);
 }
 
 } // namespace tessarolyne

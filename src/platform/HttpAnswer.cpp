@@ -4,19 +4,19 @@
 
 #include <algorithm>
 #include <charconv>
+#include <limits>
 #include <system_error>
 
 namespace tessarolyne {
 
 namespace {
 
-constexpr std::string_view lineEnd = "\r\n";
-constexpr std::string_view emptyLine = "\r\n\r\n";
+constexpr std::size_t untilClose = std::numeric_limits<std::size_t>::max();
 
 // A whole number and nothing else.
 template <typename Number>
-bool ReadNumber(std::string_view text, Number& number) {
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
+bool ReadNumber(std::string_view text, Number& number, int base = 10) {
+    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number, base);
     return error == std::errc() && end == text.data() + text.size() && text[0] != '-';
 }
 
@@ -34,47 +34,101 @@ int StatusOf(std::string_view line) {
 } // namespace
 
 void HttpAnswer::Add(std::string_view bytes) {
-    const std::size_t from = bytes_.size() - std::min(bytes_.size(), emptyLine.size() - 1);
     bytes_ += bytes;
-    if (pageStart_ != 0 || broken_) {
-        return;
-    }
-    if (const auto end = bytes_.find(emptyLine, from); end != std::string::npos) {
-        pageStart_ = end + emptyLine.size();
-        ReadHeader();
+    while (!IsOver() && TakePart()) {
     }
 }
 
-void HttpAnswer::ReadHeader() {
-    constexpr std::string_view lengthName = "CONTENT-LENGTH:";
-    std::string_view header = std::string_view(bytes_).substr(0, pageStart_ - lineEnd.size());
-    status_ = StatusOf(header.substr(0, header.find(lineEnd)));
-    broken_ = status_ == 0;
-    while (!header.empty()) {
-        const std::string_view line = header.substr(0, header.find(lineEnd));
-        header.remove_prefix(line.size() + lineEnd.size());
-        if (Uppercase(line.substr(0, lengthName.size())) == lengthName) {
-            std::size_t length = 0;
-            broken_ = broken_ || !ReadNumber(Trim(line.substr(lengthName.size())), length) ||
-                      length_.value_or(length) != length;
-            length_ = length;
-        }
+// False if it needs more bytes.
+bool HttpAnswer::TakePart() {
+    if (part_ == Part::Content) {
+        return TakeContent();
     }
+    const auto line = TakeLine();
+    if (!line) {
+        return false;
+    }
+    if (part_ == Part::Status) {
+        page_ = {};
+        page_.status = StatusOf(*line);
+        part_ = page_.status == 0 ? Part::Broken : Part::Header;
+    } else if (part_ == Part::Header) {
+        part_ = ReadHeader(*line);
+    } else if (part_ == Part::ChunkSize) {
+        part_ = ReadChunkSize(*line);
+    } else if (part_ == Part::ChunkEnd) {
+        part_ = line->empty() ? Part::ChunkSize : Part::Broken;
+    } else {
+        part_ = line->empty() ? Part::Over : Part::Trailer;
+    }
+    return true;
 }
 
-bool HttpAnswer::IsOver() const {
-    return broken_ || (length_ && bytes_.size() - pageStart_ >= *length_);
+bool HttpAnswer::TakeContent() {
+    const std::size_t size = std::min(left_, bytes_.size() - taken_);
+    page_.content.append(bytes_, taken_, size);
+    taken_ += size;
+    left_ -= left_ == untilClose ? 0 : size;
+    if (left_ == 0) {
+        part_ = chunked_ ? Part::ChunkEnd : Part::Over;
+    }
+    return left_ == 0;
+}
+
+// The next line without its end; none while it isn't whole.
+std::optional<std::string_view> HttpAnswer::TakeLine() {
+    const auto end = bytes_.find('\n', std::max(taken_, scanned_));
+    if (end == std::string::npos) {
+        scanned_ = bytes_.size();
+        return std::nullopt;
+    }
+    std::string_view line = std::string_view(bytes_).substr(taken_, end - taken_);
+    taken_ = end + 1;
+    if (line.ends_with('\r')) {
+        line.remove_suffix(1);
+    }
+    return line;
+}
+
+// Broken by one after which nobody could tell where the page ends.
+HttpAnswer::Part HttpAnswer::ReadHeader(std::string_view line) {
+    const bool interim = page_.status >= 100 && page_.status < 200;
+    if (line.empty()) {
+        left_ = length_.value_or(untilClose);
+        return interim ? Part::Status : chunked_ ? Part::ChunkSize : Part::Content;
+    }
+    page_.headers.append(line).append("\n");
+    const auto colon = line.find(':');
+    if (interim || colon == std::string_view::npos) {
+        return Part::Header;
+    }
+    const std::string name = Uppercase(line.substr(0, colon));
+    const std::string value = Trim(line.substr(colon + 1));
+    bool clear = true;
+    if (name == "TRANSFER-ENCODING") {
+        clear = chunked_ = Uppercase(value) == "CHUNKED";
+    } else if (name == "CONTENT-LENGTH") {
+        std::size_t length = 0;
+        clear = ReadNumber(value, length) && length_.value_or(length) == length;
+        length_ = length;
+    }
+    return clear ? Part::Header : Part::Broken;
+}
+
+// What may follow the size says nothing to us.
+HttpAnswer::Part HttpAnswer::ReadChunkSize(std::string_view line) {
+    if (!ReadNumber(Trim(line.substr(0, line.find(';'))), left_, 16)) {
+        return Part::Broken;
+    }
+    return left_ == 0 ? Part::Trailer : Part::Content;
 }
 
 std::optional<HttpReply> HttpAnswer::Page(bool closed) const {
-    if (broken_ || pageStart_ == 0 || !(IsOver() || (closed && !length_))) {
-        return std::nullopt;
+    const bool endsWithConnection = part_ == Part::Content && !chunked_ && !length_;
+    if (part_ == Part::Over || (closed && endsWithConnection)) {
+        return page_;
     }
-    HttpReply reply;
-    reply.status = status_;
-    reply.headers = bytes_.substr(0, pageStart_);
-    reply.content = bytes_.substr(pageStart_, length_.value_or(std::string::npos));
-    return reply;
+    return std::nullopt;
 }
 
 } // namespace tessarolyne

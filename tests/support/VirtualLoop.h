@@ -82,6 +82,7 @@ public:
     }
 
     int ExitCode() const { return exitCode_; }
+    std::size_t Alarms() const { return alarms_.size(); }
     // Runs inside the next RunUntil, as the user's doing while a modal window is up.
     void WhileModal(std::function<void()> task) { modalTasks_.push_back(std::move(task)); }
 

@@ -1,0 +1,238 @@
+// Over real HTTP with a server of this process, which may answer whatever it likes. Time is the virtual
+// clock's, so that nothing waits for it.
+#include "desktop/QtHttp.h"
+#include "support/VirtualLoop.h"
+
+#include <QCoreApplication>
+#include <QElapsedTimer>
+#include <QTcpServer>
+#include <QTcpSocket>
+#include <QTimer>
+
+#include <doctest/doctest.h>
+
+#include <future>
+
+using namespace tessarolyne;
+using namespace tessarolyne::tests;
+
+namespace {
+
+enum class Server {
+    Answers,    // and closes
+    Refuses,    // the connection
+    Trickles,   // its answer, a byte at a time
+    NeverStops, // repeating its answer's last part
+};
+
+// One connection after the other, each answered alike.
+class Loopback {
+public:
+    explicit Loopback(std::string answer, Server behaviour = Server::Answers, std::string repeated = "")
+        : behaviour_(behaviour), answer_(std::move(answer)), repeated_(std::move(repeated)) {
+        REQUIRE(server_.listen(QHostAddress::LocalHost));
+        port = server_.serverPort();
+        if (behaviour == Server::Refuses) {
+            server_.close();
+        }
+        QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this] { Take(); });
+    }
+    std::string Url() const { return "http://127.0.0.1:" + std::to_string(port) + "/a?b"; }
+
+    quint16 port = 0;
+    std::vector<std::string> requests; // each up to the empty line
+    std::size_t sent = 0;
+
+private:
+    void Take() {
+        QTcpSocket* const socket = server_.nextPendingConnection();
+        requests.emplace_back();
+        QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
+            requests.back() += socket->readAll().toStdString();
+            if (requests.back().ends_with("\r\n\r\n")) {
+                Answer(*socket);
+            }
+        });
+    }
+
+    void Answer(QTcpSocket& socket) {
+        if (behaviour_ == Server::Trickles) {
+            auto* const drip = new QTimer(&socket);
+            QObject::connect(drip, &QTimer::timeout, &socket, [this, &socket] {
+                socket.write(&answer_.at(sent++ % answer_.size()), 1);
+                socket.flush();
+            });
+            return drip->start(1);
+        }
+        socket.write(answer_.data(), static_cast<qint64>(answer_.size()));
+        if (behaviour_ == Server::Answers) {
+            return socket.disconnectFromHost();
+        }
+        QObject::connect(&socket, &QTcpSocket::bytesWritten, &socket,
+            [&] { socket.write(repeated_.data(), static_cast<qint64>(repeated_.size())); });
+    }
+
+    const Server behaviour_;
+    const std::string answer_;
+    const std::string repeated_;
+    QTcpServer server_;
+};
+
+struct QtHere {
+    int count = 1;
+    char name[6] = "tests";
+    char* arguments[2] = {name, nullptr};
+    QCoreApplication application{count, arguments};
+};
+
+// A client on Qt's sockets and a clock that stands still.
+struct Client {
+    explicit Client(HostResolver resolver = SystemAddresses) : http(loop, {}, std::move(resolver)) {}
+
+    void Get(const std::string& url) {
+        http.Get(url, [this](const HttpReply& reply) { replies.push_back(reply); });
+    }
+    // Lets Qt work, and no virtual time pass, until `done`.
+    void Until(const std::function<bool()>& done) {
+        QElapsedTimer real;
+        real.start();
+        while (!done()) {
+            REQUIRE_MESSAGE(real.elapsed() < 20'000, "nothing came");
+            QCoreApplication::processEvents(QEventLoop::AllEvents, 10);
+            loop.Advance(0);
+        }
+    }
+    const HttpReply& Reply() {
+        Until([&] { return !replies.empty(); });
+        return replies.front();
+    }
+
+    VirtualLoop loop;
+    std::vector<HttpReply> replies;
+    QtHttp http;
+};
+
+std::string Page(const std::string& content, const std::string& moreHeaders = "") {
+    return "HTTP/1.1 200 OK\r\n" + moreHeaders + "Content-Length: " + std::to_string(content.size()) +
+           "\r\n\r\n" + content;
+}
+
+} // namespace
+
+TEST_CASE("Whatever a server does, it is asked once, and the answer is its whole page or none, in time") {
+    const QtHere qt;
+    const std::string ok = "HTTP/1.1 200 OK\r\n";
+    const std::string chunks = ok + "transfer-encoding: Chunked\r\n\r\n";
+    const std::string rest(std::size_t{256} * 1024 - Page("page").size() - 5, 'x'); // the length grows
+    const std::string megabyte(std::size_t{1} << 20, 'x');
+    const std::string none;
+    using enum Server;
+    const struct {
+        std::string what, answer, content; // no content: error 102
+        Server server = Answers;
+        std::string repeated = {};
+        int status = 200;
+    } rows[] = {
+        {"its length", Page("page") + "more", "page"},
+        {"no length", "HTTP/1.0 200 OK\r\nX: y\r\n\r\npage", "page"},
+        {"an error's page", "HTTP/1.1 404 No\r\n\r\n<html>", "<html>", Answers, "", 404},
+        {"redirected", "HTTP/1.1 302 Found\r\nLocation: /other\r\n\r\n-", "-", Answers, "", 302},
+        {"a password", "HTTP/1.1 401 No\r\nWWW-Authenticate: Basic realm=\"x\"\r\n\r\n-", "-", Answers, "",
+            401},
+        {"interim answers", "HTTP/1.1 100 Go\r\n\r\nHTTP/1.1 103 H\r\nContent-Length: 9\r\n\r\n" + Page("p"),
+            "p"},
+        {"chunks", chunks + "4\r\npage\r\n00A;x=y\r\n0123456789\r\n0\r\nX: y\r\n\r\nmore", "page0123456789"},
+        {"lines with LF alone", "HTTP/1.1 200 OK\nContent-Length: 4\n\npage", "page"},
+        {"chunks with LF alone", "HTTP/1.1 200\nTransfer-Encoding: chunked\n\n1\np\n0\n\n", "p"},
+        {"binary", Page(std::string("\0\r\n\r\n\xFF", 6)), std::string("\0\r\n\r\n\xFF", 6)},
+        {"the largest page", Page("page" + rest), "page" + rest},
+        {"one byte more", Page("page" + rest + "x"), none},
+        {"cut off", ok + "Content-Length: 5\r\n\r\npage", none},
+        {"cut off in the header", ok + "Content-", none},
+        {"cut off between chunks", chunks + "4\r\npage\r\n", none},
+        {"chunks that aren't", chunks + "page\r\n0\r\n\r\n", none},
+        {"a chunk too long", chunks + "3\r\npage\r\n0\r\n\r\n", none},
+        {"a chunk beyond all numbers", chunks + "FFFFFFFFFFFFFFFFF\r\npage", none},
+        {"another coding", ok + "Transfer-Encoding: gzip, chunked\r\n\r\n0\r\n\r\n", none},
+        {"two lengths", Page("page", "Content-Length: 3\r\n"), none},
+        {"closed at once", "", none},
+        {"another protocol", "220 mail.example ESMTP\r\n\r\n", none},
+        {"refused", "", none, Refuses},
+        {"slow", megabyte, none, Trickles},
+        {"endless", ok + "\r\n", none, NeverStops, megabyte},
+        {"an endless header", ok, none, NeverStops, "X: y\r\n"},
+    };
+    for (const auto& row : rows) {
+        CAPTURE(row.what);
+        Loopback server(row.answer, row.server, row.repeated);
+        Client client;
+        client.Get(server.Url());
+        if (row.server == Trickles) {
+            client.Until([&] { return server.sent >= 20; });
+            client.loop.Advance(9999);
+            CHECK(client.replies.empty());
+            client.loop.Advance(1);
+        }
+        const HttpReply& reply = client.Reply();
+        CHECK(reply.errorCode == (row.content.empty() ? QtHttp::lostConnection : 0));
+        CHECK(reply.status == (row.content.empty() ? 0 : row.status));
+        CHECK(reply.content == row.content);
+        CHECK(reply.url == server.Url());
+        if (row.server != Refuses) {
+            CHECK(server.requests == std::vector{"GET /a?b HTTP/1.0\r\nHost: 127.0.0.1:" +
+                                                 std::to_string(server.port) + "\r\n\r\n"});
+        }
+        client.loop.Advance(60'000);
+        CHECK(client.replies.size() == 1);
+    }
+}
+
+TEST_CASE("The next address of a host has its turn at a refusal or after 250 ms, and an unknown host none") {
+    const QtHere qt;
+    Loopback server(Page("page"));
+    const QHostAddress live(QHostAddress::LocalHost);
+    const QHostAddress dead(QStringLiteral("127.0.0.2")); // whose queue is full: it drops what comes
+    QTcpServer full;
+    Client client([&](const QByteArray& host) {
+        return host == "none.example"      ? std::vector<QHostAddress>()
+               : host == "refused.example" ? std::vector{QHostAddress(QStringLiteral("127.0.0.3")), live}
+                                           : std::vector{dead, dead, live};
+    });
+    full.setListenBacklogSize(0);
+    REQUIRE(full.listen(dead, server.port));
+    full.pauseAccepting();
+    QTcpSocket filler;
+    filler.connectToHost(dead, server.port);
+    client.Until([&] { return filler.state() == QAbstractSocket::ConnectedState; });
+
+    const auto url = [&](const char* host) { return host + (":" + std::to_string(server.port)) + "/"; };
+    client.Get(url("http://dead.example"));
+    client.Until([&] { return client.loop.Alarms() == 2; }); // the deadline and the next address
+    client.loop.Advance(499);
+    QCoreApplication::processEvents();
+    CHECK(server.requests.empty());
+    client.loop.Advance(1);
+    CHECK(client.Reply().content == "page");
+    client.Get(url("http://refused.example"));
+    client.Until([&] { return client.replies.size() == 2; });
+    CHECK(client.replies.back().content == "page");
+    client.Get(url("http://none.example"));
+    client.Until([&] { return client.replies.size() == 3; });
+    CHECK(client.replies.back().errorCode == QtHttp::notFound);
+}
+
+TEST_CASE("Nothing waits at the end for a name server that doesn't answer") {
+    const QtHere qt;
+    std::promise<void> end;
+    const auto ended = end.get_future().share();
+    {
+        Client client([ended](const QByteArray&) {
+            ended.wait();
+            return std::vector<QHostAddress>();
+        });
+        client.Get("http://host.example/");
+        client.loop.Advance(9999);
+        CHECK(client.replies.empty());
+    }
+    end.set_value();
+}
