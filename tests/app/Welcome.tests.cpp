@@ -1,4 +1,5 @@
 #include "app/Version.h"
+#include "platform/MenuBar.h"
 #include "support/TestWorld.h"
 #include "ui/Localisation.h"
 #include "ui/WinInfos.h"
@@ -12,12 +13,22 @@ namespace {
 
 const std::string donationPage = DONATION_PAGE; // of the build's setting
 
-// The next start of a user who hasn't given yet.
-void StartWithPrompt(TestWorld& world) {
-    world.files.AddFile("/home/user/.config/Tessarolyne Prefs.txt",
-        "Date Launch :@: 2026-11-21 12:00:00\nAuto Check Update :@: True\n");
-    world.program->Start();
-}
+// A start of a user who hasn't given yet, with what happens while the prompt is up.
+struct Prompted : TestWorld {
+    explicit Prompted(const std::function<void(Prompted&, WinInfos&)>& meanwhile)
+        : TestWorld(Launch::NotYet) {
+        files.AddFile(preferences, "Date Launch :@: 2026-11-21 12:00:00\nAuto Check Update :@: True\n");
+        loop.WhileModal([this, meanwhile] { meanwhile(*this, program->winInfos()); });
+        program->Start();
+    }
+    // The settings that the next start finds.
+    std::string Saved() {
+        program->app.RequestQuit();
+        loop.Advance(100);
+        return files.entries[preferences].content;
+    }
+    const std::string preferences = "/home/user/.config/Tessarolyne Prefs.txt";
+};
 
 } // namespace
 
@@ -32,64 +43,52 @@ TEST_CASE("The first launch gives the hint, then the about window, and neither p
     });
     world.program->Start();
     CHECK(world.dialogs.asked.at(0).message == Localisation::Txt_SiVsVoulezConservNbPrem());
-    CHECK(world.stage.Count<WinInfos>() == 1);
     CHECK(world.program->app.initProg);
     CHECK(world.program->fncts.DrapMenu);
     CHECK(world.http.requests.empty());
 }
 
 TEST_CASE("Until the user has given, each start asks for a donation with a title that stands out") {
-    TestWorld world(TestWorld::Launch::NotYet);
-    world.loop.WhileModal([&] {
-        WinInfos& about = world.program->winInfos();
+    Prompted world([](Prompted& self, WinInfos& about) {
         const std::string title = "Faire un don…";
         CHECK(about.TexteInfo.Text() == title + "\n\n" + Localisation::Infos_Text_Don());
         REQUIRE(about.TexteInfo.Styles().size() == 1);
         const TextStyle& style = about.TexteInfo.Styles()[0];
-        CHECK(style.Start == 0);
-        CHECK(style.Length == 13);
+        CHECK(std::pair(style.Start, style.Length) == std::pair(0, 13));
         CHECK(style.Bold);
         CHECK(style.TextSize == about.TexteInfo.TextSize() + 2);
-        CHECK(about.BevButtDejDon.Visible());
-        CHECK_FALSE(world.program->app.initProg);
+        CHECK_FALSE(self.program->app.initProg);
         about.BoutonOk.UserPressed();
     });
-    StartWithPrompt(world);
-    CHECK_FALSE(world.program->app.DejaDonne);
     CHECK(world.program->fncts.DrapMenu);
     CHECK(world.http.requests.size() == 1);
-    world.program->app.RequestQuit();
-    world.loop.Advance(100);
-    const std::string& saved = world.files.entries["/home/user/.config/Tessarolyne Prefs.txt"].content;
+    const std::string saved = world.Saved();
     CHECK(saved.starts_with("Date Launch :@: 2026-11-22 12:00:00\n")); // this launch, not the one before
     CHECK(saved.find("Don 03 :@: False") != std::string::npos);
 }
 
 TEST_CASE("Who has given, or says so, isn't asked again, whatever the browser does") {
-    TestWorld world(TestWorld::Launch::NotYet);
-    SUBCASE("says so") {
-        world.loop.WhileModal([&] { world.program->winInfos().BevButtDejDon.UserPressed(); });
-        StartWithPrompt(world);
-        CHECK(world.desktop.opened.empty());
+    enum { Says, Gives, GivesByMenu };
+    for (const int how : {Says, Gives, GivesByMenu}) {
+        CAPTURE(how);
+        Prompted world([&](Prompted& self, WinInfos& about) {
+            self.desktop.takesAddresses = false;
+            if (how != Says) {
+                self.dialogs.ExpectTell();
+            }
+            (how == Gives ? about.BevButtDon : about.BevButtDejDon).UserPressed();
+            self.program->app.DejaDonne = how != GivesByMenu;
+        });
+        if (how == GivesByMenu) {
+            world.program->app.GetMenuBar()->Find("AppleDon")->UserChose(world.program->app);
+        }
+        CHECK(world.dialogs.told == std::vector<std::string>(how == Says ? 0 : 1, donationPage));
+        CHECK(world.Saved().find("Don 03 :@: True") != std::string::npos);
     }
-    SUBCASE("gives, with no browser") {
-        world.desktop.takesAddresses = false;
-        world.dialogs.ExpectTell();
-        world.loop.WhileModal([&] { world.program->winInfos().BevButtDon.UserPressed(); });
-        StartWithPrompt(world);
-        CHECK(world.dialogs.told.at(0) == donationPage);
-    }
-    CHECK(world.program->app.DejaDonne);
-    world.program->app.RequestQuit();
-    world.loop.Advance(100);
-    CHECK(world.files.entries["/home/user/.config/Tessarolyne Prefs.txt"].content.find("Don 03 :@: True") !=
-          std::string::npos);
 }
 
 TEST_CASE("A quit during the donation prompt goes through and sends no request") {
-    TestWorld world(TestWorld::Launch::NotYet);
-    world.loop.WhileModal([&] { world.program->app.RequestQuit(); });
-    StartWithPrompt(world);
+    const Prompted world([](Prompted& self, WinInfos&) { self.program->app.RequestQuit(); });
     CHECK(world.loop.ExitCode() == 0);
     CHECK(world.http.requests.empty());
 }

@@ -24,11 +24,6 @@ double Luminance(const QColor& colour) {
            0.0722 * linear(colour.blueF());
 }
 
-double Contrast(const QColor& one, const QColor& other) {
-    const auto [darker, lighter] = std::minmax({Luminance(one), Luminance(other)});
-    return (lighter + 0.05) / (darker + 0.05);
-}
-
 // The highest contrast with the window along the middle of what is drawn, from outside to the centre.
 template <typename Option>
 double OutlineContrast(QStyle::PrimitiveElement element, const QPalette& palette) {
@@ -40,15 +35,14 @@ double OutlineContrast(QStyle::PrimitiveElement element, const QPalette& palette
     const QColor window = palette.color(QPalette::Window);
     QImage image(size, size, QImage::Format_RGB32);
     image.fill(window);
-    {
-        QPainter painter(&image);
-        OutlinedStyle().drawPrimitive(element, &option, &painter, nullptr);
-    }
-    double highest = 1;
+    QPainter painter(&image);
+    OutlinedStyle().drawPrimitive(element, &option, &painter, nullptr);
+    painter.end();
+    double lightest = 0;
     for (int x = 0; x < size / 2; ++x) {
-        highest = std::max(highest, Contrast(image.pixelColor(x, size / 2), window));
+        lightest = std::max(lightest, Luminance(image.pixelColor(x, size / 2)));
     }
-    return highest;
+    return (lightest + 0.05) / (Luminance(window) + 0.05);
 }
 
 } // namespace

@@ -22,7 +22,6 @@ TEST_CASE("A question freezes the commands while it is up and gives everything b
         CHECK_FALSE(fncts.DrapDiagBox);
         CHECK(app.MouseCursor == Cursor::None);
         CHECK(world.dialogs.asked.back().message == " ");
-        CHECK(world.dialogs.asked.back().sheetOf == nullptr);
     }
 }
 
@@ -38,62 +37,49 @@ TEST_CASE("A calculation that began while a question was up keeps the commands f
     CHECK(world.program->fncts.DrapMenu);
 }
 
-TEST_CASE("Beeps of a series stand ten ticks apart") {
+TEST_CASE("Beeps stand ten ticks apart, and a sound that is playing sounds once more beside itself") {
     TestWorld world;
     Fncts& fncts = world.program->fncts;
-    const auto start = world.loop.Ticks();
+    const auto ticks = world.loop.Ticks();
     fncts.BeepNbT(3);
-    CHECK(world.sounds.beeps == 3);
-    CHECK(world.loop.Ticks() - start == 20);
     fncts.BeepNbT(1);
-    CHECK(world.loop.Ticks() - start == 20);
     fncts.BeepNbT(-1);
     CHECK(world.sounds.beeps == 4);
-}
-
-TEST_CASE("A sound that is playing sounds once more beside itself, and a wait ends with the one waited for") {
-    TestWorld world;
-    Fncts& fncts = world.program->fncts;
+    CHECK(world.loop.Ticks() - ticks == 20);
     fncts.PlayT(fncts.Zoum, false);
-    CHECK(fncts.Zoum.IsPlaying());
     const auto start = world.loop.Milliseconds();
     fncts.PlayT(fncts.Zoum, true);
     CHECK(world.sounds.played.size() == 2);
-    CHECK(world.loop.Milliseconds() - start == 100);
+    CHECK(world.loop.Milliseconds() - start == 100); // the one waited for
 }
 
 TEST_CASE("A chooser begins where its item stands, and suggests what fits it") {
     TestWorld world;
     Fncts& fncts = world.program->fncts;
     world.files.AddFile("/home/user/primes.txt", "");
-    const auto file = FolderItem::FromNativePath(world.files, "/home/user/primes.txt");
-    const auto folder = FolderItem::FromNativePath(world.files, "/home/user/Documents");
-    const auto save = [&](const std::optional<FolderItem>& start) {
+    const auto at = [&](const char* path) { return FolderItem::FromNativePath(world.files, path); };
+    const struct {
+        std::optional<FolderItem> start;
+        const char *folder, *name;
+    } rows[] = {{at("/home/user/primes.txt"), "/home/user", "primes.txt"},
+        {at("/home/user/Documents"), "/home/user/Documents", "new.txt"},
+        {std::nullopt, "/home/user/Documents", "new.txt"}, {at("/"), "/", "new.txt"}};
+    for (const auto& row : rows) {
         world.dialogs.ExpectFile(std::nullopt);
-        CHECK_FALSE(fncts.MyDialogSave(start, "prompt", "text", "new.txt", nullptr).has_value());
-        return world.dialogs.fileDialogs.back();
-    };
-    CHECK(save(file).suggestedName == "primes.txt");
-    CHECK(save(file).initialFolder->NativePath() == "/home/user");
-    CHECK(save(folder).suggestedName == "new.txt");
-    CHECK(save(folder).initialFolder == folder);
-    CHECK(save(std::nullopt).initialFolder == folder);
-    CHECK(save(std::nullopt).filterExtension == ".txt");
-    const FileDialog onVolume = save(FolderItem::FromNativePath(world.files, "/"));
-    CHECK(onVolume.initialFolder->NativePath() == "/"); // a folder, though without a parent
-
+        CHECK_FALSE(fncts.MyDialogSave(row.start, "prompt", "text", "new.txt", nullptr).has_value());
+        CHECK(world.dialogs.fileDialogs.back().initialFolder->NativePath() == row.folder);
+        CHECK(world.dialogs.fileDialogs.back().suggestedName == row.name);
+    }
+    CHECK(world.dialogs.fileDialogs.back().filterExtension == ".txt");
     world.files.AddLink("/home/user/alias.txt", "/home/user/primes.txt");
-    const auto alias = FolderItem::FromNativePath(world.files, "/home/user/alias.txt");
-    world.dialogs.ExpectFile(alias);
-    CHECK(fncts.MyDialogLoad(std::nullopt, "prompt", "text", nullptr) == alias);
+    world.dialogs.ExpectFile(at("/home/user/alias.txt"));
+    CHECK(fncts.MyDialogLoad({}, "prompt", "text", nullptr) == at("/home/user/alias.txt"));
 }
 
 TEST_CASE("The overlay covers every other visible window for the time of a sheet, and answers with a beep") {
     TestWorld world;
     WinMain& window = world.Main();
     WinNbresPremiers& list = world.program->winNbresPremiers();
-    Fncts& fncts = world.program->fncts;
-
     world.dialogs.Expect(DialogButton::Action, [&] {
         Label& overlay = list.LabBlockUI[1];
         CHECK(overlay.Visible());
@@ -105,7 +91,7 @@ TEST_CASE("The overlay covers every other visible window for the time of a sheet
         CHECK(world.sounds.beeps == beeps + 1);
         CHECK_FALSE(window.LabBlockUI[1].Visible());
     });
-    fncts.MyDialogBox("m", "", "Ok", "", "", 0, &window);
+    world.program->fncts.MyDialogBox("m", "", "Ok", "", "", 0, &window);
     CHECK(world.dialogs.asked.back().sheetOf == &window);
     CHECK_FALSE(list.LabBlockUI[1].Visible());
 }
