@@ -12,6 +12,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <fcntl.h>
+#include <filesystem>
 #include <fstream>
 #include <sys/stat.h>
 
@@ -64,14 +65,38 @@ private:
     Descriptor file_;
 };
 
-void CopyFile(FileSystem& files, const std::string& path, const std::string& copy) {
-    const auto source = files.OpenForReading(path);
-    const auto target = files.CreateSafely(copy, LinkPolicy::ReplaceLink);
-    std::array<char, 65536> chunk;
-    for (auto count = source->Read(chunk); count > 0; count = source->Read(chunk)) {
-        target->Write({chunk.data(), count});
+constexpr off_t largestCopy = off_t{16} * 1024 * 1024;
+
+// False, with what stood there before, if it can't be done.
+bool CopyFile(FileSystem& files, const std::string& path, const std::string& copy) {
+    try {
+        const auto source = files.OpenForReading(path);
+        SafeFile target(copy, LinkPolicy::ReplaceLink, path);
+        std::array<char, 65536> chunk;
+        for (auto count = source->Read(chunk); count > 0; count = source->Read(chunk)) {
+            target.Write({chunk.data(), count});
+        }
+        target.Commit();
+        return true;
+    } catch (const IOException&) {
+        return false;
     }
-    target->Commit();
+}
+
+// Makes the file's second name, in place of another file that may stand there.
+void Link(const std::string& path, const struct stat& file, const std::string& name) {
+    struct stat old {};
+    if (::lstat(name.c_str(), &old) == 0 && old.st_dev == file.st_dev && old.st_ino == file.st_ino) {
+        return;
+    }
+    ::unlink(name.c_str());
+    if (::link(path.c_str(), name.c_str()) != 0) {
+        ThrowErrno("make a second name for " + path);
+    }
+}
+
+bool MayDo(const std::string& path, int what) {
+    return ::faccessat(AT_FDCWD, path.c_str(), what, AT_EACCESS) == 0;
 }
 
 } // namespace
@@ -83,7 +108,7 @@ PosixFileSystem::PosixFileSystem() {
 FileKind PosixFileSystem::Kind(const std::string& path) const {
     struct stat status {};
     if (::lstat(path.c_str(), &status) != 0) {
-        return FileKind::None;
+        return errno == ENOENT || errno == ENOTDIR ? FileKind::None : FileKind::Unknown;
     }
     switch (status.st_mode & S_IFMT) {
     case S_IFREG:
@@ -99,7 +124,16 @@ FileKind PosixFileSystem::Kind(const std::string& path) const {
 
 std::optional<std::string> PosixFileSystem::Resolve(const std::string& path) const {
     const std::unique_ptr<char, decltype(&std::free)> resolved(::realpath(path.c_str(), nullptr), &std::free);
-    return resolved == nullptr ? std::nullopt : std::optional<std::string>(resolved.get());
+    if (resolved != nullptr) {
+        return resolved.get();
+    }
+    // A link to what can't be looked at isn't one to nothing: whoever opens its target gets the error.
+    try {
+        const std::string target = std::filesystem::path(FollowLinks(path)).lexically_normal();
+        return Kind(target) == FileKind::Unknown ? std::optional(target) : std::nullopt;
+    } catch (const IOException&) {
+        return std::nullopt;
+    }
 }
 
 std::vector<Volume> PosixFileSystem::Volumes() const {
@@ -145,26 +179,29 @@ std::unique_ptr<OutputFile> PosixFileSystem::CreateSafely(const std::string& pat
 bool PosixFileSystem::CanReplace(const std::string& path, LinkPolicy links) const {
     try {
         const auto target = FindSaveTarget(path, links);
-        // The folder is written to for the temporary file and the rename, and read for its sync.
-        return ::faccessat(AT_FDCWD, target.folder.c_str(), R_OK | W_OK | X_OK, AT_EACCESS) == 0;
+        return MayDo(target.folder, W_OK | X_OK) || (target.old && MayDo(target.Path(), R_OK | W_OK));
     } catch (const IOException&) {
         return false;
     }
 }
 
-// A second name costs no space on a full disk and no time for a huge file; where the file system has no
-// second names, the bytes are copied.
+// Bytes of its own, since a save may write the file in place. A second name for what can't be copied: it
+// needs no space on a full disk, no permission to read, and no time for a huge file.
 void PosixFileSystem::KeepAs(const std::string& path, const std::string& copy) {
     const auto original = Resolve(path);
-    if (!original || Kind(*original) != FileKind::Regular) {
+    struct stat status {};
+    if (!original || ::stat(original->c_str(), &status) != 0 || !S_ISREG(status.st_mode)) {
         throw IOException("not a regular file: " + path);
     }
-    if (Kind(copy) == FileKind::Folder) {
+    const auto kindOfCopy = Kind(copy);
+    if (kindOfCopy == FileKind::Folder) {
         throw IOException("a folder stands in the way: " + copy);
     }
-    ::unlink(copy.c_str());
-    if (::link(original->c_str(), copy.c_str()) != 0) {
-        CopyFile(*this, *original, copy);
+    if (kindOfCopy == FileKind::Regular && Resolve(copy) == original) {
+        throw IOException("the file itself stands under the name of its copy: " + copy);
+    }
+    if (status.st_size > largestCopy || !CopyFile(*this, *original, copy)) {
+        Link(*original, status, copy);
     }
 }
 

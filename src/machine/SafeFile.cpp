@@ -1,8 +1,10 @@
 #include "machine/SafeFile.h"
 
+#include "machine/FileAccess.h"
+#include "machine/FileBytes.h"
+
 #include <cstddef>
 #include <fcntl.h>
-#include <sys/stat.h>
 
 namespace tessarolyne {
 
@@ -10,119 +12,107 @@ namespace {
 
 constexpr std::size_t bufferSize = std::size_t{256} * 1024;
 
-// Some file systems have no sync for a folder and say so by these two.
-bool SyncFolder(int folder) {
-    return Uninterrupted([&] { return ::fsync(folder); }) == 0 || errno == EINVAL || errno == EOPNOTSUPP;
-}
-
-constexpr auto sameUser = static_cast<uid_t>(-1);
-
-// False where the user may not give his file to them.
-bool Give(int file, uid_t user, gid_t group) {
-    if (::fchown(file, user, group) == 0) {
-        return true;
-    }
-    if (errno != EPERM) {
-        ThrowErrno("give the temporary file to its owner");
-    }
-    return false;
-}
-
 } // namespace
 
-SafeFile::SafeFile(const std::string& path, LinkPolicy links)
+SafeFile::SafeFile(const std::string& path, LinkPolicy links, const std::string& like)
     : target_(FindSaveTarget(path, links)),
+      // A place to name files in: it need not be readable for that.
       folder_(
-          Uninterrupted([&] { return ::open(target_.folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC); })) {
+          Uninterrupted([&] { return ::open(target_.folder.c_str(), O_PATH | O_DIRECTORY | O_CLOEXEC); })) {
     if (!folder_.IsOpen()) {
         ThrowErrno("open the folder " + target_.folder);
     }
     buffer_.reserve(bufferSize);
-    // A file that replaces another is closed to others until it has that file's permissions.
-    temporary_ = std::make_unique<TemporaryFile>(*folder_, target_.old ? 0600 : 0666);
-    if (target_.old) {
-        TakeOver(*target_.old);
+    SaveTarget model = target_;
+    if (!like.empty()) {
+        model = FindSaveTarget(like, LinkPolicy::ReplaceTarget);
+        target_.old.reset(); // may be open to more people, so it can't be written in place
     }
+    // Closed to others until it has the permissions of the file that it is to be like.
+    temporary_ = TemporaryFile::Make(*folder_, model.old ? 0600 : 0666);
+    if (temporary_ != nullptr &&
+        (!model.old || TakeOverAccess(temporary_->Number(), model.Path(), *model.old))) {
+        return;
+    }
+    if (!target_.old) {
+        throw IOException("no file can be made in " + target_.folder);
+    }
+    temporary_.reset();
+    aside_ = NamelessFile();
 }
 
-void SafeFile::TakeOver(const SaveTarget::Owner& old) {
-    struct stat made {};
-    if (::fstat(temporary_->Number(), &made) != 0) {
-        ThrowErrno("look at the temporary file");
-    }
-    mode_t permissions = old.permissions;
-    if ((made.st_uid != old.user || made.st_gid != old.group) &&
-        !Give(temporary_->Number(), old.user, old.group) &&
-        !Give(temporary_->Number(), sameUser, old.group)) {
-        // The group is another one now: it gets no more than everybody had.
-        permissions &= ~070U | ((old.permissions & 07U) << 3U);
-    }
-    if (::fchmod(temporary_->Number(), permissions) != 0) {
-        ThrowErrno("set the permissions of the temporary file");
-    }
-}
-
-TemporaryFile& SafeFile::Unfinished() {
-    if (temporary_ == nullptr) {
+// Throws after the end.
+int SafeFile::Content() const {
+    if (temporary_ == nullptr && !aside_.IsOpen()) {
         throw IOException("this save has ended: " + target_.name);
     }
-    return *temporary_;
+    return temporary_ == nullptr ? *aside_ : temporary_->Number();
+}
+
+void SafeFile::End() {
+    temporary_.reset();
+    aside_ = Descriptor();
 }
 
 void SafeFile::Write(std::string_view bytes) {
-    Unfinished();
-    if (bytes.size() <= bufferSize - buffer_.size()) {
-        buffer_.append(bytes);
-        return;
-    }
+    Content();
     try {
-        WriteThrough(buffer_);
-        buffer_.clear();
-        if (bytes.size() > bufferSize) {
-            WriteThrough(bytes);
-        } else {
-            buffer_.append(bytes);
-        }
+        Append(bytes);
     } catch (...) {
-        temporary_.reset();
+        End();
         throw;
     }
 }
 
-void SafeFile::WriteThrough(std::string_view bytes) {
-    const int number = temporary_->Number();
-    while (!bytes.empty()) {
-        const auto count = Uninterrupted([&] { return ::write(number, bytes.data(), bytes.size()); });
-        if (count < 0) {
-            ThrowErrno("write " + target_.name);
-        }
-        if (count == 0) {
-            throw IOException("write " + target_.name + ": the system takes no byte");
-        }
-        bytes.remove_prefix(static_cast<std::size_t>(count));
+void SafeFile::Append(std::string_view bytes) {
+    if (bytes.size() > bufferSize - buffer_.size()) {
+        WriteAll(Content(), buffer_);
+        buffer_.clear();
+    }
+    if (bytes.size() > bufferSize) {
+        WriteAll(Content(), bytes);
+    } else {
+        buffer_.append(bytes);
     }
 }
 
 void SafeFile::Commit() {
-    Unfinished();
+    Content();
     try {
         Finish();
     } catch (...) {
-        temporary_.reset();
+        End();
         throw;
     }
-    temporary_.reset();
+    End();
 }
 
 void SafeFile::Finish() {
-    WriteThrough(buffer_);
+    WriteAll(Content(), buffer_);
     buffer_.clear();
-    if (Uninterrupted([&] { return ::fsync(temporary_->Number()); }) != 0) {
+    if (temporary_ == nullptr) {
+        Overwrite(*folder_, target_.name, *aside_);
+        return;
+    }
+    if (!Sync(temporary_->Number())) {
         ThrowErrno("sync " + target_.name);
     }
-    temporary_->CloseAndRename(target_.name);
-    if (!SyncFolder(*folder_)) {
-        ThrowErrno("sync the folder " + target_.folder);
+    if (temporary_->TakeName(target_.name)) {
+        SyncFolder();
+    } else if (target_.old && IsRefusal(errno)) {
+        Overwrite(*folder_, target_.name, temporary_->Number());
+    } else {
+        ThrowErrno("rename the temporary file");
+    }
+}
+
+// A failure here isn't told: the file is saved, and a power cut in the next seconds would leave the old or
+// the new one, whole in either case.
+void SafeFile::SyncFolder() {
+    const Descriptor folder(
+        Uninterrupted([&] { return ::openat(*folder_, ".", O_RDONLY | O_DIRECTORY | O_CLOEXEC); }));
+    if (folder.IsOpen()) {
+        Sync(*folder);
     }
 }
 

@@ -56,24 +56,32 @@ bool MayTakeName(const std::string& folder, const struct stat& file) {
 
 } // namespace
 
-SaveTarget FindSaveTarget(const std::string& path, LinkPolicy links) {
+std::string FollowLinks(const std::string& path) {
     std::string place = path;
-    auto status = Look(place);
-    for (int count = 0; status && S_ISLNK(status->st_mode) && links == LinkPolicy::ReplaceTarget; ++count) {
+    struct stat status {};
+    for (int count = 0; ::lstat(place.c_str(), &status) == 0 && S_ISLNK(status.st_mode); ++count) {
         if (count == longestChainOfLinks) {
             throw IOException("too many links: " + path);
         }
         place = Followed(place);
-        status = Look(place);
     }
+    return place;
+}
+
+SaveTarget FindSaveTarget(const std::string& path, LinkPolicy links) {
+    const std::string place = links == LinkPolicy::ReplaceTarget ? FollowLinks(path) : path;
+    const auto status = Look(place);
     SaveTarget target{FolderOf(place), place.substr(place.rfind('/') + 1), std::nullopt};
     if (target.name.empty() || target.name == "." || target.name == "..") {
         throw IOException("not the name of a file: " + place);
     }
-    if (status && !MayTakeName(target.folder, *status)) {
-        throw IOException("another user's file, in a folder that keeps it: " + place);
+    if (!status) {
+        return target;
     }
-    if (!status || S_ISLNK(status->st_mode)) {
+    if (S_ISLNK(status->st_mode)) {
+        if (!MayTakeName(target.folder, *status)) {
+            throw IOException("another user's link, in a folder that keeps it: " + place);
+        }
         return target;
     }
     if (!S_ISREG(status->st_mode)) {

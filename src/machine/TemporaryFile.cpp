@@ -1,5 +1,6 @@
 #include "machine/TemporaryFile.h"
 
+#include "machine/FileBytes.h"
 #include "platform/Ascii.h"
 
 #include <algorithm>
@@ -25,16 +26,7 @@ Locked TryLock(int file) {
     if (Uninterrupted([&] { return ::flock(file, LOCK_EX | LOCK_NB); }) == 0) {
         return Locked::Yes;
     }
-    switch (errno) {
-    case EWOULDBLOCK:
-        return Locked::ByAnother;
-    case ENOLCK:
-    case ENOSYS:
-    case EOPNOTSUPP:
-        return Locked::No;
-    default:
-        ThrowErrno("lock the temporary file");
-    }
+    return errno == EWOULDBLOCK ? Locked::ByAnother : Locked::No;
 }
 
 // Whether the folder still has the open file under this name. Two sweeps may meet: the first removes the
@@ -60,71 +52,67 @@ void Sweep(int folder, const std::string& name) {
     // Open for writing, as network file systems want it for an exclusive lock.
     constexpr int flags = O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
     const Descriptor file(Uninterrupted([&] { return ::openat(folder, name.c_str(), flags); }));
-    try {
-        if (file.IsOpen() && TryLock(*file) == Locked::Yes && StillNamed(folder, name, *file)) {
-            ::unlinkat(folder, name.c_str(), 0);
-        }
-    } catch (const IOException&) {
-        return; // it can't be told who holds it
+    if (file.IsOpen() && TryLock(*file) == Locked::Yes && StillNamed(folder, name, *file)) {
+        ::unlinkat(folder, name.c_str(), 0);
     }
 }
 
 } // namespace
 
-TemporaryFile::TemporaryFile(int folder, mode_t permissions) : folder_(folder) {
-    constexpr int flags = O_WRONLY | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+std::unique_ptr<TemporaryFile> TemporaryFile::Make(int folder, mode_t permissions) {
+    constexpr int flags = O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
     for (int number = 0; number < mostNames; ++number) {
-        name_ = std::string(prefix) + std::to_string(number);
-        file_ =
-            Descriptor(Uninterrupted([&] { return ::openat(folder_, name_.c_str(), flags, permissions); }));
-        if (!file_.IsOpen() && errno != EEXIST) {
+        const std::string name = std::string(prefix) + std::to_string(number);
+        Descriptor file(Uninterrupted([&] { return ::openat(folder, name.c_str(), flags, permissions); }));
+        if (file.IsOpen()) {
+            std::unique_ptr<TemporaryFile> made(new TemporaryFile(folder, name, std::move(file)));
+            if (made->Lock()) {
+                return made;
+            }
+        } else if (IsRefusal(errno)) {
+            return nullptr;
+        } else if (errno != EEXIST) {
             ThrowErrno("make a temporary file");
-        }
-        if (file_.IsOpen() && Lock()) {
-            return;
         }
     }
     throw IOException("make a temporary file: all names are taken");
 }
 
 TemporaryFile::~TemporaryFile() {
-    if (!name_.empty()) {
-        ::unlinkat(folder_, name_.c_str(), 0);
+    // A second time, since nobody hears of a failure and the next chance is the next start.
+    for (int times = 0; times < 2 && !name_.empty(); ++times) {
+        if (::unlinkat(folder_, name_.c_str(), 0) == 0) {
+            name_.clear();
+        }
     }
 }
 
 // False if a sweep took the new file for a leftover in the moment before it was locked.
 bool TemporaryFile::Lock() {
-    try {
-        if (TryLock(*file_) != Locked::ByAnother) {
-            struct stat status {};
-            if (::fstat(*file_, &status) != 0) {
-                ThrowErrno("look at the temporary file");
-            }
-            if (status.st_nlink > 0) {
-                return true;
-            }
-        }
+    if (TryLock(*file_) == Locked::ByAnother) {
         return false;
-    } catch (...) {
-        ::unlinkat(folder_, name_.c_str(), 0);
-        throw;
     }
+    struct stat status {};
+    if (::fstat(*file_, &status) != 0) {
+        ThrowErrno("look at the temporary file");
+    }
+    if (status.st_nlink > 0 || StillNamed(folder_, name_, *file_)) {
+        return true;
+    }
+    name_.clear(); // it may be another save's by now
+    return false;
 }
 
-void TemporaryFile::CloseAndRename(const std::string& name) {
-    // The lock belongs to the open file, not to its number: a second number holds it over the close.
-    Descriptor lock(::fcntl(*file_, F_DUPFD_CLOEXEC, 0));
-    if (!lock.IsOpen()) {
-        ThrowErrno("hold the temporary file");
-    }
-    if (!file_.Close()) {
-        ThrowErrno("close the temporary file");
-    }
-    if (::renameat(folder_, name_.c_str(), folder_, name.c_str()) != 0) {
-        ThrowErrno("rename the temporary file");
+bool TemporaryFile::TakeName(const std::string& name) {
+    // Over a network the answer may get lost: what counts is whose name it is.
+    const bool renamed = ::renameat(folder_, name_.c_str(), folder_, name.c_str()) == 0;
+    const int error = errno;
+    if (!renamed && !StillNamed(folder_, name, *file_)) {
+        errno = error;
+        return false;
     }
     name_.clear();
+    return true;
 }
 
 void SweepTemporaryFiles(const std::string& folder) {

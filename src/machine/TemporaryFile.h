@@ -2,8 +2,10 @@
 
 #include "machine/Descriptor.h"
 
+#include <memory>
 #include <string>
 #include <sys/types.h>
+#include <utility>
 
 namespace tessarolyne {
 
@@ -11,17 +13,20 @@ namespace tessarolyne {
 // knows it for a save under way. Removed when the object goes, unless it was renamed.
 class TemporaryFile {
 public:
-    // Made in the open folder, which must outlive this. Throws IOException.
-    TemporaryFile(int folder, mode_t permissions);
+    // Made in the open folder, which must outlive this. Nothing, with errno, where the folder takes no new
+    // file; IOException for any other failure.
+    static std::unique_ptr<TemporaryFile> Make(int folder, mode_t permissions);
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
     ~TemporaryFile();
 
     int Number() const { return *file_; }
-    // Closes the file for writing, with the lock kept, and gives it its final name. Throws IOException.
-    void CloseAndRename(const std::string& name);
+    // Gives the file its final name. False with errno.
+    bool TakeName(const std::string& name);
 
 private:
+    TemporaryFile(int folder, std::string name, Descriptor file)
+        : folder_(folder), name_(std::move(name)), file_(std::move(file)) {}
     bool Lock();
 
     int folder_;

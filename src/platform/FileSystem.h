@@ -10,8 +10,9 @@
 
 namespace tessarolyne {
 
-// What stands under a path, looked at without following a link.
-enum class FileKind { None, Regular, Folder, Link, Other };
+// What stands under a path, looked at without following a link. Unknown is what can't be looked at: a file
+// may be there, and opening it tells what is wrong.
+enum class FileKind { None, Regular, Folder, Link, Other, Unknown };
 
 // What a save does with a link: keep it and replace the file it leads to, or put a file in the link's place.
 enum class LinkPolicy { ReplaceTarget, ReplaceLink };
@@ -44,7 +45,7 @@ public:
 
     // Throws IOException.
     virtual void Write(std::string_view bytes) = 0;
-    // Puts the whole content in its place, durably. Once; throws IOException.
+    // Puts the whole content in its place, as durably as the file system can. Once; throws IOException.
     virtual void Commit() = 0;
 };
 
@@ -54,9 +55,9 @@ class FileSystem {
 public:
     virtual ~FileSystem() = default;
 
-    // None also for what can't be looked at.
     virtual FileKind Kind(const std::string& path) const = 0;
-    // The path without a link in it; nothing if it leads nowhere.
+    // The path without a link in it; nothing if it leads nowhere. A link to what can't be looked at gives the
+    // path to that.
     virtual std::optional<std::string> Resolve(const std::string& path) const = 0;
 
     // The root file system first.
@@ -76,8 +77,8 @@ public:
     virtual std::unique_ptr<OutputFile> CreateSafely(const std::string& path, LinkPolicy links) = 0;
     // Whether such a save would be let begin now.
     virtual bool CanReplace(const std::string& path, LinkPolicy links) const = 0;
-    // Makes `copy` hold the content of the regular file `path`, replacing what stood there. Throws
-    // IOException.
+    // Makes `copy` hold the content of the regular file `path`, replacing what stood there, unless that is
+    // the file itself. Throws IOException.
     virtual void KeepAs(const std::string& path, const std::string& copy) = 0;
     // Removes what saves of killed runs left in the folder; a save under way in another process is left
     // alone.

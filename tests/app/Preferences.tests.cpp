@@ -92,6 +92,8 @@ TEST_CASE("A file that isn't there is missing, one that can't be read or is far 
     disk.unreadable.clear();
     disk.AddLink(disk.path, "/none");
     CHECK(disk.Read() == PreferencesOutcome::Failed);
+    disk.entries[disk.path] = {FileKind::Unknown}; // in a folder that can't be searched
+    CHECK(disk.Read() == PreferencesOutcome::Failed);
     CHECK(disk.preferences == Preferences());
 }
 

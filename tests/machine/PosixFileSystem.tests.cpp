@@ -1,4 +1,5 @@
 #include "machine/PosixFileSystem.h"
+#include "machine/FailingCalls.h"
 #include "machine/KnownFolders.h"
 #include "machine/MountedVolumes.h"
 #include "machine/TemporaryFolder.h"
@@ -9,6 +10,7 @@
 #include <array>
 #include <sstream>
 #include <sys/stat.h>
+#include <sys/sysmacros.h>
 
 using namespace tessarolyne;
 
@@ -57,8 +59,9 @@ TEST_CASE("A file is read in pieces of any size, and what is no regular file is 
 
     REQUIRE(::mkfifo((disk / "fifo").c_str(), 0666) == 0);
     fs::create_symlink("none", disk / "dangling");
-    for (const auto& path :
-        {disk / "fifo", disk / "none", disk / "dangling", disk.Path(), std::string("/dev/zero")}) {
+    // A device of the test's own, where it may make one.
+    CHECK((::mknod((disk / "device").c_str(), S_IFCHR | 0666, makedev(1, 5)) == 0 || ::geteuid() != 0));
+    for (const auto& path : {disk / "fifo", disk / "none", disk / "dangling", disk.Path(), disk / "device"}) {
         CAPTURE(path);
         CHECK_THROWS_AS(disk.files.OpenForReading(path), IOException);
     }
@@ -74,18 +77,44 @@ TEST_CASE("A path is looked at without following a link, and a link is followed 
     CHECK(disk.files.Kind(disk / "b") == FileKind::Link);
     CHECK(disk.files.Kind(disk / "dangling") == FileKind::Link);
     CHECK(disk.files.Kind(disk.Path()) == FileKind::Folder);
-    CHECK(disk.files.Kind("/dev/null") == FileKind::Other);
-    CHECK(disk.files.Kind(disk / std::string(300, 'x')) == FileKind::None);
+    REQUIRE(::mkfifo((disk / "fifo").c_str(), 0666) == 0);
+    CHECK(disk.files.Kind(disk / "fifo") == FileKind::Other);
     CHECK(disk.files.Resolve(disk / "b") == fs::canonical(disk / "f").string());
     CHECK_FALSE(disk.files.Resolve(disk / "dangling").has_value());
+}
+
+TEST_CASE("What can't be looked at is unknown, and only what isn't there is none") {
+    Disk disk;
+    WriteFile(disk / "f", "");
+    fs::create_directory(disk / "shut");
+    WriteFile(disk / "shut/f", "settings");
+    fs::create_symlink("shut/./f", disk / "toShut");
+    fs::create_symlink("loop", disk / "loop");
+    CHECK(disk.files.Kind(disk / "none") == FileKind::None);
+    CHECK(disk.files.Kind(disk / "f/none") == FileKind::None);
+    CHECK(disk.files.Kind(disk / std::string(300, 'x')) == FileKind::Unknown);
+    CHECK_FALSE(disk.files.Resolve(disk / "loop").has_value());
+    FailingCalls calls; // the superuser may look at everything
+    calls.refused = {{"lstat", EACCES}};
+    CHECK(disk.files.Kind(disk / "shut/f") == FileKind::Unknown);
+    fs::permissions(disk / "shut", fs::perms::none);
+    calls.refused.clear();
+    if (::access((disk / "shut/f").c_str(), F_OK) != 0) {
+        CHECK(disk.files.Resolve(disk / "toShut") == disk / "shut/f");
+    }
+    fs::permissions(disk / "shut", fs::perms::owner_all);
 }
 
 TEST_CASE("A file that is kept keeps its bytes when a save replaces it, and replaces what was kept before") {
     Disk disk;
     WriteFile(disk / "f", "first");
     for (const std::string text : {"second", "third"}) {
-        disk.files.KeepAs(disk / "f", disk / "f.bad");
-        disk.files.KeepAs(disk / "f", disk / "f.bad");
+        for (const char* refused : {"nothing", "read"}) { // what can't be read is kept as well
+            FailingCalls calls;
+            calls.refused = {{refused, EACCES}};
+            disk.files.KeepAs(disk / "f", disk / "f.bad");
+            disk.files.KeepAs(disk / "f", disk / "f.bad");
+        }
         const auto kept = ReadFile(disk / "f");
         const auto save = disk.files.CreateSafely(disk / "f", LinkPolicy::ReplaceTarget);
         save->Write(text);
@@ -97,6 +126,26 @@ TEST_CASE("A file that is kept keeps its bytes when a save replaces it, and repl
     CHECK_THROWS_AS(disk.files.KeepAs(disk / "dangling", disk / "x"), IOException);
     fs::create_directory(disk / "d");
     CHECK_THROWS_AS(disk.files.KeepAs(disk / "f", disk / "d"), IOException);
+}
+
+TEST_CASE("A file is kept apart from itself, open to no more people, and never lost to its own copy") {
+    Disk disk;
+    const auto file = disk / "f";
+    const auto bad = disk / "f.bad";
+    WriteFile(file, "only");
+    fs::permissions(file, fs::perms::owner_read | fs::perms::owner_write);
+    fs::create_symlink(file, bad);
+    disk.files.KeepAs(file, bad);
+    CHECK(fs::is_regular_file(fs::symlink_status(bad)));
+    CHECK(fs::status(bad).permissions() == (fs::perms::owner_read | fs::perms::owner_write));
+    fs::remove(bad);
+    fs::create_hard_link(file, bad);
+    disk.files.KeepAs(file, bad);
+    CHECK(fs::hard_link_count(file) == 1); // a save may write the file in place
+    fs::remove(file);
+    fs::create_symlink(bad, file);
+    CHECK_THROWS_AS(disk.files.KeepAs(file, bad), IOException);
+    CHECK(ReadFile(bad) == "only");
 }
 
 TEST_CASE("Volumes are the root and what is mounted where desktops mount sticks") {

@@ -122,7 +122,7 @@ TEST_CASE("A loaded file becomes the table, and a bad one leaves 2, 3, 5, 7 and 
 }
 
 TEST_CASE("A file that can't be read is a read error, one that isn't there is none") {
-    for (const FileKind kind : {FileKind::Folder, FileKind::Other, FileKind::Regular}) {
+    for (const FileKind kind : {FileKind::Folder, FileKind::Other, FileKind::Unknown, FileKind::Regular}) {
         TestWorld world;
         Bind(world, "2\t3\t5\t7\t11\n");
         world.files.entries[path].kind = kind;
