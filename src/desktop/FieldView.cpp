@@ -5,6 +5,7 @@
 #include "desktop/Replacement.h"
 
 #include <QClipboard>
+#include <QFocusEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
@@ -36,6 +37,11 @@ protected:
             }
         }
         QLineEdit::keyPressEvent(event);
+    }
+    // The menu bar only borrows the focus, like a popup: what its commands act on stays selected.
+    void focusOutEvent(QFocusEvent* event) override {
+        QFocusEvent borrowed(QEvent::FocusOut, Qt::PopupFocusReason);
+        QLineEdit::focusOutEvent(event->reason() == Qt::MenuBarFocusReason ? &borrowed : event);
     }
 };
 

@@ -6,6 +6,7 @@
 #include "platform/PushButton.h"
 #include "platform/Window.h"
 
+#include <QAbstractScrollArea>
 #include <QFocusEvent>
 #include <QInputMethodEvent>
 #include <QKeyEvent>
@@ -44,6 +45,11 @@ WindowFocus::WindowFocus(Window& window, QWidget& top, FindView find)
 void WindowFocus::Watch(ControlView& view) {
     view.Widget()->setProperty(viewProperty, QVariant::fromValue(static_cast<void*>(&view)));
     view.Widget()->installEventFilter(this);
+    if (auto* const area = qobject_cast<QAbstractScrollArea*>(view.Widget())) {
+        // The mouse presses this part of it alone.
+        area->viewport()->setProperty(viewProperty, QVariant::fromValue(static_cast<void*>(&view)));
+        area->viewport()->installEventFilter(this);
+    }
 }
 
 void WindowFocus::Sync() {
@@ -75,7 +81,7 @@ void WindowFocus::Begin() {
     if (window_.Focus() == nullptr) {
         for (Control* control : window_.TabOrder(true)) {
             if (CanBeUsed(*control)) {
-                control->UserFocused();
+                control->SetFocus();
                 break;
             }
         }
@@ -93,6 +99,9 @@ bool WindowFocus::eventFilter(QObject* watched, QEvent* event) {
         return ControlKey(*view, *static_cast<QKeyEvent*>(event));
     case QEvent::InputMethod:
         return Composed(*view, *static_cast<QInputMethodEvent*>(event));
+    case QEvent::MouseButtonPress:
+        PressedOn(*view);
+        return false;
     case QEvent::FocusIn:
         CameIn(*view, *static_cast<QFocusEvent*>(event));
         return false;
@@ -113,6 +122,14 @@ bool WindowFocus::ControlKey(ControlView& view, const QKeyEvent& event) {
 bool WindowFocus::Composed(ControlView& view, const QInputMethodEvent& event) {
     const QString& text = event.commitString();
     return text.size() == 1 && event.preeditString().isEmpty() && view.Model().UserPressedKey(FromQt(text));
+}
+
+// In a window that isn't in front Qt moves the focus at a press too, but tells nobody before the window gets the
+// keyboard, and then it looks like a focus that only comes back.
+void WindowFocus::PressedOn(const ControlView& view) {
+    if ((view.Widget()->focusPolicy() & Qt::ClickFocus) != 0) {
+        view.Model().UserFocused();
+    }
 }
 
 void WindowFocus::CameIn(ControlView& view, const QFocusEvent& event) {

@@ -43,6 +43,7 @@ protected:
 private:
     bool ControlKey(ControlView& view, const QKeyEvent& event);
     bool Composed(ControlView& view, const QInputMethodEvent& event);
+    void PressedOn(const ControlView& view);
     void CameIn(ControlView& view, const QFocusEvent& event);
     bool NavigationKey(const QKeyEvent& event, const std::string& key);
     bool ButtonKey(int key);

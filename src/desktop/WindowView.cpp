@@ -80,8 +80,10 @@ void WindowView::AddViews() {
         }
         focus_.Watch(*view);
         connections_.push_back(control->Changed.Connect([this, control] {
-            if (window_.Focus() == control) {
-                focus_.Sync(); // it may have been enabled again
+            // It may have been enabled again. Not at once: it may as well be a field that says what it lost
+            // while Qt moves the focus on, and that must not get it back.
+            if (window_.Focus() == control && focusWidget() != FocusedWidget()) {
+                focus_.SyncSoon();
             }
         }));
         views_.push_back(std::move(view));

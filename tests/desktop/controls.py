@@ -34,6 +34,12 @@ CONTROLS = {
     "PushButtonPressPapPrem": ("Copier : Décomposition en Nombres Premiers", "push button"),
     "PushButtonFichier": ("Changer Fichier", "push button"),
     "EditFieldFin": ("Calculer Nbres 1ers jusqu'à :", "text"),
+    "EditFieldAffDu": ("Afficher Nbres 1ers du", "text"),
+    "EditFieldAffAu": ("Afficher Nbres 1ers du … au", "text"),
+    "EditFieldNbNbresLigne": (
+        "Entrer ici la quantité de nombres premiers que vous voulez par ligne dans le fichier",
+        "text",
+    ),
     "StaticTextNbNbre1ers": ("166 nombres premiers", "label"),
     "TxtAreaListeNbres1ers": ("Liste des Nombres Premiers", "text"),
     "PushButtDecomposer": ("Décomposer", "push button"),
