@@ -124,7 +124,7 @@ bool Factorise(std::uint64_t n, PrimeTable& table, std::vector<std::uint64_t>& r
     const PrimeFactors primes(n);
     const Factors factors = primes.All();
     const std::uint64_t largest = factors.back();
-    if (!VerifyPrimes(table, largest, run)) {
+    if (!BeginTable(table, run) || !VerifyPrimes(table, largest, run)) {
         return false;
     }
     if (table.ConsecutiveBack() < largest) {

@@ -141,6 +141,18 @@ bool EndsBelowFirstDivision(const PrimeTable& table) {
 
 } // namespace
 
+bool BeginTable(PrimeTable& table, RunControl& run) {
+    if (table.Size() >= 2) {
+        return true;
+    }
+    table.Clear();
+    if (!table.AppendNextPrime(2) || !table.AppendNextPrime(3)) {
+        run.StopFor(RunEnd::OutOfMemory);
+        return false;
+    }
+    return true;
+}
+
 std::int32_t SizeWithinBudget(const PrimeTable& table, RunControl& run) {
     return std::max(table.SizeWithin(run.ByteCeiling(table.Bytes())), table.Size());
 }
@@ -189,7 +201,7 @@ GrowthEnd GrowConsecutive(PrimeTable& table, std::uint64_t end, std::int32_t lar
 }
 
 std::uint64_t NbresPremCalc(PrimeTable& table, std::uint64_t limit, RunControl& run) {
-    if (limit != 0 && limit <= table.Back()) {
+    if (!BeginTable(table, run) || (limit != 0 && limit <= table.Back())) {
         return table.Back();
     }
     if (EndsBelowFirstDivision(table)) {

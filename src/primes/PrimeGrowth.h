@@ -18,6 +18,10 @@ namespace tessarolyne {
 // time, or the memory, which may also be the table's greatest size.
 std::uint64_t NbresPremCalc(PrimeTable& table, std::uint64_t limit, RunControl& run);
 
+// Gives a table that is empty, as after a load that failed for want of memory, the beginning from which it
+// can grow; one with a beginning stays as it is. False when there is no memory for it, which stops the run.
+bool BeginTable(PrimeTable& table, RunControl& run);
+
 // Compares the table's entries with the primes until those up to `upTo` are known to be the first primes, or
 // all entries are, or one is found not to be; PrimeTable tells which. False when the run has to stop before.
 // Anything that depends on the answer calls this itself; a caller that has just loaded a table may do it

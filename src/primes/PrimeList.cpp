@@ -69,6 +69,9 @@ void WinNbresPremiers::FaireListe(bool forcer, bool garderDebut) {
 }
 
 std::string WinNbresPremiers::ListText(std::int32_t debut, std::int32_t fin) const {
+    if (fin < debut) {
+        return {}; // of an empty table
+    }
     PrimeTable::Cursor cursor(program.winMain().Nbres_Premiers, debut);
     std::string text = "\t";
     text += FormatWhole(cursor.Value(), false);
