@@ -88,7 +88,7 @@ void WinMain::TimerTempo_Action(Timer& timer) {
         return;
     }
     // A dialog counts too: a calculation that began under a file chooser would race the load behind it.
-    if (CalculEnCours || fncts.DrapDiagBox) {
+    if (CalculEnCours || app.HasModalStep()) {
         timer.Mode = 1;
         return;
     }

@@ -5,7 +5,6 @@
 #include "desktop/VisibleText.h"
 
 #include <QAccessible>
-#include <QCloseEvent>
 #include <QDialogButtonBox>
 #include <QFontMetrics>
 #include <QHBoxLayout>
@@ -111,7 +110,6 @@ QWidget* MessageView::MakeButtons(const MessageDialog& dialog) {
             dialog.actionCaption, QDialogButtonBox::AcceptRole, DialogButton::Action, dialog.actionHelpTag);
     }
     if (!dialog.cancelCaption.empty()) {
-        onReject_ = DialogButton::Cancel;
         add(dialog.cancelCaption, QDialogButtonBox::RejectRole, DialogButton::Cancel, dialog.cancelHelpTag);
     }
     if (!dialog.alternateCaption.empty()) {
@@ -127,14 +125,8 @@ void MessageView::Finish(DialogButton answer) {
     done(0);
 }
 
-// Escape.
+// Escape and the close box.
 void MessageView::reject() {
-    Finish(onReject_);
-}
-
-// The close box chooses no button: a cancel button may open a page, or drop something.
-void MessageView::closeEvent(QCloseEvent* event) {
-    event->accept();
     Finish(DialogButton::None);
 }
 

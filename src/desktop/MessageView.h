@@ -10,8 +10,8 @@ class QPushButton;
 namespace tessarolyne {
 
 // A message with up to three buttons. All texts are plain; a long one scrolls, so that the dialog never
-// outgrows the screen. Return is the action button wherever the focus is, Escape the cancel button, or no
-// answer where there is none.
+// outgrows the screen. Return is the action button wherever the focus is. Escape and the close box choose no
+// button, whatever the buttons say: the cancel button may open a page, or drop something.
 class MessageView final : public QDialog {
 public:
     MessageView(const MessageDialog& dialog, QWidget* parent);
@@ -20,7 +20,6 @@ public:
     DialogButton Answer() const { return answer_; }
 
     void reject() override;
-    void closeEvent(QCloseEvent* event) override;
 
 protected:
     void showEvent(QShowEvent* event) override;
@@ -32,7 +31,6 @@ private:
     void Finish(DialogButton answer);
 
     DialogButton answer_ = DialogButton::None;
-    DialogButton onReject_ = DialogButton::None;
     QPushButton* action_ = nullptr;
 };
 

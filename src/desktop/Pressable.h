@@ -18,7 +18,7 @@ public:
     Model& PressedModel() const { return model_; }
     // A press in place, without the mouse. False if the model doesn't take any.
     bool Press() {
-        const bool taken = model_.MouseDown(0, 0);
+        const bool taken = model_.UserPressed(0, 0);
         if (taken) {
             model_.MouseUp(0, 0);
         }
@@ -28,7 +28,7 @@ public:
 protected:
     void mousePressEvent(QMouseEvent* event) override {
         const QPoint at = event->position().toPoint();
-        pressed_ = event->button() == Qt::LeftButton && model_.MouseDown(at.x(), at.y());
+        pressed_ = event->button() == Qt::LeftButton && model_.UserPressed(at.x(), at.y());
         // An overlay keeps its presses to itself, also those that the model doesn't follow.
         event->setAccepted(pressed_ || SwallowsPresses());
     }

@@ -12,6 +12,7 @@
 #include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
+#include <QPointer>
 #include <QWindow>
 
 namespace tessarolyne {
@@ -37,12 +38,29 @@ protected:
     }
 };
 
+// A dialog for the time of a call. A sheet goes with its window, if a quit closes that under it.
+template <typename Dialog>
+class Held {
+public:
+    explicit Held(Dialog* dialog) : dialog_(dialog) {}
+    ~Held() { delete dialog_.data(); }
+    Held(const Held&) = delete;
+    Held& operator=(const Held&) = delete;
+
+    bool IsGone() const { return dialog_.isNull(); }
+    Dialog& operator*() const { return *dialog_; }
+    Dialog* operator->() const { return dialog_.data(); }
+
+private:
+    const QPointer<Dialog> dialog_;
+};
+
 } // namespace
 
 DialogButton QtDialogs::Ask(const MessageDialog& dialog) {
-    MessageView view(dialog, ParentFor(dialog.sheetOf));
-    Run(view);
-    return loop_.IsQuitting() ? DialogButton::None : view.Answer();
+    const Held<MessageView> view(new MessageView(dialog, ParentFor(dialog.sheetOf)));
+    Run(*view);
+    return view.IsGone() || loop_.IsQuitting() ? DialogButton::None : view->Answer();
 }
 
 void QtDialogs::Tell(const std::string& text) {
@@ -52,26 +70,28 @@ void QtDialogs::Tell(const std::string& text) {
 }
 
 std::optional<FolderItem> QtDialogs::ChooseFile(const FileDialog& dialog) {
-    QFileDialog chooser(ParentFor(dialog.sheetOf));
-    SetUp(chooser, dialog);
-    chooser.setAcceptMode(QFileDialog::AcceptOpen);
-    chooser.setFileMode(QFileDialog::ExistingFile);
-    return Choose(chooser);
+    const Held<QFileDialog> chooser(new QFileDialog(ParentFor(dialog.sheetOf)));
+    SetUp(*chooser, dialog);
+    chooser->setAcceptMode(QFileDialog::AcceptOpen);
+    chooser->setFileMode(QFileDialog::ExistingFile);
+    Run(*chooser);
+    return chooser.IsGone() ? std::nullopt : Chosen(*chooser);
 }
 
 std::optional<FolderItem> QtDialogs::ChooseTarget(const FileDialog& dialog) {
-    QFileDialog chooser(ParentFor(dialog.sheetOf));
-    SetUp(chooser, dialog);
-    chooser.setAcceptMode(QFileDialog::AcceptSave);
-    chooser.setFileMode(QFileDialog::AnyFile);
+    const Held<QFileDialog> chooser(new QFileDialog(ParentFor(dialog.sheetOf)));
+    SetUp(*chooser, dialog);
+    chooser->setAcceptMode(QFileDialog::AcceptSave);
+    chooser->setFileMode(QFileDialog::AnyFile);
     if (dialog.suggestedName.ends_with(dialog.filterExtension)) {
         // Without it the choosers, which show only such files, would not show this one again.
-        chooser.setDefaultSuffix(ToQt(dialog.filterExtension));
+        chooser->setDefaultSuffix(ToQt(dialog.filterExtension));
     }
     if (!dialog.suggestedName.empty()) {
-        chooser.selectFile(QFile::decodeName(QByteArray::fromStdString(dialog.suggestedName)));
+        chooser->selectFile(QFile::decodeName(QByteArray::fromStdString(dialog.suggestedName)));
     }
-    return Choose(chooser);
+    Run(*chooser);
+    return chooser.IsGone() ? std::nullopt : Chosen(*chooser);
 }
 
 QWidget* QtDialogs::ParentFor(const Window* sheetOf) const {
@@ -87,8 +107,10 @@ void QtDialogs::Run(QDialog& dialog) {
     }
     bool gone = false;
     QObject::connect(&dialog, &QDialog::finished, &dialog, [&gone] { gone = true; });
+    const auto destroyed = QObject::connect(&dialog, &QObject::destroyed, [&gone] { gone = true; });
     dialog.show();
     loop_.RunUntil([&gone] { return gone; });
+    QObject::disconnect(destroyed);
 }
 
 void QtDialogs::SetUp(QFileDialog& chooser, const FileDialog& dialog) const {
@@ -106,8 +128,7 @@ void QtDialogs::SetUp(QFileDialog& chooser, const FileDialog& dialog) const {
     }
 }
 
-std::optional<FolderItem> QtDialogs::Choose(QFileDialog& chooser) {
-    Run(chooser);
+std::optional<FolderItem> QtDialogs::Chosen(const QFileDialog& chooser) const {
     if (loop_.IsQuitting() || chooser.result() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) {
         return std::nullopt;
     }

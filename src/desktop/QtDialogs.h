@@ -30,7 +30,7 @@ private:
     // Shows it and returns when it is gone or the program quits.
     void Run(QDialog& dialog);
     void SetUp(QFileDialog& chooser, const FileDialog& dialog) const;
-    std::optional<FolderItem> Choose(QFileDialog& chooser);
+    std::optional<FolderItem> Chosen(const QFileDialog& chooser) const;
 
     EventLoop& loop_;
     const QtStage& stage_;

@@ -30,6 +30,7 @@ public:
     void CancelAlarm(AlarmId alarm) override;
     void RunUntil(const std::function<bool()>& done) override;
     void WaitUntil(const std::function<bool()>& done) override;
+    bool IsWaiting() const override { return waits_ > 0; }
     void DropInput() override;
     void Quit(int exitCode) override;
     bool IsQuitting() const override { return quitting_; }

@@ -7,6 +7,19 @@
 
 namespace tessarolyne {
 
+Application::ModalStep::ModalStep(Application& application, const Window* window)
+    : application_(application), window_(window) {
+    application_.modalSteps_.push_back(this);
+}
+
+Application::ModalStep::~ModalStep() {
+    std::erase(application_.modalSteps_, this);
+}
+
+bool Application::LetsUserInto(const Window& window) const {
+    return !services_.loop.IsWaiting() && (modalSteps_.empty() || modalSteps_.back()->window_ == &window);
+}
+
 void Application::EnableMenuItems() {
     const auto present = windows_;
     for (Window* window : present) {
@@ -15,6 +28,10 @@ void Application::EnableMenuItems() {
 }
 
 void Application::RequestQuit() {
+    if (services_.loop.IsWaiting()) { // no question may come up inside a wait
+        services_.loop.Post([this] { RequestQuit(); });
+        return;
+    }
     bool refused = false;
     const auto present = windows_;
     for (Window* window : present) {

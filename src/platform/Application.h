@@ -30,6 +30,25 @@ public:
     void EnableMenuItems();
     // What the user or the desktop asks for: Event_CancelClose(true) on every window; quits if none refuses.
     void RequestQuit();
+    // While it lives nothing else of the program takes what the user does: only the window, or where it is
+    // null a dialog that is none of the program's windows. Of several the youngest counts; they end in any
+    // order.
+    class ModalStep {
+    public:
+        ModalStep(Application& application, const Window* window);
+        ~ModalStep();
+        ModalStep(const ModalStep&) = delete;
+        ModalStep& operator=(const ModalStep&) = delete;
+
+    private:
+        friend class Application;
+        Application& application_;
+        const Window* const window_;
+    };
+    bool HasModalStep() const { return !modalSteps_.empty(); }
+    // Whether the window may take what the user does, now.
+    bool LetsUserInto(const Window& window) const;
+
     // Ends the event loop and every modal loop inside it; asks nobody.
     void Quit(int exitCode);
 
@@ -54,6 +73,7 @@ private:
 
     Services& services_;
     std::vector<Window*> windows_;
+    std::vector<const ModalStep*> modalSteps_;
     MenuBar* menuBar_ = nullptr;
     bool showsQuietly_ = false;
 };

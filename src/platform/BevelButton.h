@@ -16,7 +16,7 @@ public:
     bool TakesFocus() const override { return true; }
 
     void UserPressed() {
-        if (Enabled()) {
+        if (TakesInput()) {
             Action();
         }
     }

@@ -12,6 +12,9 @@ public:
 
     bool TakesFocus() const override { return IsLink(); }
 
+    // True: the press was taken, and its release is to be told.
+    bool UserPressed(int x, int y) { return TakesInput() && MouseDown(x, y); }
+
     Property<Picture> Image{*this};
     Property<bool> IsLink{*this, false};
 

@@ -1,5 +1,8 @@
 #include "platform/Control.h"
 
+#include "platform/Application.h"
+#include "platform/Services.h"
+#include "platform/Sound.h"
 #include "platform/Window.h"
 
 namespace tessarolyne {
@@ -24,6 +27,25 @@ void Control::SetFocus() {
     if (TakesFocus() && Enabled() && Visible()) {
         window_.MoveFocus(this);
     }
+}
+
+void Control::UserFocused() {
+    if (window_.GetApplication().LetsUserInto(window_)) {
+        SetFocus();
+    }
+}
+
+bool Control::UserPressedKey(const std::string& key) {
+    return Enabled() && window_.GetApplication().LetsUserInto(window_) && KeyDown(key);
+}
+
+bool Control::TakesInput() const {
+    const Application& application = window_.GetApplication();
+    if (!application.LetsUserInto(window_)) {
+        application.GetServices().sounds.Beep();
+        return false;
+    }
+    return Enabled();
 }
 
 void Control::PropertyChanged(const void*) {

@@ -63,9 +63,11 @@ public:
     // Moves the focus here if the control can take it now: the old holder's LostFocus, then GotFocus.
     void SetFocus();
 
-    void UserFocused() { SetFocus(); }
+    // What a person does, by whatever means, comes to nothing while the control is disabled, or its window is
+    // behind something modal; a press or an edit there is answered with a beep.
+    void UserFocused();
     // The key goes to the control first. True: the control took it, and it has no further effect.
-    bool UserPressedKey(const std::string& key) { return Enabled() && KeyDown(key); }
+    bool UserPressedKey(const std::string& key);
 
     const std::string Name;
     Property<int> Left;
@@ -91,6 +93,8 @@ public:
 
 protected:
     void PropertyChanged(const void* property) override;
+    // Whether a press or an edit by the user counts.
+    bool TakesInput() const;
 
 private:
     Window& window_;

@@ -30,6 +30,8 @@ public:
     // answer the window manager. `done` is asked again every few milliseconds. Returns at once when the
     // program quits.
     virtual void WaitUntil(const std::function<bool()>& done) = 0;
+    // Whether such a wait is under way: assistive technology gets in all the same.
+    virtual bool IsWaiting() const = 0;
     // Forgets what the user typed and clicked while the program was busy or waited, which would otherwise be
     // done afterwards.
     virtual void DropInput() = 0;

@@ -15,6 +15,9 @@ public:
 
     bool TakesFocus() const override { return IsLink(); }
 
+    // True: the press was taken, and its release is to be told.
+    bool UserPressed(int x, int y) { return (IsOverlay() || TakesInput()) && MouseDown(x, y); }
+
     Property<std::string> Text{*this};
     Property<Alignment> TextAlignment{*this, Alignment::Left};
     Property<bool> IsLink{*this, false};

@@ -1,6 +1,8 @@
 #include "platform/MenuBar.h"
 
 #include "platform/Application.h"
+#include "platform/EventLoop.h"
+#include "platform/Services.h"
 
 #include <utility>
 
@@ -24,6 +26,9 @@ void MenuItem::UserChose(Application& application) {
         if (Enabled()) {
             application.RequestQuit();
         }
+        return;
+    }
+    if (application.HasModalStep() || application.GetServices().loop.IsWaiting()) {
         return;
     }
     Action();

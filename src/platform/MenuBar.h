@@ -40,7 +40,8 @@ public:
     const std::vector<std::unique_ptr<MenuItem>>& Items() const { return items_; }
 
     // What the user's choice or the item's shortcut does: the menus are brought up to date first. An item of
-    // the framework's own acts if it is enabled; any other gives Action, which looks at Enabled itself.
+    // the framework's own acts if it is enabled; any other gives Action, which looks at Enabled itself,
+    // unless something modal is up.
     void UserChose(Application& application);
 
     const std::string Name;

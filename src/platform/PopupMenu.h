@@ -30,7 +30,7 @@ public:
     std::string Text() const;
 
     void UserChose(int index) {
-        if (Enabled()) {
+        if (TakesInput()) {
             ListIndex = index;
         }
     }

@@ -19,7 +19,11 @@ public:
             Action();
         }
     }
-    void UserPressed() { Push(); }
+    void UserPressed() {
+        if (TakesInput()) {
+            Action();
+        }
+    }
 
     Property<std::string> Caption{*this};
     Property<int> TextSize{*this, 0}; // points; 0 is the system's own size

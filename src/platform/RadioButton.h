@@ -15,7 +15,7 @@ public:
     bool TakesFocus() const override { return true; }
 
     void UserPressed() {
-        if (Enabled()) {
+        if (TakesInput()) {
             Value = true;
         }
     }

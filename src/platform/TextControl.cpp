@@ -8,7 +8,7 @@
 namespace tessarolyne {
 
 void TextControl::UserReplaced(int start, int removed, const std::string& inserted) {
-    if (ReadOnly() || !Enabled()) {
+    if (ReadOnly() || !TakesInput()) {
         return;
     }
     const int length = static_cast<int>(Len(Text()));

@@ -60,6 +60,10 @@ void Window::Refresh() {
     DrawNow();
 }
 
+bool Window::UserPressedKey(const std::string& key) {
+    return application_.LetsUserInto(*this) && Event_KeyDown(key);
+}
+
 void Window::UserMoved(int left, int top) {
     Left = left;
     Top = top;

@@ -54,7 +54,7 @@ public:
     void UserMoved(int left, int top);
     void UserResized(int width, int height) { Resize(width, height); }
     // A key that no control took. True: the window took it.
-    bool UserPressedKey(const std::string& key) { return Event_KeyDown(key); }
+    bool UserPressedKey(const std::string& key);
 
     // What the window's class answers: when it is whole, once, to whoever made it; before it closes (true
     // keeps it open); before menus are shown; and for a key that no control took (true: it has no further

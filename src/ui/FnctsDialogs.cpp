@@ -14,7 +14,8 @@ namespace tessarolyne {
 class Fncts::DialogProtocol {
 public:
     explicit DialogProtocol(Fncts& fncts)
-        : fncts_(fncts), found_(fncts.DrapMenu), foundDialog_(fncts.DrapDiagBox) {
+        : fncts_(fncts), step_(fncts.program_.app, nullptr), found_(fncts.DrapMenu),
+          foundDialog_(fncts.DrapDiagBox) {
         fncts_.DrapDiagBox = true;
         fncts_.program_.app.MouseCursor = Cursor::Standard;
         fncts_.DrapMenu = false;
@@ -29,6 +30,7 @@ public:
 
 private:
     Fncts& fncts_;
+    const Application::ModalStep step_;
     const bool found_;
     const bool foundDialog_;
 };
@@ -121,6 +123,7 @@ std::optional<FolderItem> Fncts::ChooseItem(
 }
 
 void Fncts::MsgBox(const std::string& texte) {
+    const Application::ModalStep step(program_.app, nullptr);
     program_.services.dialogs.Tell(texte);
 }
 

@@ -1,5 +1,6 @@
 #include "ui/Fncts.h"
 
+#include "app/Program.h"
 #include "app/SafeAddress.h"
 #include "app/VersionFile.h"
 #include "platform/Text.h"
@@ -21,7 +22,7 @@ std::string HelpTag(const std::string& address) {
 bool Fncts::VrfVerMaJ(const std::string& shortVersion, const std::string& txtAJour,
     const std::string& txtNouv, const std::string& txtImpo, const std::string& btnOk,
     const std::string& btnHistoric, const std::string& btnSiteWeb, const std::string& btnFermer) {
-    if (!DrapMenu) {
+    if (!DrapMenu || program_.app.HasModalStep()) {
         return true;
     }
     DrapMenu = false;

@@ -3,6 +3,7 @@
 namespace tessarolyne {
 
 void ModalWindow::OpenModal() {
+    step_.emplace(app, this);
     DrapMovableModal = true;
     DrapMenuTemp = fncts.DrapMenu;
     fncts.DrapMenu = false;
@@ -13,6 +14,7 @@ bool ModalWindow::RefuseClose() {
         fncts.Beep();
         return true;
     }
+    step_.reset();
     fncts.RestoreDrapMenu(DrapMenuTemp);
     return false;
 }

@@ -2,6 +2,8 @@
 
 #include "ui/ProgramWindow.h"
 
+#include <optional>
+
 namespace tessarolyne {
 
 // A window that holds the program's commands off for as long as it is up, and that only its own controls can
@@ -21,6 +23,9 @@ protected:
 
     bool DrapMovableModal = false; // the window refuses to close
     bool DrapMenuTemp = false;     // DrapMenu as it was when the window opened
+
+private:
+    std::optional<Application::ModalStep> step_;
 };
 
 } // namespace tessarolyne

@@ -201,10 +201,11 @@ TEST_CASE(
     world.loop.Advance(100);
     CHECK(window.EditFieldBaseOrg.Text().empty());
     window.CalculEnCours = false;
-    world.program->fncts.DrapDiagBox = true;
-    world.loop.Advance(100);
-    CHECK(window.EditFieldBaseOrg.Text().empty());
-    world.program->fncts.DrapDiagBox = false;
+    {
+        const Application::ModalStep dialog(world.program->app, nullptr);
+        world.loop.Advance(100);
+        CHECK(window.EditFieldBaseOrg.Text().empty());
+    }
     world.loop.Advance(25);
     CHECK(window.EditFieldBaseOrg.Text() == errNbre);
     CHECK(window.EditFieldNbre.Text() == "12.50");

@@ -54,6 +54,7 @@ public:
             REQUIRE(std::chrono::steady_clock::now() < end);
         }
     }
+    bool IsWaiting() const override { return false; }
     void DropInput() override {}
     void Quit(int exitCode) override {
         quitting_ = true;

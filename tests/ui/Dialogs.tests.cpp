@@ -1,5 +1,9 @@
+#include "platform/MenuBar.h"
+#include "platform/Text.h"
 #include "primes/WinNbresPremiers.h"
 #include "support/TestWorld.h"
+#include "ui/WinInfos.h"
+#include "ui/WinPrefs.h"
 
 #include <doctest/doctest.h>
 
@@ -23,6 +27,68 @@ TEST_CASE("A question freezes the commands while it is up and gives everything b
         CHECK(app.MouseCursor == Cursor::None);
         CHECK(world.dialogs.asked.back().message == " ");
     }
+}
+
+TEST_CASE("Behind a dialog or a modal window nothing that the user does counts, and presses are heard") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    window.BevelButtonListe.UserPressed();
+    WinNbresPremiers& list = world.program->winNbresPremiers();
+    world.Type(window.EditFieldNbre, "255");
+    window.EditFieldNbre.UserFocused();
+    const auto state = [&] {
+        return std::vector<std::string>{window.EditFieldNbre.Text(), window.EditFieldBaseOrg.Text(),
+            window.TxtAreaLettres.Text(), list.TxtAreaListeNbres1ers.Text(), list.EditFieldAffDu.Text(),
+            window.Focus()->Name, list.Focus()->Name, std::to_string(window.PopupMenuBaseOrg.ListIndex),
+            std::to_string(window.CheckBoxMajusc.Value), std::to_string(window.RadioButton09AZ[1].Value),
+            std::to_string(window.BevelButtonListe.Value), std::to_string(window.CalculEnCours),
+            std::to_string(list.Ind_DerPrem), std::to_string(world.stage.Count<WinPrefs>())};
+    };
+    const auto doAll = [&] {
+        const int beeps = world.sounds.beeps;
+        list.PushButtonCalcPrems.UserPressed();
+        window.BevelButtonListe.UserPressed();
+        window.CheckBoxMajusc.UserPressed();
+        window.RadioButton09AZ[1].UserPressed();
+        window.PopupMenuBaseOrg.UserChose(5);
+        window.EditFieldNbre.UserTyped("9");
+        CHECK(world.sounds.beeps == beeps + 6);
+        window.EditFieldBaseOrg.UserFocused();
+        list.EditFieldAffDu.Text = "3";
+        list.EditFieldAffDu.UserPressedKey(Chr(13));
+        list.EditFieldAffDu.Text = "1";
+        list.EditFieldAffDu.UserFocused();
+        world.program->app.GetMenuBar()->Find("ApplePrefs")->UserChose(world.program->app);
+        world.loop.Advance(100);
+    };
+    const auto before = state();
+    world.dialogs.Expect(DialogButton::None, doAll);
+    world.program->fncts.MyDialogBox("m", "", "Ok", "", "", 0, nullptr);
+    CHECK(state() == before);
+    world.loop.WhileModal([&] {
+        doAll();
+        world.program->winInfos().BoutonOk.UserPressed();
+    });
+    world.program->winInfos().ShowModal();
+    CHECK(state() == before);
+    window.CheckBoxMajusc.UserPressed();
+    CHECK(state() != before);
+}
+
+TEST_CASE("An empty table, as a load without memory leaves it, is listed as such and can grow") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    WinNbresPremiers& list = world.program->winNbresPremiers();
+    window.Nbres_Premiers.Clear();
+    list.FaireListe(true, false);
+    CHECK(list.TxtAreaListeNbres1ers.Text().empty());
+    list.EditFieldFin.Text = "11";
+    list.PushButtonCalcPrems.UserPressed();
+    world.Settle();
+    CHECK(list.TxtAreaListeNbres1ers.Text() == "\t2\t3\t5\t7\t11");
+    window.Nbres_Premiers.Clear();
+    world.Type(window.EditFieldNbre, "91");
+    CHECK(window.TxtAreaDecomp1er.Text() == "7 x 13");
 }
 
 TEST_CASE("A calculation that began while a question was up keeps the commands frozen behind it") {

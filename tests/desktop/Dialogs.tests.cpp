@@ -1,0 +1,44 @@
+#include "desktop/MessageView.h"
+#include "desktop/QtServices.h"
+#include "machine/SystemClock.h"
+#include "primes/WinNbresPremiers.h"
+#include "support/TestWorld.h"
+
+#include <QApplication>
+#include <QKeyEvent>
+
+#include <doctest/doctest.h>
+
+using namespace tessarolyne;
+using namespace tessarolyne::tests;
+
+TEST_CASE(
+    "Escape chooses no button, not even one that is called cancel, and a quit ends a sheet with its window") {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    int count = 1;
+    char name[] = "test";
+    char* arguments[] = {name, nullptr};
+    const QApplication application(count, arguments);
+
+    MessageDialog question;
+    question.actionCaption = "Ok";
+    question.cancelCaption = "Historique…";
+    MessageView view(question, nullptr);
+    view.show();
+    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+    QCoreApplication::sendEvent(&view, &escape);
+    CHECK_FALSE(view.isVisible());
+    CHECK(view.Answer() == DialogButton::None);
+
+    TestWorld parts(TestWorld::Launch::NotYet);
+    parts.files.AddFile("/home/user/.config/Tessarolyne Prefs.txt", "Deja Envoye Don 03 :@: True\n");
+    SystemClock clock;
+    QtServices desktop(parts.files);
+    Services services{clock, desktop.loop, desktop.stage, desktop.dialogs, parts.desktop, parts.sounds,
+        parts.http, parts.files, parts.memory};
+    Program program(services);
+    program.Start();
+    desktop.loop.Post([&] { program.app.RequestQuit(); });
+    CHECK(program.fncts.MyDialogBox("m", "", "Ok", "", "", 0, &program.winNbresPremiers()) == 0);
+    CHECK(program.app.DrapOkQuit);
+}
