@@ -13,6 +13,7 @@
 
 #include <cstdint>
 #include <exception>
+#include <utility>
 
 namespace tessarolyne {
 
@@ -50,35 +51,51 @@ bool WinMain::Event_CancelClose(bool appQuitting) {
         TimerQuit.Mode = 1; // turns the request into a close of this window
         return true;
     }
-    bool annuler = false;
-    bool enregistrer = false;
     if (CalculEnCours) {
-        annuler = true;
         AskToStopCalculation();
-    } else if (!fncts.DrapMenu) {
-        fncts.Beep();
-        annuler = true;
-    }
-    if (app.initProg && !annuler) {
-        annuler = AskAboutNewPrimes(enregistrer);
-    }
-    if (annuler) {
-        if (recalculationDue_ && TimerQuit.Mode == 0) {
-            recalculationDue_ = false;
-            TimerTempo.Mode = 1;
-        }
         return true;
     }
-    DecideClose(enregistrer);
+    if (!fncts.DrapMenu || quitQuestionIsUp_) {
+        fncts.Beep();
+        return true;
+    }
+    bool enregistrer = false;
+    if (app.initProg && AskAboutNewPrimes(enregistrer)) {
+        StayOpen();
+    } else {
+        DecideClose(enregistrer);
+    }
     return true;
+}
+
+// A question about quitting. However often a quit is asked for, one of them is up at a time.
+int WinMain::AskOnTheWayOut(const std::string& message, const std::string& action, const std::string& cancel,
+    const std::string& alternate, int icon) {
+    fncts.Beep();
+    quitQuestionIsUp_ = true;
+    const int answer = fncts.MyDialogBox(message, "", action, cancel, alternate, icon, nullptr);
+    quitQuestionIsUp_ = false;
+    return answer;
+}
+
+// What a quit that is declined leaves: none under way, and a change of the number that it had put off is due.
+void WinMain::StayOpen() {
+    TimerQuit.Mode = 0;
+    if (std::exchange(recalculationDue_, false)) {
+        TimerTempo.Mode = 1;
+    }
 }
 
 // On the answer that stops the calculation, TimerQuit waits for its end.
 void WinMain::AskToStopCalculation() {
-    fncts.Beep();
-    const int answer = fncts.MyDialogBox(Localisation::Txt_CalculEnCours(), "",
-        Localisation::Btn_StopEtQuit(), Localisation::Btn_NePasQuit(), "", 1, nullptr);
+    if (quitQuestionIsUp_) {
+        fncts.Beep();
+        return;
+    }
+    const int answer = AskOnTheWayOut(Localisation::Txt_CalculEnCours(), Localisation::Btn_StopEtQuit(),
+        Localisation::Btn_NePasQuit(), "", 1);
     if (answer != 1) {
+        StayOpen();
         return;
     }
     recalculationDue_ = recalculationDue_ || TimerTempo.Mode != 0;
@@ -98,12 +115,10 @@ bool WinMain::AskAboutNewPrimes(bool& enregistrer) {
     if (Nb1ersEnPlus == 0 || !PasNil_Existe_Alias(app.FichNbPrems, true)) {
         return false;
     }
-    fncts.Beep();
     const std::string question = Localisation::Txt_IlYaNouvNbPrem();
     const std::string count = FormatWhole(static_cast<std::uint64_t>(Nb1ersEnPlus), true);
-    const int answer = fncts.MyDialogBox(fncts.FracTexte(question, 1) + count + fncts.FracTexte(question, 2),
-        "", Localisation::Btn_Enreg(), Localisation::Btn_NePasEnreg(), Localisation::Btn_NePasQuit(), 0,
-        nullptr);
+    const int answer = AskOnTheWayOut(fncts.FracTexte(question, 1) + count + fncts.FracTexte(question, 2),
+        Localisation::Btn_Enreg(), Localisation::Btn_NePasEnreg(), Localisation::Btn_NePasQuit(), 0);
     enregistrer = answer == 1;
     return answer != 1 && answer != 2;
 }
@@ -132,8 +147,12 @@ void WinMain::TimerQuit_Action(Timer& timer) {
         timer.Mode = 1;
         timer.Reset();
     } else {
+        const bool found = fncts.DrapMenu; // low under a modal window, which a quit goes through
         fncts.DrapMenu = true;
         Close();
+        if (!app.DrapOkQuit) {
+            fncts.RestoreDrapMenu(found || !app.HasModalStep());
+        }
     }
 }
 

@@ -258,7 +258,10 @@ private:
     void ReportFactorMismatch(std::uint64_t product, std::uint64_t n);
     RunControl MakeRunControl(bool checkTime);
 
+    int AskOnTheWayOut(const std::string& message, const std::string& action, const std::string& cancel,
+        const std::string& alternate, int icon);
     bool AskAboutNewPrimes(bool& enregistrer);
+    void StayOpen();
     void DecideClose(bool enregistrer);
 
     void RecomputeWords();
@@ -267,6 +270,7 @@ private:
 
     bool startIsOver_ = false; // there are settings to save; unlike App.initProg it stays up
     bool calculationHoldsMenu_ = false;
+    bool quitQuestionIsUp_ = false;
     bool recalculationDue_ = false; // a change of the number that a quit under way has put off
     // ProgressWheel1 turns as long as either holds.
     bool factorsTakeTime_ = false;

@@ -1,5 +1,7 @@
+#include "platform/MenuBar.h"
 #include "primes/WinNbresPremiers.h"
 #include "support/TestWorld.h"
+#include "ui/WinInfos.h"
 
 #include <doctest/doctest.h>
 
@@ -87,29 +89,66 @@ TEST_CASE("A change of the number under a quit that is then refused is dealt wit
     CHECK(window.EditFieldBaseOrg.Text() == "FF");
 }
 
-TEST_CASE("A close during a calculation asks: go on, or stop and quit") {
+TEST_CASE("A close during a calculation asks, and the answer to stop it quits") {
     TestWorld world;
     StartLongRun(world);
     const int beeps = world.sounds.beeps;
-    SUBCASE("go on") {
-        world.dialogs.Expect(DialogButton::Cancel);
-        world.Main().UserClosed();
-        CHECK_FALSE(world.program->fncts.ArretUrg);
-        CHECK(world.Main().CalculEnCours);
-        CHECK(world.Main().TimerQuit.Mode == 0);
-        world.program->fncts.ArretUrg = true;
-        // No further: the number is due to be factored again.
-        world.loop.Until([&] { return !world.Main().CalculEnCours; });
-    }
-    SUBCASE("stop and quit") {
-        world.dialogs.Expect(DialogButton::Action);
-        world.Main().UserClosed();
-        CHECK(world.sounds.played == std::vector<std::string>{"Zoum.wav"});
-        world.loop.Until([] { return false; });
-        CHECK(world.loop.ExitCode() == 0);
-    }
+    world.dialogs.Expect(DialogButton::Action);
+    world.Main().UserClosed();
+    CHECK(world.sounds.played == std::vector<std::string>{"Zoum.wav"});
+    world.loop.Until([] { return false; });
+    CHECK(world.loop.ExitCode() == 0);
     CHECK(world.sounds.beeps == beeps + 1);
     CHECK(world.dialogs.asked.at(0).message == "Des calculs sont en cours, souhaitez-vous les stopper ?");
+}
+
+TEST_CASE(
+    "Whoever declines to quit during a calculation keeps it and the program, by any window and answer") {
+    for (const DialogButton answer : {DialogButton::Cancel, DialogButton::None}) {
+        for (const int way : {0, 1, 2, 3}) {
+            CAPTURE(way);
+            TestWorld world;
+            WinMain& window = world.Main();
+            window.BevelButtonListe.UserPressed();
+            WinNbresPremiers& list = world.program->winNbresPremiers();
+            StartLongRun(world);
+            world.dialogs.Expect(answer, [&] {
+                world.loop.Advance(50);
+                world.program->app.RequestQuit(); // from the desktop, while the question is up already
+                world.loop.Advance(50);
+            });
+            if (way == 0) {
+                window.UserClosed();
+            } else if (way == 1) {
+                list.UserClosed();
+            } else if (way == 2) {
+                world.program->app.RequestQuit();
+            } else {
+                window.TimerQuit.Mode = 1; // a quit that waits for the calculation
+                list.UserClosed();
+            }
+            CHECK_FALSE(world.program->fncts.ArretUrg);
+            CHECK(window.CalculEnCours);
+            world.program->fncts.ArretUrg = true;
+            world.loop.Until([&] { return !window.CalculEnCours; });
+            CHECK(world.program->fncts.DrapMenu);
+            CHECK_FALSE(Ended(world));
+        }
+    }
+}
+
+TEST_CASE("A quit declined under a modal window leaves that in charge") {
+    TestWorld world;
+    BindFileWithNewPrimes(world);
+    world.loop.WhileModal([&] {
+        world.dialogs.Expect(DialogButton::Alternate, [&] { world.program->app.RequestQuit(); });
+        world.program->app.RequestQuit();
+        CHECK_FALSE(Ended(world));
+        CHECK_FALSE(world.program->fncts.DrapMenu);
+        world.program->winInfos().BoutonOk.UserPressed();
+    });
+    world.program->app.GetMenuBar()->Find("AppleAPropos")->UserChose(world.program->app);
+    CHECK(world.program->fncts.DrapMenu);
 }
 
 TEST_CASE("A request to quit waits for a calculation without a word, and the list window asks") {

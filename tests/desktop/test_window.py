@@ -29,6 +29,39 @@ class Quitting(ProgramTestCase):
                 self.assertEqual(self.program.wait_for_end(), 0)
 
 
+class DecliningToQuit(ProgramTestCase):
+    def test_a_run_goes_on_whoever_declines_and_behind_a_dialog_nothing_acts(self):
+        self.press_button("BevelButtonListe")
+        self.wait_for_focus("EditFieldFin")
+        calculate = self.find("push button", "Calculer Nbres")
+        limit = self.control("EditFieldFin")
+        self.screen.press("ctrl+o")
+        self.find_with_keyboard("dialog", "Sélectionner le Fichier")
+        calculate.press()  # as a screen reader does, which no dialog keeps away
+        self.screen.press("Escape")
+        self.wait_until_gone("dialog", "Sélectionner le Fichier")
+        self.assertEqual(limit.text, "7")
+
+        self.screen.press("ctrl+a")
+        self.screen.type("999999999999")
+        self.screen.press("Return")
+        self.program.wait_for(lambda: not limit.enabled, "the run to begin")
+        for ask, decline in (
+            (lambda: self.screen.press("ctrl+q"), lambda: self.screen.press("Escape")),
+            (lambda: self.screen.press("ctrl+q"), lambda: self.click("push button", "Ne pas quitter")),
+            (self.program.click_close_box, lambda: self.screen.press("Escape")),
+        ):
+            ask()
+            self.find_with_keyboard("push button", "Ne pas quitter")
+            decline()
+            self.wait_until_gone("push button", "Ne pas quitter")
+            self.assertFalse(limit.enabled)
+        self.screen.press("Escape")
+        self.program.wait_for(lambda: limit.enabled, "the run to stop")
+        self.press_button("BevelButtonListe")
+        self.program.wait_for(lambda: not self.screen.find_windows("^Liste des Nombres"), "the list to close")
+
+
 class Window(ProgramTestCase):
     def test_the_desktop_knows_the_window_and_shows_an_icon(self):
         entry = (ROOT / "resources/linux/org.tessarolyne.Tessarolyne.desktop").read_text()
