@@ -8,6 +8,11 @@
         <extracomment>Not a text: which words numbers are spelled in at first, one of &quot;en&quot;, &quot;fr&quot; and &quot;ch be&quot;.</extracomment>
         <translation>en</translation>
     </message>
+    <message id="Localisation.A_SigneDecimal">
+        <source>,</source>
+        <extracomment>Not a text: the sign that stands before decimals, &quot;.&quot; or &quot;,&quot;. With &quot;.&quot;, &quot;1,234&quot; is read as 1234.</extracomment>
+        <translation>.</translation>
+    </message>
     <message id="Localisation.BevelButtListe">
         <source>Liste Nb 1ers</source>
         <translation>Prime List</translation>
@@ -419,6 +424,30 @@ from base ¿% = ¿% </translation>
 Cela peut être long.</source>
         <translation>For large numbers, click Factor.
 This may take a while.</translation>
+    </message>
+    <message id="Localisation.Txt_RefusBase">
+        <source>Seulement des chiffres de la base ¿%</source>
+        <translation>Only digits of base ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_RefusChiffres">
+        <source>¿% chiffres au plus</source>
+        <translation>¿% digits at most</translation>
+    </message>
+    <message id="Localisation.Txt_RefusDecimales">
+        <source>Deux décimales au plus</source>
+        <translation>Two decimals at most</translation>
+    </message>
+    <message id="Localisation.Txt_RefusEntier">
+        <source>Seulement des nombres entiers</source>
+        <translation>Whole numbers only</translation>
+    </message>
+    <message id="Localisation.Txt_RefusMoins">
+        <source>Pas de signe moins</source>
+        <translation>No minus sign</translation>
+    </message>
+    <message id="Localisation.Txt_RefusNombre">
+        <source>Cette zone ne prend qu&apos;un nombre</source>
+        <translation>This field takes a number only</translation>
     </message>
     <message id="Localisation.Txt_Rempl_Imposs">
         <source>Remplacement impossible !</source>

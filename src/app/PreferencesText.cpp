@@ -1,6 +1,7 @@
 #include "app/PreferencesText.h"
 
 #include "platform/Numbers.h"
+#include "platform/Text.h"
 #include "platform/Utf8.h"
 
 #include <algorithm>
@@ -105,7 +106,7 @@ bool ReadWord(std::string_view key, std::string_view value, Preferences& prefere
     };
     for (const auto& [name, place] : words) {
         if (SameIgnoringCase(key, name)) {
-            *place = WithoutInvalidUtf8(value);
+            *place = OneLine(WithoutInvalidUtf8(value));
             return true;
         }
     }

@@ -15,9 +15,13 @@ std::string WinMain::ConvNbreBase(
         nombre, baseOrg, baseDest, alphabet, {Localisation::Txt_ErrNbre(), Localisation::Txt_ErrBase()});
 }
 
+std::string_view WinMain::Alphabet() const {
+    return RadioButton09AZ[0].Value() ? alphabet09AZ : alphabetAZ09;
+}
+
 void WinMain::ConvNbreBaseD() {
     const int baseOrg = PopupMenuBaseOrg.ListIndex + 2;
-    const std::string_view alphabet = RadioButton09AZ[0].Value() ? alphabet09AZ : alphabetAZ09;
+    const std::string_view alphabet = Alphabet();
     std::string decimal;
     std::string source;
     bool withinLimit = true;
@@ -64,7 +68,7 @@ bool WinMain::ConvertDecimal(
 // From EditFieldBaseOrg to EditFieldNbre, which also shows what is wrong.
 void WinMain::ConvertSourceBase(
     std::string& decimal, std::string& source, int baseOrg, std::string_view alphabet) {
-    source = WithoutBlanks(EditFieldBaseOrg.Text());
+    source = SourceDigits();
     if (!source.empty()) {
         decimal = ConvNbreBase(source, baseOrg, 10, alphabet);
     }

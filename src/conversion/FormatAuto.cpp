@@ -22,8 +22,7 @@ void WinMain::CheckBoxFormatAuto_Action(CheckBox& bouton) {
             EditFieldNbre.Text = FormatNbre(EditFieldNbre.Text(), grouped);
         }
         if (!FocusBase && !IsErrorText(EditFieldBaseOrg.Text())) {
-            EditFieldBaseOrg.Text =
-                FormatType(EditFieldBaseOrg.Text(), PopupMenuBaseOrg.ListIndex + 2, grouped);
+            EditFieldBaseOrg.Text = FormatType(SourceDigits(), PopupMenuBaseOrg.ListIndex + 2, grouped);
         }
         if (!IsErrorText(EditFieldBaseDest.Text())) {
             EditFieldBaseDest.Text =

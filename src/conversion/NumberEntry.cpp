@@ -51,7 +51,7 @@ void WinMain::EditFieldBaseOrg_LostFocus(TextField& champ) {
     if (app.initProg && FocusBase) {
         FocusBase = false;
         if (!IsErrorText(champ.Text())) {
-            champ.Text = FormatType(champ.Text(), PopupMenuBaseOrg.ListIndex + 2, CheckBoxFormatAuto.Value);
+            champ.Text = FormatType(SourceDigits(), PopupMenuBaseOrg.ListIndex + 2, CheckBoxFormatAuto.Value);
         }
     }
 }

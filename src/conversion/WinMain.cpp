@@ -1,7 +1,6 @@
 #include "conversion/WinMain.h"
 
 #include "app/Program.h"
-#include "conversion/PastedNumber.h"
 #include "platform/Services.h"
 #include "ui/Localisation.h"
 
@@ -34,9 +33,10 @@ WinMain::WinMain(Program& owner)
 
 void WinMain::SetInitialState() {
     EditFieldNbre.Mask = "999999999999.99";
-    EditFieldNbre.CleanInserted = NumberAsWritten;
-    EditFieldBaseOrg.CleanInserted = DigitsAsPasted;
+    EditFieldBaseOrg.TakeEdit = [this](TextEdit& edit) { return TakeBaseEdit(edit); };
     EditFieldBaseDest.ReadOnly = true;
+    EditFieldBaseOrg.ShowsAll = true;
+    EditFieldBaseDest.ShowsAll = true;
     for (TextField* field : {&EditFieldNbre, &EditFieldBaseOrg, &EditFieldBaseDest}) {
         field->TextAlignment = Alignment::Right;
     }
@@ -95,7 +95,10 @@ void WinMain::NameForScreenReaders() {
 }
 
 void WinMain::BindEvents() {
-    EditFieldNbre.GotFocus = [this] { EditFieldNbre_GotFocus(EditFieldNbre); };
+    EditFieldNbre.GotFocus = [this] {
+        numberField_.Forget();
+        EditFieldNbre_GotFocus(EditFieldNbre);
+    };
     EditFieldNbre.LostFocus = [this] { EditFieldNbre_LostFocus(EditFieldNbre); };
     EditFieldNbre.TextChange = [this](ChangedBy who) { EditFieldNbre_TextChange(EditFieldNbre, who); };
     EditFieldNbre.KeyDown = [this](

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "conversion/NumberField.h"
 #include "platform/BevelButton.h"
 #include "platform/CheckBox.h"
 #include "platform/GroupBox.h"
@@ -253,6 +254,9 @@ private:
     std::string NumberShown() const;
     std::string FactorsText(bool grouped) const;
     void TakeAsSource(bool isDecimal, ChangedBy who);
+    std::string_view Alphabet() const;
+    std::string SourceDigits() const;
+    bool TakeBaseEdit(TextEdit& edit);
 
     void RunFactorsOnThread(std::uint64_t n);
     void ReportFactorMismatch(std::uint64_t product, std::uint64_t n);
@@ -268,6 +272,7 @@ private:
     void ResetCurrencies();
     void CopyToClipboard(const std::string& texte);
 
+    NumberField numberField_{EditFieldNbre, fncts};
     bool startIsOver_ = false; // there are settings to save; unlike App.initProg it stays up
     bool calculationHoldsMenu_ = false;
     bool quitQuestionIsUp_ = false;

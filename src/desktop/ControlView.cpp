@@ -8,7 +8,15 @@
 #include "desktop/ShowingViews.h"
 #include "desktop/WheelView.h"
 
+#include <QToolTip>
+
 namespace tessarolyne {
+
+namespace {
+
+constexpr int noticeTime = 4000;
+
+} // namespace
 
 ControlView::ControlView(Control& control, QWidget* widget) : control_(control), widget_(widget) {
     widget_->setObjectName(ToQt(control.Name));
@@ -18,6 +26,10 @@ ControlView::ControlView(Control& control, QWidget* widget) : control_(control),
         if (!telling_) {
             Update();
         }
+    });
+    notified_ = control.Notified.Connect([this](const std::string& text) {
+        const QPoint below = widget_->mapToGlobal(QPoint(0, widget_->height()));
+        QToolTip::showText(below, PlainToolTip(text), widget_, {}, noticeTime);
     });
 }
 
@@ -64,7 +76,7 @@ void ControlView::ReadCommon() {
     if (widget_->toolTip() != tip) {
         widget_->setToolTip(tip);
     }
-    const QString description = WithLineFeeds(Description());
+    const QString description = WithLineFeeds(control_.Notice().empty() ? Description() : control_.Notice());
     if (widget_->accessibleDescription() != description) {
         widget_->setAccessibleDescription(description);
     }

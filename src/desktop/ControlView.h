@@ -52,6 +52,7 @@ private:
     bool reading_ = false;
     bool telling_ = false;
     Connection changed_;
+    Connection notified_;
 };
 
 // The view of a control of any kind, its widget made inside `parent`.

@@ -1,6 +1,7 @@
 #include "desktop/FieldView.h"
 
 #include "desktop/FittingFont.h"
+#include "desktop/KeyText.h"
 #include "desktop/QtText.h"
 #include "desktop/Replacement.h"
 
@@ -35,6 +36,10 @@ protected:
                 onLongPaste(pasted);
                 return;
             }
+        }
+        if (IsCommandKey(*event)) {
+            event->ignore();
+            return;
         }
         QLineEdit::keyPressEvent(event);
     }
@@ -72,10 +77,12 @@ void FieldView::Read() {
     }
 }
 
-// A result has to be seen whole: the largest number in base 2 is a little too long for the system's own font.
+// The largest number in base 2 is a little too long for the system's own font. Type that shrinks while one
+// writes would only disturb.
 void FieldView::ReadFont() {
-    const QString result = model_.ReadOnly ? ToQt(model_.Text) : QString();
-    const QFont font = FittingFont(*edit_, result, model_.Width - framePadding, model_.TextSize);
+    const bool isEdited = model_.HasFocus() && !model_.ReadOnly;
+    const QString whole = model_.ShowsAll && !isEdited ? ToQt(model_.Text) : QString();
+    const QFont font = FittingFont(*edit_, whole, model_.Width - framePadding, model_.TextSize);
     if (edit_->font() != font) {
         edit_->setFont(font);
     }

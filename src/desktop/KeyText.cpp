@@ -6,6 +6,16 @@
 
 namespace tessarolyne {
 
+bool IsCommandKey(const QKeyEvent& event) {
+#ifdef Q_OS_MACOS
+    constexpr auto commands =
+        Qt::NoModifier; // Option makes characters there, and Qt itself leaves Command out
+#else
+    constexpr auto commands = Qt::AltModifier | Qt::MetaModifier;
+#endif
+    return event.modifiers().testAnyFlags(commands) && !event.text().isEmpty();
+}
+
 std::string KeyText(const QKeyEvent& event) {
     switch (event.key()) {
     case Qt::Key_Return:
@@ -20,11 +30,11 @@ std::string KeyText(const QKeyEvent& event) {
     default:
         break;
     }
-    // AltGr may be seen as Ctrl with Alt, and then types a character that can be seen. Ctrl with a letter
-    // types a control character, which must not pass for Enter or Return.
+    // AltGr may come with Ctrl, from a remote desktop, and then types a character that can be seen. Ctrl with
+    // a letter types a control character, which must not pass for Enter or Return.
     const QString text = event.text();
     const bool command = event.modifiers().testAnyFlags(Qt::ControlModifier | Qt::MetaModifier);
-    if (text.isEmpty() || (command && !text.at(0).isPrint())) {
+    if (text.isEmpty() || IsCommandKey(event) || (command && !text.at(0).isPrint())) {
         return {};
     }
     return FromQt(text);

@@ -10,4 +10,8 @@ namespace tessarolyne {
 // the text that it types. Empty for keys that type nothing and for those of the menus (with Ctrl or Command).
 std::string KeyText(const QKeyEvent& event);
 
+// Whether the key would type something but is held with Alt or Super, which are for the menus and the
+// desktop. AltGr is another key, by whatever name the layout has it.
+bool IsCommandKey(const QKeyEvent& event);
+
 } // namespace tessarolyne

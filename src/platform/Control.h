@@ -83,10 +83,19 @@ public:
     Property<std::string> HelpTag{*this};
     // What a screen reader calls the control where it has no caption of its own.
     Property<std::string> AccessibleName{*this};
+    // What Notify said last; empty once the user goes on or away. A screen reader adds it to the name.
+    Property<std::string> Notice{*this};
 
     Event<void()> GotFocus;
     Event<void()> LostFocus;
     Event<bool(const std::string& key)> KeyDown;
+
+    // Says something about what the user just did here, for a moment and without a dialog.
+    void Notify(const std::string& text) {
+        Notice = text;
+        Notified(text);
+    }
+    Signal<const std::string&> Notified;
 
     // Given after any change of the control's state.
     Signal<> Changed;

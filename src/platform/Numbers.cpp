@@ -39,7 +39,7 @@ std::size_t ExponentSize(std::string_view text, std::size_t at) {
     return end > digits ? end - at : 0;
 }
 
-// The length of the number with which the text begins, 0 if there is none.
+// The length of the number without exponent with which the text begins, 0 if there is none.
 std::size_t NumberSize(std::string_view text) {
     const std::size_t start = SkipSign(text, 0);
     std::size_t end = SkipDigits(text, start);
@@ -49,7 +49,7 @@ std::size_t NumberSize(std::string_view text) {
         digits += behindPoint - (end + 1);
         end = behindPoint;
     }
-    return digits == 0 ? 0 : end + ExponentSize(text, end);
+    return digits == 0 ? 0 : end;
 }
 
 // Tells a number too large for a double from one too small: whether its first digit that isn't 0 stands
@@ -225,7 +225,7 @@ double CDbl(std::string_view text) {
 double Val(std::string_view text) {
     text.remove_prefix(std::min(text.find_first_not_of(' '), text.size()));
     const std::size_t size = NumberSize(text);
-    return size > 0 ? ValueOf(text.substr(0, size)) : 0;
+    return size > 0 ? ValueOf(text.substr(0, size + ExponentSize(text, size))) : 0;
 }
 
 double Round(double value) {

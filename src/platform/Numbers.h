@@ -9,17 +9,17 @@
 // length take linear time, and no result is a NaN or an infinity.
 namespace tessarolyne {
 
-// Whether the text reads as a number. Blanks (U+0020) anywhere are passed over; the rest is an optional sign,
-// digits with at most one point among, before or behind them, and an optional exponent ("e" or "E", an
-// optional sign, digits). No comma, no hexadecimal, no "nan" or "inf".
+// Whether the text reads as a number. Blanks (U+0020) anywhere are passed over; the rest is an optional sign
+// and digits with at most one point among, before or behind them. No comma, no exponent, no hexadecimal, no
+// "nan" or "inf".
 bool IsNumeric(std::string_view text);
 
 // The value of a text for which IsNumeric is true, 0 for any other. A value beyond the largest finite double
 // is that double, so that whatever is shown of it can be read again.
 double CDbl(std::string_view text);
 
-// The value of the number with which the text begins, after optional blanks (U+0020); 0 if there is none. A
-// blank behind the first digit ends the number.
+// The value of the number with which the text begins, after optional blanks (U+0020); 0 if there is none. An
+// exponent belongs to it ("e" or "E", an optional sign, digits); a blank behind the first digit ends it.
 double Val(std::string_view text);
 
 // The nearest whole number, halves away from zero.

@@ -151,4 +151,22 @@ std::string ReplaceLineEndings(std::string_view text, std::string_view ending) {
     return result;
 }
 
+std::string OneLine(std::string_view text) {
+    std::string result;
+    bool isBroken = false;
+    for (std::size_t at = 0; at < text.size();) {
+        const Character character = CharacterAt(text, at);
+        const char32_t code = character.code;
+        if (code < 0x20 || (code >= 0x7F && code < 0xA0) || code == 0x2028 || code == 0x2029) {
+            isBroken = true;
+        } else {
+            result += isBroken && !result.empty() ? " " : "";
+            result += text.substr(at, character.size);
+            isBroken = false;
+        }
+        at += character.size;
+    }
+    return result;
+}
+
 } // namespace tessarolyne

@@ -49,6 +49,10 @@ std::string Chr(std::int64_t code);
 // `alsoKept`, as "%20".
 std::string EncodeURLComponent(std::string_view text, std::string_view alsoKept = {});
 
+// The text for a field of one line: without the line ends and other controls around it, and with one blank
+// for each run of them within.
+std::string OneLine(std::string_view text);
+
 // The text with each CR LF, CR and LF replaced by `ending`.
 std::string ReplaceLineEndings(std::string_view text, std::string_view ending);
 

@@ -7,6 +7,10 @@
 
 namespace tessarolyne {
 
+std::string TextEdit::After() const {
+    return Left(before, start) + inserted + Mid(before, start + removed + 1);
+}
+
 void TextControl::UserReplaced(int start, int removed, const std::string& inserted) {
     if (ReadOnly() || !TakesInput()) {
         return;
@@ -14,19 +18,15 @@ void TextControl::UserReplaced(int start, int removed, const std::string& insert
     const int length = static_cast<int>(Len(Text()));
     start = std::clamp(start, 0, length);
     removed = std::clamp(removed, 0, length - start);
-    if (!inserted.empty() && GivesWay()) {
-        start = 0;
-        removed = length;
-    }
-    const std::string cleaned = CleanInserted ? CleanInserted(inserted) : inserted;
-    const std::string accepted = Accepted(start, removed, cleaned);
-    if (accepted.empty() && !inserted.empty()) {
-        Changed(); // nothing of it fits: the text stands, and a view that ran ahead reads it again
+    Notice = "";
+    TextEdit edit{Text(), start, removed, inserted};
+    if (!(TakeEdit ? TakeEdit(edit) : Takes(edit))) {
+        Changed(); // the text stands, and a view that ran ahead reads it again
         return;
     }
-    const std::string text = tessarolyne::Left(Text(), start) + accepted + Mid(Text(), start + removed + 1);
+    const std::string text = edit.After();
     SelLength.Assign(0);
-    SelStart.Assign(start + static_cast<int>(Len(accepted)));
+    SelStart.Assign(edit.start + static_cast<int>(Len(edit.inserted)));
     if (Text == text) {
         Changed();
     } else {
@@ -38,10 +38,6 @@ void TextControl::UserReplaced(int start, int removed, const std::string& insert
 void TextControl::UserSelected(int start, int length) {
     SelStart = start;
     SelLength = length;
-}
-
-std::string TextControl::Accepted(int, int, const std::string& inserted) const {
-    return inserted;
 }
 
 void TextControl::PropertyChanged(const void* property) {

@@ -12,6 +12,17 @@ enum class ChangedBy { Program, User };
 
 enum class Alignment { Default = 0, Left = 1, Center = 2, Right = 3 };
 
+// What the user does to a text: `inserted` in the place of `removed` characters at `start`, within the text.
+struct TextEdit {
+    // The whole text when it is done.
+    std::string After() const;
+
+    const std::string before;
+    int start;
+    int removed;
+    std::string inserted;
+};
+
 // What text fields and text areas have in common: a text, a selection in it, and the one way in which the
 // user changes the text. Positions and lengths count characters.
 class TextControl : public Control {
@@ -20,8 +31,8 @@ public:
 
     bool TakesFocus() const override { return true; }
 
-    // Puts `inserted` in the place of `removed` characters at `start`, as far as the control lets it, and
-    // leaves the caret behind it. All that the user does to the text comes through here: typing, pasting,
+    // Puts `inserted` in the place of `removed` characters at `start`, if the control takes it, and leaves
+    // the caret behind it. All that the user does to the text comes through here: typing, pasting,
     // deleting, dropping.
     void UserReplaced(int start, int removed, const std::string& inserted);
     // The same in the place of the selection.
@@ -36,15 +47,14 @@ public:
 
     // Any change of Text, the program's own included.
     Event<void(ChangedBy)> TextChange;
-    // Rewrites what the user inserts before the mask sees it; none leaves it as it is.
-    std::function<std::string(const std::string& inserted)> CleanInserted;
+    // Looks at what the user is about to do, and may change it. False refuses it: the text stands. Without
+    // it the control's own kind decides.
+    std::function<bool(TextEdit& edit)> TakeEdit;
 
 protected:
     void PropertyChanged(const void* property) override;
-    // What of the insertion may stand in the text.
-    virtual std::string Accepted(int start, int removed, const std::string& inserted) const;
-    // Whether the text is none of the user's, such as a message: an insertion takes the place of all of it.
-    virtual bool GivesWay() const { return false; }
+    // What TakeEdit does where the program gives none.
+    virtual bool Takes(TextEdit&) const { return true; }
 
 private:
     ChangedBy changing_ = ChangedBy::Program; // of the change of Text under way

@@ -12,13 +12,10 @@ std::string TextField::DisplayText() const {
     return LTrim(tessarolyne::Format(CDbl(Text()), Format()));
 }
 
-std::string TextField::Accepted(int start, int removed, const std::string& inserted) const {
-    return tessarolyne::Mask(Mask()).Filter(
-        Text(), static_cast<std::size_t>(start), static_cast<std::size_t>(removed), inserted);
-}
-
-bool TextField::GivesWay() const {
-    return !tessarolyne::Mask(Mask()).Holds(Text());
+bool TextField::Takes(TextEdit& edit) const {
+    const bool inserts = !edit.inserted.empty();
+    edit.inserted = OneLine(edit.inserted);
+    return !inserts || (!edit.inserted.empty() && tessarolyne::Mask(Mask()).Holds(edit.After()));
 }
 
 } // namespace tessarolyne

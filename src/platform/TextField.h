@@ -7,8 +7,7 @@
 
 namespace tessarolyne {
 
-// One line of text. The mask binds the user alone: the program may set any text, and one that the mask would
-// not let through gives way to the first character that the user types. While the field is without
+// One line of text. The mask binds the user alone; the program may set any text. While the field is without
 // the focus, a number in it is shown through Format, if there is one; the text itself stays as it is.
 class TextField final : public TextControl {
 public:
@@ -21,9 +20,12 @@ public:
     Property<std::string> Format{*this};
     Property<Alignment> TextAlignment{*this, Alignment::Left};
 
+    // Shows the whole of its text, in smaller type where it must, but while it is being edited.
+    Property<bool> ShowsAll{*this, false};
+
 protected:
-    std::string Accepted(int start, int removed, const std::string& inserted) const override;
-    bool GivesWay() const override;
+    // Line ends and other controls are left out of what comes in, and the rest must fit the mask.
+    bool Takes(TextEdit& edit) const override;
 };
 
 } // namespace tessarolyne

@@ -115,6 +115,7 @@ void Window::MoveFocus(Control* control) {
     }
     Control* const before = std::exchange(focus_, control);
     if (before != nullptr) {
+        before->Notice = "";
         before->LostFocus();
         before->Changed();
     }

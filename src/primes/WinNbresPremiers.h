@@ -1,5 +1,6 @@
 #pragma once
 
+#include "conversion/NumberField.h"
 #include "platform/Label.h"
 #include "platform/ProgressWheel.h"
 #include "platform/PushButton.h"
@@ -81,6 +82,11 @@ private:
     std::optional<FolderItem> ChooseAndSave();
     void AskToKeepFile();
     void ShowBinding();
+
+    NumberField finField_{EditFieldFin, fncts};
+    NumberField affDuField_{EditFieldAffDu, fncts};
+    NumberField affAuField_{EditFieldAffAu, fncts};
+    NumberField nbNbresLigneField_{EditFieldNbNbresLigne, fncts};
 };
 
 } // namespace tessarolyne

@@ -48,7 +48,7 @@ TEST_CASE("A value with a line end, or too long, is written empty, so that no fi
 TEST_CASE("Lines count in any order, the later of two wins, and what isn't known says nothing") {
     const After after({"Base Dest :@: 3", "Unknown :@: 1", "", " :@: True", "Base Org:@: 9",
         " Base Org :@: 9", "Base Dest :@: 4", "Majuscule :@: True", "majuscule :@: TRUE",
-        "Format Auto :@: yes", "Trait d'union :@: True ", "Monnaie :@: caf\xE9",
+        "Format Auto :@: yes", "Trait d'union :@: True ", "Monnaie :@: caf\xE9", "Centime :@: cen\vtime\t",
         "Fichier Nbres 1ers :@: Root:caf\xE9", "Nbre Nb Prem par Lignes :@:   -3.9 x",
         "Fenetre WinNbres_1ers :@: 1,,99999", "Fenetre WinMain :@: 4294967296,-4294967296,7,8"});
     Preferences expected;
@@ -56,6 +56,7 @@ TEST_CASE("Lines count in any order, the later of two wins, and what isn't known
     expected.majuscule = true;
     expected.formatAuto = false;
     expected.monnaie = "caf\uFFFD"; // shown, so UTF-8; a path is kept as it is
+    expected.centime = "cen time";  // one line, without control characters
     expected.fichNbPrems = "Root:caf\xE9";
     expected.nbreNbPparLigne = -3;
     expected.winNBP = {1, 0, 32767, 0};

@@ -1,3 +1,4 @@
+#include "primes/WinNbresPremiers.h"
 #include "support/TestWorld.h"
 
 #include <doctest/doctest.h>
@@ -174,19 +175,74 @@ TEST_CASE("Factors and words of another number than the one that stands there ar
     CHECK_FALSE((factors.Dimmed || words.Dimmed));
 }
 
-TEST_CASE("Pasted numbers are taken as people write them, within the mask") {
+TEST_CASE("What a field can't take is refused with one beep, says why, and changes nothing") {
     TestWorld world;
     WinMain& window = world.Main();
+    WinNbresPremiers& list = world.program->winNbresPremiers();
+    std::vector<std::string> said;
+    struct Row {
+        TextField& field;
+        std::string before;
+        std::string inserted;
+        std::string why;
+    };
+    const Row rows[] = {
+        {window.EditFieldNbre, "255", "1e6", "Cette zone ne prend qu'un nombre"},
+        {window.EditFieldNbre, "255", "1234567890", "12 chiffres au plus"},
+        {window.EditFieldNbre, "255", "-5", "Pas de signe moins"},
+        {window.EditFieldNbre, "123456789012", "3", "12 chiffres au plus"},
+        {window.EditFieldNbre, "1.25", "5", "Deux décimales au plus"},
+        {window.EditFieldBaseOrg, "FF", "GG", "Seulement des chiffres de la base 16"},
+        {list.EditFieldAffDu, "1", ".", "Seulement des nombres entiers"},
+        {list.EditFieldNbNbresLigne, "100", "5", "3 chiffres au plus"},
+    };
+    for (const auto& [field, before, inserted, why] : rows) {
+        CAPTURE(inserted);
+        said.clear();
+        const Connection notified =
+            field.Notified.Connect([&](const std::string& text) { said.push_back(text); });
+        field.Text = before;
+        field.UserFocused();
+        field.SelStart = static_cast<int>(before.size());
+        const int beeps = world.sounds.beeps;
+        field.UserTyped(inserted);
+        CHECK(world.sounds.beeps == beeps + 1);
+        CHECK(said == std::vector{why});
+        CHECK(field.Notice() == why);
+        CHECK(field.Text() == before);
+        field.UserReplaced(0, 1, "");
+        CHECK(field.Notice().empty());
+    }
+}
+
+TEST_CASE("Digits in the base field may be written as programs write them, and are bare once it is left") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    for (const char* text : {"0x1FF", "#1_FF", "1FFh", "01:ff"}) {
+        CAPTURE(text);
+        world.Type(window.EditFieldBaseOrg, text);
+        CHECK(window.EditFieldNbre.Text() == "511");
+        CHECK(window.EditFieldBaseOrg.Text() == text);
+    }
+    world.Type(window.EditFieldBaseOrg, "0x1FF");
     window.EditFieldNbre.UserFocused();
-    window.EditFieldNbre.UserTyped("1\xC2\xA0"
-                                   "234\xE2\x80\xAF"
-                                   "567,5\n");
-    CHECK(window.EditFieldNbre.Text() == "1234567.5");
-    window.EditFieldNbre.UserReplaced(0, 9, "1234567890123");
-    CHECK(window.EditFieldNbre.Text() == "123456789012");
-    window.EditFieldBaseOrg.UserFocused();
-    window.EditFieldBaseOrg.UserReplaced(0, 20, "F\tF\r\n");
-    CHECK(window.EditFieldBaseOrg.Text() == "F F");
+    CHECK(window.EditFieldBaseOrg.Text() == "1 FF");
+    world.Type(window.EditFieldBaseOrg, "0b1010"); // base 16 has a digit b
+    CHECK(window.EditFieldNbre.Text() == "725 008");
+    window.EditFieldBaseOrg.UserReplaced(0, 99, "1E3");
+    world.Settle();
+    window.PopupMenuBaseOrg.UserChose(8);
+    CHECK(window.EditFieldNbre.Text() == errNbre);
+}
+
+TEST_CASE("A field of one line takes no line ends and controls") {
+    TestWorld world;
+    TextField& field = world.Main().EditFieldMonnaie;
+    field.UserFocused();
+    field.UserReplaced(0, 99, "\tlivre\r\nsterling\x1b\u2028");
+    CHECK(field.Text() == "livre sterling");
+    field.UserReplaced(0, 99, "\n");
+    CHECK(field.Text() == "livre sterling");
 }
 
 TEST_CASE(

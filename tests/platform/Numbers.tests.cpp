@@ -32,18 +32,18 @@ struct ValueOfText {
 
 } // namespace
 
-TEST_CASE("A number has a sign, digits around at most one point, an exponent, and blanks anywhere") {
-    for (const auto& [text, value] : std::initializer_list<ValueOfText>{{"12.", 12}, {".5", 0.5}, {"-1", -1},
-             {"+1.5", 1.5}, {"1e3", 1000}, {"1E-3", 0.001}, {"1.e+3", 1000}, {" 1 234.50 ", 1234.5},
-             {"- 1 2", -12}, {"1 e - 3", 0.001}, {"007", 7}, {"9007199254740993", 9007199254740992},
-             {"9007199254740993.0000000000000000000001", 9007199254740994}}) {
+TEST_CASE("A number has a sign, digits around at most one point, and blanks anywhere") {
+    for (const auto& [text, value] :
+        std::initializer_list<ValueOfText>{{"12.", 12}, {".5", 0.5}, {"-1", -1}, {"+1.5", 1.5},
+            {" 1 234.50 ", 1234.5}, {"- 1 2", -12}, {"007", 7}, {"9007199254740993", 9007199254740992},
+            {"9007199254740993.0000000000000000000001", 9007199254740994}}) {
         CAPTURE(text);
         CHECK(IsNumeric(text));
         CHECK(CDbl(text) == value);
     }
     for (const char* text :
-        {"", " ", ".", "-", "+.", "1.2.3", "1,5", "0x10", "nan", "inf", "-inf", "1e", "1e+", "e3", ".e3",
-            "--1", "1-", "1e3.5", "1\u00A0234", "1\t2", "12a", "٣", "\xFF", "#Erreur Nbre !"}) {
+        {"", " ", ".", "-", "+.", "1.2.3", "1,5", "0x10", "nan", "inf", "-inf", "1e3", "1E-3", "1 e 3", "e3",
+            "--1", "1-", "1\u00A0234", "1\t2", "12a", "٣", "\xFF", "#Erreur Nbre !"}) {
         CAPTURE(text);
         CHECK_FALSE(IsNumeric(text));
         CHECK(CDbl(text) == 0);
@@ -54,21 +54,23 @@ TEST_CASE("A number has a sign, digits around at most one point, an exponent, an
 TEST_CASE("A value too large for a double is the largest one, a value too small is 0") {
     const std::string zeros(5000, '0');
     const std::string widest = std::to_string(std::numeric_limits<std::int64_t>::max());
+    CHECK(CDbl("-1" + zeros) == -DBL_MAX);
+    CHECK(CDbl("0." + zeros + "1") == 0);
     for (const std::string& text :
         {std::string("1e309"), "0." + zeros + "1e9000", "1" + zeros, std::string("1e99999999999999999999999"),
             "1e" + widest, "1" + zeros + "e-4000", std::string("17976931348623159e292")}) {
         CAPTURE(text);
-        CHECK(CDbl(text) == DBL_MAX);
-        CHECK(CDbl("-" + text) == -DBL_MAX);
+        CHECK(Val(text) == DBL_MAX);
+        CHECK(Val("-" + text) == -DBL_MAX);
     }
     for (const std::string& text :
         {std::string("1e-400"), "0." + zeros + "1", std::string("0e99999999999999999999"),
             std::string("1e-99999999999999999999999"), "1e-" + widest, "1" + zeros + "e-9000", "0" + zeros}) {
         CAPTURE(text);
-        CHECK(CDbl(text) == 0);
+        CHECK(Val(text) == 0);
     }
-    CHECK(CDbl("1" + zeros + "e-5000") == 1);
-    CHECK(CDbl("0." + zeros + "1e5001") == 1);
+    CHECK(Val("1" + zeros + "e-5000") == 1);
+    CHECK(Val("0." + zeros + "1e5001") == 1);
 }
 
 TEST_CASE("Val reads the number at the start and lets the rest go") {

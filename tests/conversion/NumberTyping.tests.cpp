@@ -1,0 +1,283 @@
+#include "conversion/NumberTyping.h"
+#include "conversion/BaseConversion.h"
+#include "conversion/BaseDigits.h"
+#include "platform/Text.h"
+
+#include <doctest/doctest.h>
+
+#include <algorithm>
+#include <random>
+#include <string>
+
+using namespace tessarolyne;
+
+namespace {
+
+const Mask amount("999999999999.99");
+constexpr DecimalSign comma = DecimalSign::Comma;
+constexpr DecimalSign point = DecimalSign::Point;
+
+// A number field, with the caret at its end.
+struct Field {
+    DecimalSign sign;
+    std::string text = {};
+    NumberTyping typing = {};
+    int refusals = 0;
+
+    void Insert(const std::string& inserted) {
+        TextEdit edit{text, static_cast<int>(Len(text)), 0, inserted};
+        if (typing.Take(edit, amount, sign) != NumberTyping::Refusal::None) {
+            ++refusals;
+            return;
+        }
+        text =
+            Left(edit.before, edit.start) + edit.inserted + Mid(edit.before, edit.start + edit.removed + 1);
+    }
+    void Type(const std::string& keys) {
+        for (const char key : keys) {
+            Insert(std::string(1, key));
+        }
+    }
+};
+
+// The text of the field after a paste; "no" for one that was refused.
+std::string Pasted(const std::string& pasted, DecimalSign sign) {
+    Field field{sign};
+    field.Insert(pasted);
+    return field.refusals > 0 ? "no" : field.text;
+}
+
+std::string DigitsOf(const std::string& text) {
+    std::string digits;
+    std::copy_if(
+        text.begin(), text.end(), std::back_inserter(digits), [](char c) { return c >= '0' && c <= '9'; });
+    return digits;
+}
+
+// Typed and pasted, the text is the same number, or a refusal is heard; and no digit is lost or changed.
+void CheckBothWays(const std::string& text, DecimalSign sign) {
+    CAPTURE(text);
+    Field typed{sign};
+    typed.Type(text);
+    const std::string pasted = Pasted(text, sign);
+    const bool isNumber = amount.Holds(typed.text);
+    if (typed.refusals == 0) {
+        REQUIRE(isNumber == (pasted != "no"));
+        REQUIRE((!isNumber || typed.text == pasted));
+        REQUIRE(DigitsOf(typed.text) == DigitsOf(text));
+    }
+    if (pasted != "no") {
+        const std::string left = DigitsOf(pasted);
+        REQUIRE(DigitsOf(text).starts_with(left));
+        REQUIRE(DigitsOf(text).find_first_not_of('0', left.size()) == std::string::npos);
+        REQUIRE(amount.Holds(pasted));
+    }
+}
+
+} // namespace
+
+TEST_CASE("A paste is the number that it stands for, or nothing") {
+    struct Row {
+        const char* pasted;
+        const char* french;
+        const char* english;
+    };
+    const Row rows[] = {
+        {"1234567890123", "no", "no"},
+        {"1e6", "no", "no"},
+        {"1.5E9", "no", "no"},
+        {"-5", "no", "no"},
+        {"\u22125", "no", "no"},
+        {"1/2", "no", "no"},
+        {"2026-11-22", "no", "no"},
+        {"0,123", "no", "no"},
+        {"12.500", "12.50", "12.50"},
+        {"3.142", "no", "no"},
+        {"1.234.567", "1234567", "1234567"},
+        {"1.234,50", "1234.50", "1234.50"},
+        {"1,234", "no", "1234"},
+        {"12,500", "12.50", "12500"},
+        {"1,234.50", "1234.50", "1234.50"},
+        {"1,234,567", "1234567", "1234567"},
+        {"1234,567", "no", "no"},
+        {"0,5", "0.5", "0.5"},
+        {"12,34", "12.34", "12.34"},
+        {",5", ".5", ".5"},
+        {"12,", "12.", "12."},
+        {"1\u00A0234\u202F567\u2009890", "1234567890", "1234567890"},
+        {"1 234 567,5", "1234567.5", "1234567.5"},
+        {"1'234'567.89", "1234567.89", "1234567.89"},
+        {"1’234,5", "1234.5", "1234.5"},
+        {"1_234", "1234", "1234"},
+        {" \n1 234,56\r\n", "1234.56", "1234.56"},
+        {"12\n345", "no", "no"},
+        {"12\t345", "no", "no"},
+        {"1 234,56 €", "1234.56", "1234.56"},
+        {"€12.50", "12.50", "12.50"},
+        {"Fr. 12.50", "12.50", "12.50"},
+        {"12,5 couronnes", "12.5", "12.5"},
+        {"US$ .50", ".50", ".50"},
+        {"12.–", "12.", "12."},
+        {"+7", "7", "7"},
+        {"€ -1", "no", "no"},
+        {"12-", "no", "no"},
+        {"(5)", "no", "no"},
+        {"50 %", "no", "no"},
+        {"12½", "no", "no"},
+        {"3 millions", "no", "no"},
+        {"1.5M", "no", "no"},
+        {"5 k€", "no", "no"},
+        {"12e", "no", "no"},
+        {"FF12", "no", "no"},
+        {"0x12", "no", "no"},
+        {"1 € 2", "no", "no"},
+        {"12, 34", "no", "no"},
+        {"1,23,456", "no", "no"},
+        {"1.2.3", "no", "no"},
+        {"1,234,50", "no", "no"},
+        {"1''2", "no", "no"},
+        {"1.5 2", "no", "no"},
+        {"1 234,567.8", "no", "no"},
+        {"0.123.456", "no", "no"},
+        {"12\u0663", "no", "no"},
+        {"abc", "no", "no"},
+        {"\xC2\xC2", "no", "no"},
+        {"999999999999.99", "999999999999.99", "999999999999.99"},
+        {"999999999999.990", "999999999999.99", "999999999999.99"},
+    };
+    for (const auto& [pasted, french, english] : rows) {
+        CAPTURE(pasted);
+        CHECK(Pasted(pasted, comma) == french);
+        CHECK(Pasted(pasted, point) == english);
+    }
+    const std::string ones(1 << 20, '1');
+    CHECK(Pasted("1 " + ones + ",5", comma) == "no");
+}
+
+TEST_CASE("Every text is the same number typed and pasted, or a refusal is heard") {
+    const std::string alphabet = "10,. ";
+    for (int length = 1; length <= 7; ++length) {
+        std::string text(static_cast<std::size_t>(length), alphabet[0]);
+        for (bool more = true; more;) {
+            CheckBothWays(text, comma);
+            CheckBothWays(text, point);
+            more = false;
+            for (char& c : text) {
+                const std::size_t next = alphabet.find(c) + 1;
+                c = alphabet[next % alphabet.size()];
+                more = next < alphabet.size();
+                if (more) {
+                    break;
+                }
+            }
+        }
+    }
+    std::mt19937 random(13);
+    const std::string pieces[] = {
+        "1", "12", "234", "000", "567", ",", ".", ",234", ".234", "'", "_", " ", "-", "e"};
+    for (int round = 0; round < 50000; ++round) {
+        std::string text;
+        for (std::size_t n = 1 + random() % 7; n > 0; --n) {
+            text += pieces[random() % std::size(pieces)];
+        }
+        CheckBothWays(text, round % 2 == 0 ? comma : point);
+    }
+}
+
+TEST_CASE("Keys go on with the number until one of them can't") {
+    struct Row {
+        DecimalSign sign;
+        const char* keys;
+        const char* text;
+        int refusals;
+    };
+    const Row rows[] = {
+        {point, "1,234.56", "1234.56", 0},
+        {point, "1,234,567.8", "1234567.8", 0},
+        {point, "1,23", "1.23", 0},
+        {point, "1,234,5", "1,234,5", 0},
+        {point, "1,2345", "1234", 1},
+        {comma, "1 234,56", "1234.56", 0},
+        {comma, "1.234,56", "1.23", 4},
+        {comma, "1,234", "1.23", 1},
+        {comma, "1234567890123", "123456789012", 1},
+        {point, "123,456,789,012,3", "123456789012", 2},
+        {comma, "-5", "5", 1},
+        {comma, "12.500", "12.50", 1},
+        {comma, "1e3", "13", 1},
+        {comma, "1..5", "1.5", 1},
+    };
+    for (const auto& [sign, keys, text, refusals] : rows) {
+        CAPTURE(keys);
+        Field field{sign};
+        field.Type(keys);
+        CHECK(field.text == text);
+        CHECK(field.refusals == refusals);
+    }
+}
+
+TEST_CASE("A number in groups that isn't complete can be mended, and is a number again") {
+    Field field{point};
+    field.Type("1,234,5");
+    TextEdit deletion{field.text, 5, 2, ""};
+    CHECK(field.typing.Take(deletion, amount, point) == NumberTyping::Refusal::None);
+    CHECK(deletion.inserted == "1234");
+    field.text = "1234";
+    field.typing.Forget();
+    field.Type("5");
+    CHECK(field.text == "12345");
+}
+
+TEST_CASE("In the middle of a number a key must leave a number") {
+    NumberTyping typing;
+    TextEdit sign{"1234", 2, 0, ","};
+    CHECK(typing.Take(sign, amount, comma) == NumberTyping::Refusal::None);
+    CHECK(sign.inserted == ".");
+    TextEdit tooEarly{"12345", 2, 0, "."};
+    CHECK(typing.Take(tooEarly, amount, comma) == NumberTyping::Refusal::TooManyDecimals);
+    TextEdit whole{"12", 2, 0, "."};
+    CHECK(typing.Take(whole, Mask("999"), comma) == NumberTyping::Refusal::TooManyDecimals);
+    TextEdit message{"Nb Max = 9", 10, 0, "7"};
+    CHECK(typing.Take(message, amount, comma) == NumberTyping::Refusal::None);
+    CHECK(message.removed == 10);
+}
+
+TEST_CASE("Digits are taken as programs write them, where the base has that way") {
+    struct Row {
+        const char* pasted;
+        int base;
+        const char* digits;
+    };
+    const Row rows[] = {
+        {"0xFF", 16, "FF"},
+        {"0Xff", 16, "ff"},
+        {"#FF", 16, "FF"},
+        {"FFh", 16, "FF"},
+        {"0b1010", 2, "1010"},
+        {"0b1010", 16, "0b1010"},
+        {"0o17", 8, "17"},
+        {"0o17", 36, "0o17"},
+        {"h", 16, "no"},
+        {"0xFFh", 16, "no"},
+        {"FF:FF_FF FF'FF\u00A0FF", 16, "FFFFFFFFFFFF"},
+        {" FF\r\n", 16, "FF"},
+        {"F\nF", 16, "no"},
+        {"F\tF", 16, "no"},
+        {"0x1", 10, "no"},
+        {"12.5", 10, "no"},
+        {"-1", 10, "no"},
+        {"1E3", 10, "no"},
+        {"102", 2, "no"},
+        {"G", 16, "no"},
+        {"0b", 2, "no"},
+        {"", 16, "no"},
+        {"é", 36, "no"},
+    };
+    for (const auto& [pasted, base, digits] : rows) {
+        CAPTURE(pasted);
+        CAPTURE(base);
+        CHECK(DigitsAsPasted(pasted, base, alphabet09AZ).value_or("no") == digits);
+    }
+    CHECK(DigitsAsPasted("BAh", 16, alphabetAZ09) == "BAh");
+    CHECK_FALSE(DigitsAsPasted("0xBA", 16, alphabetAZ09));
+}

@@ -1,0 +1,69 @@
+"""What keys and pastes put into the fields, and what they don't."""
+
+import subprocess
+
+from case import ProgramTestCase
+
+
+class Entry(ProgramTestCase):
+    def paste(self, text):
+        subprocess.run(
+            ["xclip", "-in", "-selection", "clipboard"], env=self.screen.environment, input=text, text=True, check=True
+        )
+        self.screen.press("ctrl+v")
+
+    def tips(self):
+        return [c.name for c in self.all_controls() if c.role == "tool tip" and c.showing]
+
+    def wait_for_refusal(self, told_name, why):
+        control = self.control(told_name)
+        self.program.wait_for(lambda: control.description == why, lambda: f"“{why}”, not “{control.description}”")
+        self.program.wait_for(lambda: why in self.tips(), lambda: f"the tip “{why}” among {self.tips()}")
+
+    def test_a_paste_is_taken_whole_or_not_at_all(self):
+        self.clear("EditFieldNbre")
+        for pasted in ("1e6", "1/2", "-5", "1234567890123"):
+            self.paste("1 234,50 €\n")
+            self.wait_for_text("EditFieldNbre", "1234.50")
+            self.screen.press("ctrl+a")
+            self.paste(pasted)
+            self.program.wait_for(lambda: self.control("EditFieldNbre").description, "a refusal")
+            self.wait_for_text("EditFieldNbre", "1234.50")
+            self.screen.press("Delete")  # the selection has stayed, too
+            self.wait_for_text("EditFieldNbre", "")
+        self.screen.type("1234567890123")
+        self.wait_for_refusal("EditFieldNbre", "12 chiffres au plus")
+        self.wait_for_text("EditFieldNbre", "123456789012")
+        self.clear("EditFieldBaseOrg")
+        self.paste("0xFF:FF")
+        self.wait_for_text("EditFieldNbre", "65 535")
+        self.paste("GG")
+        self.wait_for_refusal("EditFieldBaseOrg", "Seulement des chiffres de la base 16")
+        self.wait_for_text("EditFieldBaseOrg", "FFFF")
+        self.clear("EditFieldMonnaie")
+        self.paste("livre\nsterling\n")
+        self.wait_for_text("EditFieldMonnaie", "livre sterling")
+
+    def test_keys_with_alt_or_super_are_no_text(self):
+        for name, text, key in (
+            ("EditFieldNbre", "255", "5"),
+            ("EditFieldBaseOrg", "FF", "f"),
+            ("EditFieldCentime", "euros", "e"),
+        ):
+            self.clear(name)
+            self.screen.type(text)
+            for modifier in ("alt", "super", "ctrl+alt"):
+                self.screen.press(f"{modifier}+{key}")
+            self.screen.press("Escape", "1")
+            self.wait_for_text(name, f"{text}1")
+
+    def test_the_base_field_shows_all_of_a_long_number_unless_it_is_edited(self):
+        self.clear("EditFieldNbre")
+        self.choose("PopupMenuBaseOrg", 0)
+        self.screen.type("999999999999")
+        picture = self.control("EditFieldBaseOrg")
+        self.wait_for_text("EditFieldBaseOrg", "1110 1000 1101 0100 1010 0101 0000 1111 1111 1111")
+        self.assertIsNotNone(picture)
+        self.screen.take_picture("base2")
+        self.focus("EditFieldBaseOrg")
+        self.screen.take_picture("base2-edited")
