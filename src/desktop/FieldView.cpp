@@ -21,27 +21,36 @@ namespace {
 // What a line's frame and margins take from its text, and a little air.
 constexpr int framePadding = 12;
 
-// Hands on a paste that the line would cut; a shorter one is the line's own affair, with its undo.
+// What the key types into a line; nothing for the keys of menus and for those that move or delete.
+QString TypedText(const QKeyEvent& event) {
+    const QString text = event.text();
+    const auto modifiers = event.modifiers() & ~Qt::ShiftModifier;
+    const bool types = !text.isEmpty() && (text.at(0).isPrint() || text.at(0).isSurrogate());
+    return types && modifiers != Qt::ControlModifier ? text : QString();
+}
+
+// Hands on what is typed and pasted before it stands here: what the model refuses would else be among the
+// steps that undo takes back, and a paste beyond the line's maximal length would be cut.
 class LineEdit final : public QLineEdit {
 public:
     using QLineEdit::QLineEdit;
 
-    std::function<void(const QString&)> onLongPaste;
+    std::function<bool(const QString&)> onInsert;
 
 protected:
     void keyPressEvent(QKeyEvent* event) override {
-        if (event->matches(QKeySequence::Paste)) {
-            const QString pasted = QGuiApplication::clipboard()->text();
-            if (pasted.size() + text().size() > maxLength()) {
-                onLongPaste(pasted);
-                return;
-            }
-        }
         if (IsCommandKey(*event)) {
             event->ignore();
             return;
         }
-        QLineEdit::keyPressEvent(event);
+        const bool pastes = event->matches(QKeySequence::Paste);
+        const bool hasRoom = text().size() < maxLength();
+        const QString inserted = pastes    ? QGuiApplication::clipboard()->text()
+                                 : hasRoom ? TypedText(*event)
+                                           : QString();
+        if (inserted.isEmpty() || isReadOnly() || !onInsert(inserted)) {
+            QLineEdit::keyPressEvent(event);
+        }
     }
     // The menu bar only borrows the focus, like a popup: what its commands act on stays selected.
     void focusOutEvent(QFocusEvent* event) override {
@@ -55,7 +64,7 @@ protected:
 FieldView::FieldView(TextField& model, QWidget* parent)
     : ControlView(model, new LineEdit(parent)), model_(model), edit_(static_cast<QLineEdit*>(Widget())) {
     edit_->setFocusPolicy(Qt::StrongFocus);
-    static_cast<LineEdit*>(edit_)->onLongPaste = [this](const QString& text) { Pasted(text); };
+    static_cast<LineEdit*>(edit_)->onInsert = [this](const QString& text) { return Inserted(text); };
     QObject::connect(edit_, &QLineEdit::textChanged, edit_, [this] { Edited(); });
     QObject::connect(edit_, &QLineEdit::cursorPositionChanged, edit_, [this] { Selected(); });
     QObject::connect(edit_, &QLineEdit::selectionChanged, edit_, [this] { Selected(); });
@@ -126,8 +135,14 @@ void FieldView::ReadSelection() {
     }
 }
 
-void FieldView::Pasted(const QString& text) {
+bool FieldView::Inserted(const QString& text) {
+    if (!model_.HasFocus()) {
+        return false;
+    }
+    correcting_ = true;
     TellModel([&] { model_.UserTyped(FromQt(text)); });
+    correcting_ = false;
+    return true;
 }
 
 void FieldView::Edited() {

@@ -26,7 +26,7 @@ private:
     QString Shown(const std::string& text) const;
     void ReadText();
     void ReadSelection();
-    void Pasted(const QString& text);
+    bool Inserted(const QString& text);
     void Edited();
     void EditedFromAside();
     void Selected();

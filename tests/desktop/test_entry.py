@@ -34,6 +34,9 @@ class Entry(ProgramTestCase):
         self.screen.type("1234567890123")
         self.wait_for_refusal("EditFieldNbre", "12 chiffres au plus")
         self.wait_for_text("EditFieldNbre", "123456789012")
+        self.screen.press("ctrl+z")  # what was refused is none of the steps back
+        number = self.control("EditFieldNbre")
+        self.program.wait_for(lambda: number.text != "123456789012", "a step back")
         self.clear("EditFieldBaseOrg")
         self.paste("0xFF:FF")
         self.wait_for_text("EditFieldNbre", "65 535")
