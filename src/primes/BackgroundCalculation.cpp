@@ -6,6 +6,8 @@
 #include "platform/Text.h"
 #include "primes/WinNbresPremiers.h"
 
+#include <utility>
+
 namespace tessarolyne {
 
 namespace {
@@ -59,9 +61,9 @@ void WinMain::ThreadFailed(std::int16_t step, const std::string& reason) {
 }
 
 void WinMain::TellWhyRunEnded() {
-    if (lastRunEnd_ == RunEnd::OutOfMemory) {
-        lastRunEnd_ = RunEnd::Finished;
-        fncts.MsgBox(std::string(outOfMemoryText));
+    const RunEnd end = std::exchange(lastRunEnd_, RunEnd::Finished);
+    if (end == RunEnd::OutOfMemory || end == RunEnd::TableFull) {
+        fncts.MsgBox(std::string(end == RunEnd::TableFull ? tableFullText : outOfMemoryText));
     }
 }
 

@@ -27,13 +27,14 @@ CalculationProgress::CalculationProgress(EventLoop& loop, const PrimeTable& tabl
 void CalculationProgress::Follow(ProgressWheel& wheel, std::uint64_t goal) {
     End();
     wheel_ = &wheel;
-    wheel.Maximum = static_cast<std::int64_t>(goal);
+    Goal = goal;
     looks_ = 0;
     timer_.Mode = 2;
 }
 
 void CalculationProgress::End() {
     timer_.Mode = 0;
+    Goal = 0;
     if (wheel_ != nullptr) {
         wheel_->HelpTag = "";
         wheel_->Spoken = "";
@@ -44,13 +45,18 @@ void CalculationProgress::End() {
 }
 
 void CalculationProgress::Tell() {
-    const std::uint64_t reached = table_.LastReached();
+    const std::uint64_t goal = Goal;
+    const std::uint64_t reached = goal == 0 ? table_.LastReached() : std::min(table_.LastReached(), goal);
     // The beginning of the primes says in every language what the number is.
-    const std::string words = "2, 3, 5, 7 … " + FormatWhole(reached, formatAuto_.Value);
+    std::string words = "2, 3, 5, 7 … " + FormatWhole(reached, formatAuto_.Value);
+    if (goal != 0) {
+        words += " / " + FormatWhole(goal, formatAuto_.Value);
+    }
+    wheel_->Maximum = static_cast<std::int64_t>(goal);
     wheel_->HelpTag = ReplaceAll(words, " ", noBreakSpace); // else it breaks inside the number
     if (looks_++ % looksBetweenWords == 0) {
         wheel_->Spoken = words;
-        wheel_->Value = std::min(static_cast<std::int64_t>(reached), wheel_->Maximum());
+        wheel_->Value = goal == 0 ? 0 : static_cast<std::int64_t>(reached);
     }
 }
 

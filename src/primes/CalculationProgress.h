@@ -2,6 +2,7 @@
 
 #include "platform/Timer.h"
 
+#include <atomic>
 #include <cstdint>
 
 namespace tessarolyne {
@@ -19,10 +20,13 @@ public:
     // `formatAuto` says whether numbers are shown in groups.
     CalculationProgress(EventLoop& loop, const PrimeTable& table, const CheckBox& formatAuto);
 
-    // Begins to say at `wheel` how far the table is on its way to `goal`; 0: there is none.
+    // Begins to say at `wheel` how far the table is on its way to `goal`; 0: that isn't known yet.
     void Follow(ProgressWheel& wheel, std::uint64_t goal);
     // Ends that and leaves nothing of it on the wheel.
     void End();
+
+    // Which number the table has to reach, 0 for none: the calculation may put it here from its thread.
+    std::atomic<std::uint64_t> Goal = 0;
 
 private:
     void Tell();

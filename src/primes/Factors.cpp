@@ -19,7 +19,7 @@ bool StopFor(RunControl& run, RunEnd reason) {
 
 // The largest size that the table may have at the end of a timed run.
 std::int32_t TimedSize(const PrimeTable& table) {
-    return table.Size() + std::min(timedRunEntries, PrimeTable::maxSize - table.Size());
+    return table.Size() + std::min(timedRunEntries, table.LargestSize() - table.Size());
 }
 
 bool GrowInTime(PrimeTable& table, std::uint64_t largest, RunControl& run) {
@@ -27,7 +27,8 @@ bool GrowInTime(PrimeTable& table, std::uint64_t largest, RunControl& run) {
     const std::int32_t inTime = TimedSize(table);
     const GrowthEnd end = GrowConsecutive(table, largest, std::min(withinBudget, inTime), run);
     if (end == GrowthEnd::Full) {
-        return StopFor(run, inTime <= withinBudget ? RunEnd::OutOfTime : RunEnd::OutOfMemory);
+        inTime <= withinBudget ? run.StopFor(RunEnd::OutOfTime) : StopForWantOfRoom(table, run);
+        return false;
     }
     return end == GrowthEnd::Reached;
 }
@@ -43,10 +44,13 @@ bool GrowAsFarAsNeeded(PrimeTable& table, Factors factors, RunControl& run) {
     const std::uint64_t leastReach = LeastReach(factors);
     const std::int32_t withinBudget = SizeWithinBudget(table, run);
     const bool outOfReach = LeastPrimeCount(largest) > static_cast<double>(withinBudget);
-    const GrowthEnd end = GrowConsecutive(table, outOfReach ? leastReach : largest, withinBudget, run);
+    const std::uint64_t goal = outOfReach ? leastReach : largest;
+    run.Aim(goal);
+    const GrowthEnd end = GrowConsecutive(table, goal, withinBudget, run);
     // The estimate takes some numbers for reachable that are not; the full table has passed the root by then.
     if (end == GrowthEnd::Full && table.Back() < leastReach) {
-        return StopFor(run, RunEnd::OutOfMemory);
+        StopForWantOfRoom(table, run);
+        return false;
     }
     return end != GrowthEnd::Stopped;
 }
@@ -56,8 +60,7 @@ bool GrowAsFarAsNeeded(PrimeTable& table, Factors factors, RunControl& run) {
 class OddTableScan {
 public:
     OddTableScan(PrimeTable& table, std::vector<std::uint64_t>& result, RunControl& run)
-        : table_(table), result_(result), run_(run),
-          largestSize_(run.IsTimed() ? TimedSize(table) : PrimeTable::maxSize) {}
+        : table_(table), result_(result), run_(run), largestSize_(TimedSize(table)) {}
 
     bool Run(Factors factors) {
         for (const std::uint64_t factor : factors) {
@@ -90,7 +93,7 @@ private:
 
     bool ScanNewEntries() {
         while (rest_ != 1) {
-            if (table_.Size() >= largestSize_) {
+            if (run_.IsTimed() && table_.Size() >= largestSize_) {
                 return StopFor(run_, RunEnd::OutOfTime);
             }
             const std::uint64_t entry = NbresPremCalc(table_, 0, run_);
@@ -116,7 +119,7 @@ private:
     PrimeTable& table_;
     std::vector<std::uint64_t>& result_;
     RunControl& run_;
-    std::int32_t largestSize_;
+    std::int32_t largestSize_; // of a timed run
     std::uint64_t rest_ = 1;
 };
 
@@ -128,6 +131,7 @@ bool Factorise(std::uint64_t n, PrimeTable& table, std::vector<std::uint64_t>& r
         return false;
     }
     if (table.ConsecutiveBack() < largest) {
+        run.Aim(largest);
         if (!table.IsConsecutive()) {
             return OddTableScan(table, result, run).Run(factors);
         }

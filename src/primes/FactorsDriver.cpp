@@ -49,13 +49,13 @@ void WinMain::RunFactorsOnThread(std::uint64_t n) {
     Write(factors_, Localisation::Txt_Attente());
     HoldMenuForCalculation(true);
     ThrPn1 = n;
-    Progress.Follow(ProgressWheel1, n);
+    Progress.Follow(ProgressWheel1, 0);
     ThreadDecPrems.Start();
 }
 
 RunControl WinMain::MakeRunControl(bool checkTime) {
     return RunControl(fncts.ArretUrg, program.services.clock, program.services.memory,
-        checkTime ? std::optional(TicksFinCalc) : std::nullopt);
+        checkTime ? std::optional(TicksFinCalc) : std::nullopt, &Progress.Goal);
 }
 
 void WinMain::DecompPremCalc(std::uint64_t n, bool checkTime) {

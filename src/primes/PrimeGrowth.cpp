@@ -65,8 +65,8 @@ void VerifyWindow(PrimeTable& table, BlockSieve& sieve) {
     }
 }
 
-GrowthEnd EndForMemory(RunControl& run) {
-    run.StopFor(RunEnd::OutOfMemory);
+GrowthEnd EndForWantOfRoom(const PrimeTable& table, RunControl& run) {
+    StopForWantOfRoom(table, run);
     return GrowthEnd::Stopped;
 }
 
@@ -84,7 +84,7 @@ GrowthEnd GrowBySingleTests(
             return GrowthEnd::Full;
         }
         if (!table.AppendNextPrime(candidate)) {
-            return EndForMemory(run);
+            return EndForWantOfRoom(table, run);
         }
         --most;
     }
@@ -97,7 +97,7 @@ GrowthEnd AppendWindow(PrimeTable& table, BlockSieve& sieve, std::int32_t larges
         const auto room = static_cast<std::size_t>(largestSize - table.Size());
         const auto fitting = halfGaps.first(std::min(halfGaps.size(), room));
         if (static_cast<std::size_t>(table.AppendNextPrimes(fitting)) < fitting.size()) {
-            return EndForMemory(run);
+            return EndForWantOfRoom(table, run);
         }
         if (fitting.size() < halfGaps.size()) {
             return GrowthEnd::Full;
@@ -128,7 +128,7 @@ std::uint64_t ExtendConsecutive(PrimeTable& table, std::uint64_t limit, RunContr
     const GrowthEnd end = limit == 0 ? GrowBySingleTests(table, anywhere, largestSize, 1, run)
                                      : GrowConsecutive(table, lastTested, largestSize, run);
     if (end == GrowthEnd::Full) {
-        run.StopFor(RunEnd::OutOfMemory);
+        StopForWantOfRoom(table, run);
     }
     return table.Back();
 }
@@ -147,10 +147,14 @@ bool BeginTable(PrimeTable& table, RunControl& run) {
     }
     table.Clear();
     if (!table.AppendNextPrime(2) || !table.AppendNextPrime(3)) {
-        run.StopFor(RunEnd::OutOfMemory);
+        StopForWantOfRoom(table, run);
         return false;
     }
     return true;
+}
+
+void StopForWantOfRoom(const PrimeTable& table, RunControl& run) {
+    run.StopFor(table.Size() >= table.LargestSize() ? RunEnd::TableFull : RunEnd::OutOfMemory);
 }
 
 std::int32_t SizeWithinBudget(const PrimeTable& table, RunControl& run) {
@@ -196,7 +200,7 @@ GrowthEnd GrowConsecutive(PrimeTable& table, std::uint64_t end, std::int32_t lar
         }
         return GrowBySieve(table, end, largestSize, run);
     } catch (const std::bad_alloc&) {
-        return EndForMemory(run);
+        return EndForWantOfRoom(table, run);
     }
 }
 

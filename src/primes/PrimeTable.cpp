@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cstring>
 #include <new>
+#include <utility>
 
 namespace tessarolyne {
 
@@ -50,7 +51,8 @@ bool FitsAsHalfGap(std::uint64_t from, std::uint64_t to) {
 
 } // namespace
 
-PrimeTable::PrimeTable(std::pmr::memory_resource* memory) : memory_(memory), chunks_(memory) {}
+PrimeTable::PrimeTable(std::pmr::memory_resource* memory, std::int32_t largestSize)
+    : memory_(memory), largestSize_(largestSize), chunks_(memory) {}
 
 PrimeTable::~PrimeTable() {
     Clear();
@@ -89,6 +91,18 @@ void PrimeTable::Clear() {
     consecutiveBack_ = 0;
     bytes_ = 0;
     lastReached_.store(0, std::memory_order_relaxed);
+}
+
+void PrimeTable::Swap(PrimeTable& other) {
+    std::swap(largestSize_, other.largestSize_);
+    chunks_.swap(other.chunks_);
+    std::swap(size_, other.size_);
+    std::swap(consecutive_, other.consecutive_);
+    std::swap(odd_, other.odd_);
+    std::swap(last_, other.last_);
+    std::swap(consecutiveBack_, other.consecutiveBack_);
+    std::swap(bytes_, other.bytes_);
+    lastReached_.store(other.lastReached_.exchange(LastReached()), std::memory_order_relaxed);
 }
 
 PrimeTable::WideBlock* PrimeTable::WideBlockAt(std::int32_t rank) const {
@@ -140,7 +154,7 @@ PrimeTable::WideBlock* PrimeTable::Widen(Chunk& chunk, std::int32_t rank) {
 }
 
 bool PrimeTable::Store(std::uint64_t value) {
-    if (size_ == maxSize || (size_ % chunkEntries == 0 && !AddChunk())) {
+    if (size_ == largestSize_ || (size_ % chunkEntries == 0 && !AddChunk())) {
         return false;
     }
     Chunk& chunk = *chunks_.back();
@@ -209,7 +223,7 @@ std::int32_t PrimeTable::AppendByHalfGaps(std::span<const std::uint8_t> halfGaps
             ++done;
             continue;
         }
-        const std::int32_t room = std::min(blockEntries - place, maxSize - size_);
+        const std::int32_t room = std::min(blockEntries - place, largestSize_ - size_);
         const auto count = std::min(static_cast<std::size_t>(room), halfGaps.size() - done);
         if (count == 0) {
             break;
@@ -257,7 +271,8 @@ std::int32_t PrimeTable::CopyTo(std::int32_t rank, std::span<std::uint64_t> valu
 std::int32_t PrimeTable::SizeWithin(std::uint64_t bytes) const {
     const std::uint64_t newChunks = bytes > bytes_ ? (bytes - bytes_) / sizeof(Chunk) : 0;
     const std::uint64_t entries = (chunks_.size() + newChunks) * std::uint64_t{chunkEntries};
-    return static_cast<std::int32_t>(std::min<std::uint64_t>(entries, maxSize));
+    return static_cast<std::int32_t>(
+        std::min<std::uint64_t>(entries, static_cast<std::uint64_t>(largestSize_)));
 }
 
 PrimeTable::Cursor::Cursor(const PrimeTable& table, std::int32_t rank)

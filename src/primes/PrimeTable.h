@@ -21,8 +21,10 @@ public:
     // Ranks are signed 32-bit numbers throughout the program.
     static constexpr std::int32_t maxSize = 2147483647;
 
-    // An empty table that takes its memory from `memory`, which outlives it.
-    explicit PrimeTable(std::pmr::memory_resource* memory = std::pmr::get_default_resource());
+    // An empty table that takes its memory from `memory`, which outlives it, and no more than `largestSize`
+    // entries.
+    explicit PrimeTable(std::pmr::memory_resource* memory = std::pmr::get_default_resource(),
+        std::int32_t largestSize = maxSize);
     ~PrimeTable();
     PrimeTable(const PrimeTable&) = delete;
     PrimeTable& operator=(const PrimeTable&) = delete;
@@ -39,11 +41,14 @@ public:
     // The last entry; 0 for an empty table.
     std::uint64_t Back() const { return last_; }
 
-    // Adds any value at the end. False, and nothing changed, at maxSize or when there is no memory.
+    // How many entries the table takes, however much memory there is.
+    std::int32_t LargestSize() const { return largestSize_; }
+
+    // Adds any value at the end. False, and nothing changed, at LargestSize() or when there is no memory.
     [[nodiscard]] bool Append(std::uint64_t value);
 
     // Adds entries by half their gaps, each from 1 to 255, the first gap counted from Back(). The table is
-    // not empty. Gives how many were added: fewer than given at maxSize or when there is no memory.
+    // not empty. Gives how many were added: fewer than given at LargestSize() or when there is no memory.
     std::int32_t AppendByHalfGaps(std::span<const std::uint8_t> halfGaps);
 
     // Copies the entries from `rank` on, as many as there are and have room, and gives their number. Much
@@ -52,6 +57,9 @@ public:
 
     // Empties the table and gives its memory back.
     void Clear();
+
+    // Exchanges the content of two tables that take their memory from the same place.
+    void Swap(PrimeTable& other);
 
     // Bytes that the entries take at present.
     std::uint64_t Bytes() const { return bytes_; }
@@ -117,6 +125,7 @@ private:
     void Free(T* object);
 
     std::pmr::memory_resource* memory_;
+    std::int32_t largestSize_;
     // Pointers alone; its growth copies eight bytes for every 65536 entries.
     std::pmr::vector<Chunk*> chunks_;
     std::int32_t size_ = 0;

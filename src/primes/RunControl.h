@@ -11,21 +11,23 @@
 namespace tessarolyne {
 
 // Why a calculation ended.
-enum class RunEnd { Finished, Stopped, OutOfTime, OutOfMemory };
+enum class RunEnd { Finished, Stopped, OutOfTime, OutOfMemory, TableFull };
 
-// What the user reads in a message box when RunEnd::OutOfMemory ended a calculation.
+// What the user reads in a message box when one of the last two ended a calculation.
 inline constexpr std::string_view outOfMemoryText =
     "The calculation was ended: there is no memory left for more prime numbers.";
+inline constexpr std::string_view tableFullText =
+    "The calculation was ended: the table holds 2 147 483 647 prime numbers and takes no more.";
 
 // What may end one calculation before its time: the stop flag, the time budget, the memory budget; and which
 // of them did. One object serves one calculation on one thread; only the flag is shared with other threads.
 class RunControl {
 public:
-    // The first three outlive the object. With `TicksFinCalc` the calculation gives up once the clock's Ticks
+    // All references outlive the object. With `TicksFinCalc` the calculation gives up once the clock's Ticks
     // have passed that, without it there is no time limit.
     RunControl(std::atomic<bool>& ArretUrg, const Clock& clock, const MemoryLimits& memory,
-        std::optional<std::int64_t> TicksFinCalc = std::nullopt)
-        : stopFlag_(ArretUrg), clock_(clock), memory_(memory), ticksFinCalc_(TicksFinCalc) {}
+        std::optional<std::int64_t> TicksFinCalc = std::nullopt, std::atomic<std::uint64_t>* goal = nullptr)
+        : stopFlag_(ArretUrg), clock_(clock), memory_(memory), ticksFinCalc_(TicksFinCalc), goal_(goal) {}
 
     RunControl(const RunControl&) = delete;
     RunControl& operator=(const RunControl&) = delete;
@@ -38,6 +40,13 @@ public:
 
     // Raises the flag for `reason`; the first reason stays.
     void StopFor(RunEnd reason);
+
+    // Tells who looks on, by the `goal` that the object was made with, which number the table has to reach.
+    void Aim(std::uint64_t goal) {
+        if (goal_ != nullptr) {
+            goal_->store(goal, std::memory_order_relaxed);
+        }
+    }
 
     // Why the calculation ended, RunEnd::Finished as long as nothing has stopped it.
     RunEnd End() const { return end_; }
@@ -52,6 +61,7 @@ private:
     const Clock& clock_;
     const MemoryLimits& memory_;
     const std::optional<std::int64_t> ticksFinCalc_;
+    std::atomic<std::uint64_t>* const goal_;
     std::optional<std::uint64_t> byteCeiling_;
     RunEnd end_ = RunEnd::Finished;
 };

@@ -35,7 +35,7 @@ bool AppendWithinBudget(PrimeTable& table, std::uint64_t value, RunControl& run)
     if (table.Size() < SizeWithinBudget(table, run) && table.Append(value)) {
         return true;
     }
-    run.StopFor(RunEnd::OutOfMemory);
+    StopForWantOfRoom(table, run);
     return false;
 }
 

@@ -37,9 +37,12 @@ TEST_CASE("A run's wheel tells its last prime four times a second to the eye, on
     world.loop.Advance(1000);
     const std::string upTo = "2, 3, 5, 7 … ";
     const std::string inOneLine = ReplaceAll(upTo, " ", "\u00A0");
-    CHECK(seen == std::vector<std::string>{"", inOneLine + "101", inOneLine + "997", inOneLine + "1\u00A0097",
-                      inOneLine + "1\u00A0151", inOneLine + "1\u00A0999", inOneLine + "2\u00A0099", ""});
-    CHECK(heard == std::vector<std::string>{"", upTo + "101", upTo + "1 999", ""});
+    const std::string of = " / 1 200";
+    const std::string ofInOneLine = ReplaceAll(of, " ", "\u00A0");
+    CHECK(seen == std::vector<std::string>{"", inOneLine + "101" + ofInOneLine,
+                      inOneLine + "997" + ofInOneLine, inOneLine + "1\u00A0097" + ofInOneLine,
+                      inOneLine + "1\u00A0151" + ofInOneLine, inOneLine + "1\u00A0200" + ofInOneLine, ""});
+    CHECK(heard == std::vector<std::string>{"", upTo + "101" + of, upTo + "1 200" + of, ""});
     CHECK(values == std::vector<std::int64_t>{0, 101, 1200, 0}); // never beyond the goal
     CHECK(wheel.Maximum == 0);
 }

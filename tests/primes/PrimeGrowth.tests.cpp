@@ -190,7 +190,15 @@ TEST_CASE("With the stop flag raised before, nothing is added unless no division
     }
 }
 
-TEST_CASE("The end of the memory ends a run like a stop") {
+TEST_CASE("The end of the memory, or of the table, ends a run like a stop") {
+    PrimeTable small(std::pmr::get_default_resource(), 100);
+    REQUIRE(AppendAll(small, firstFour));
+    for (const std::uint64_t limit : {1'000'000U, 547U, 0U}) { // by the sieve and one by one
+        RunFixture full;
+        CHECK(NbresPremCalc(small, limit, full.untimed) == 541);
+        CHECK(full.untimed.End() == RunEnd::TableFull);
+        CHECK(full.ArretUrg);
+    }
     const auto primes = Reference::Primes(3'000'000);
     TableOf table;
     RunFixture tight(forEver, 200'000); // half of it is one chunk beside the one that is begun
