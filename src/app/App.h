@@ -46,11 +46,14 @@ public:
 private:
     void Apply(const Preferences& preferences);
     Preferences Gather(bool listeVisible) const;
+    void KeepOthersBinding(Preferences& preferences) const;
     void WritePreferences(bool listeVisible);
     void PlaceMainWindow(int left, int top);
     void ChooseLanguage(const std::string& code);
 
     Program& program_;
+    std::optional<FolderItem> boundAtStart_;
+    std::string boundAtStartText_;    // the same as the preferences file had it
     bool prefsReadingFailed_ = false; // the old file is kept beside when it is replaced
 };
 

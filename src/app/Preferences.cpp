@@ -53,6 +53,8 @@ void App::Apply(const Preferences& preferences) {
     AutoCheckUpdt = preferences.autoCheckUpdt;
     WinNBP = preferences.winNBP;
     FichNbPrems = GetFitemAbsPath(GetServices().files, preferences.fichNbPrems, false);
+    boundAtStart_ = FichNbPrems;
+    boundAtStartText_ = preferences.fichNbPrems;
     window.CheckBoxMajusc.Value = preferences.majuscule;
     window.BevelButtonListe.Value = preferences.listeVisible;
     window.NbreNbPparLigne = preferences.nbreNbPparLigne;
@@ -117,10 +119,23 @@ Preferences App::Gather(bool listeVisible) const {
     return preferences;
 }
 
+// A prime file that another instance of the program was bound to meanwhile stays, unless the user has bound
+// this one anew, too.
+void App::KeepOthersBinding(Preferences& preferences) const {
+    Preferences now;
+    if (FichNbPrems == boundAtStart_ &&
+        ReadPreferencesFile(*DossierPref, PreferencesLimits(), now) == PreferencesOutcome::Read &&
+        now.fichNbPrems != boundAtStartText_) {
+        preferences.fichNbPrems = now.fichNbPrems;
+    }
+}
+
 // Throws IOException, with the old file whole.
 void App::WritePreferences(bool listeVisible) {
     if (PasNil_Existe_Alias(DossierPref, true)) {
-        WritePreferencesFile(*DossierPref, Gather(listeVisible), prefsReadingFailed_);
+        Preferences preferences = Gather(listeVisible);
+        KeepOthersBinding(preferences);
+        WritePreferencesFile(*DossierPref, preferences, prefsReadingFailed_);
     }
 }
 

@@ -64,6 +64,24 @@ TEST_CASE("Every setting comes from its line of the file, and goes back to it") 
     CHECK(world->files.entries.at(preferencesFile).content == ReplaceAll(file, "09:05:03", "12:00:00"));
 }
 
+TEST_CASE("A second instance leaves the binding that another has made meanwhile, and makes its own") {
+    TestWorld world;
+    Program second(world.services);
+    second.Start();
+    world.files.AddFile("/home/user/a.txt", "2\t3\t5\t7\n");
+    world.program->app.FichNbPrems = world.files.At("/home/user/a.txt");
+    world.program->app.PrefsSauver(false);
+    second.app.PrefsSauver(false);
+    const auto binds = [&](const char* path) {
+        return world.files.entries.at(preferencesFile).content.find(path) != std::string::npos;
+    };
+    CHECK(binds("Root:home:user:a.txt\n"));
+    world.files.AddFile("/home/user/b.txt");
+    second.app.FichNbPrems = world.files.At("/home/user/b.txt");
+    second.app.PrefsSauver(false);
+    CHECK(binds("Root:home:user:b.txt\n"));
+}
+
 TEST_CASE("A place that isn't whole on the screen, by one point, is the default place") {
     const int right = 1280 - 550;
     const int bottom = 1024 - 594;
