@@ -378,6 +378,18 @@ Result ¿%
 from base 10 = ¿% 
 from base ¿% = ¿% </translation>
     </message>
+    <message id="Localisation.Txt_FichAPlusDeNb1ers">
+        <source>Un autre programme a enregistré plus de nombres premiers dans ce fichier. Il a été conservé tel quel.</source>
+        <translation>Another program has saved more primes in this file. It was kept as it is.</translation>
+    </message>
+    <message id="Localisation.Txt_FichNomSurLignes">
+        <source>Le nom de ce fichier ou d&apos;un de ses dossiers contient un saut de ligne : ce fichier ne peut pas être retenu.</source>
+        <translation>The name of this file or of one of its folders contains a line break: this file cannot be used.</translation>
+    </message>
+    <message id="Localisation.Txt_FichTropGrand">
+        <source>Ce fichier est plus grand que toute liste de nombres premiers.</source>
+        <translation>This file is larger than any list of primes.</translation>
+    </message>
     <message id="Localisation.Txt_IlYaNouvNbPrem">
         <source>Il y a ¿% nouveaux nombres premiers, souhaitez vous les enregistrer ?</source>
         <extracomment>How many, 1 or more.</extracomment>

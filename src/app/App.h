@@ -37,6 +37,7 @@ public:
     bool DrapOkQuit = false;               // all questions are answered, the program may end
     std::optional<FolderItem> DossierPref; // folder of the preferences file
     std::optional<FolderItem> FichNbPrems; // the bound prime file
+    bool QuitAsked = false;                // by a key or the desktop; each load of the prime file forgets it
     Date DateDuJour;                       // this launch
     Date DateDerLaunch;                    // the launch before this one
     bool AutoCheckUpdt = false;            // look for a new version once a day

@@ -35,7 +35,10 @@ int main(int count, char** arguments) {
     Program program(world);
 
     desktop.OnSessionEnds = [&] { program.EndWithoutAsking(); };
-    desktop.OnQuitRequested = [&] { program.app.RequestQuit(); };
+    desktop.OnQuitRequested = [&] {
+        program.app.QuitAsked = true;
+        program.app.RequestQuit();
+    };
     desktop.WatchDescriptor(endSignals.Descriptor(), [&] {
         if (endSignals.Take() != 0) {
             program.EndWithoutAsking();

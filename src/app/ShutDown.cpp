@@ -4,6 +4,7 @@
 #include "conversion/NumberFormat.h"
 #include "conversion/WinMain.h"
 #include "platform/EventLoop.h"
+#include "platform/MemoryLimits.h"
 #include "platform/Numbers.h"
 #include "platform/Services.h"
 #include "primes/WinChargSauvNb1ers.h"
@@ -19,16 +20,22 @@ namespace tessarolyne {
 
 namespace {
 
-// How many primes the table holds beyond its file.
+// How many primes the table holds beyond its file. Those with which every table begins are none beside a file
+// that could not be read.
 std::int32_t NewPrimes(const WinMain& main) {
-    return static_cast<std::int32_t>(
-        std::int64_t{main.Nbres_Premiers.UpperBound()} + 1 - std::int64_t{main.Nb_NbrePcharg});
+    constexpr std::int64_t firstPrimes = 4;
+    const std::int64_t known = main.PrimeFile.isForeign ? firstPrimes : std::int64_t{main.Nb_NbrePcharg};
+    return static_cast<std::int32_t>(std::int64_t{main.Nbres_Premiers.UpperBound()} + 1 - known);
 }
 
 // Without a window, since nobody is there to see it or to read that it failed; the old file is whole then.
-void SaveQuietly(const WinMain& main, const FolderItem& item) {
+void SaveQuietly(const WinMain& main, const FolderItem& item, std::uint64_t memory) {
     try {
         PrimeFileProgress nobody;
+        if (LookBeforeSaving(item, main.PrimeFile, main.Nbres_Premiers, memory, nobody) !=
+            UnseenContent::None) {
+            return;
+        }
         const auto file = item.Files().CreateSafely(item.NativePath(), LinkPolicy::ReplaceTarget);
         WritePrimeFile(
             main.Nbres_Premiers, Localisation::Txt_NbreDeNbPrem(), main.NbreNbPparLigne, *file, nobody);
@@ -69,11 +76,11 @@ bool WinMain::Event_CancelClose(bool appQuitting) {
 }
 
 // A question about quitting. However often a quit is asked for, one of them is up at a time.
-int WinMain::AskOnTheWayOut(const std::string& message, const std::string& action, const std::string& cancel,
-    const std::string& alternate, int icon) {
+int WinMain::AskOnTheWayOut(const std::string& message, const std::string& explanation,
+    const std::string& action, const std::string& cancel, const std::string& alternate, int icon) {
     fncts.Beep();
     quitQuestionIsUp_ = true;
-    const int answer = fncts.MyDialogBox(message, "", action, cancel, alternate, icon, nullptr);
+    const int answer = fncts.MyDialogBox(message, explanation, action, cancel, alternate, icon, nullptr);
     quitQuestionIsUp_ = false;
     return answer;
 }
@@ -92,7 +99,7 @@ void WinMain::AskToStopCalculation() {
         fncts.Beep();
         return;
     }
-    const int answer = AskOnTheWayOut(Localisation::Txt_CalculEnCours(), Localisation::Btn_StopEtQuit(),
+    const int answer = AskOnTheWayOut(Localisation::Txt_CalculEnCours(), "", Localisation::Btn_StopEtQuit(),
         Localisation::Btn_NePasQuit(), "", 1);
     if (answer != 1) {
         StayOpen();
@@ -118,7 +125,8 @@ bool WinMain::AskAboutNewPrimes(bool& enregistrer) {
     const std::string question = Localisation::Txt_IlYaNouvNbPrem();
     const std::string count = FormatWhole(static_cast<std::uint64_t>(Nb1ersEnPlus), true);
     const int answer = AskOnTheWayOut(fncts.FracTexte(question, 1) + count + fncts.FracTexte(question, 2),
-        Localisation::Btn_Enreg(), Localisation::Btn_NePasEnreg(), Localisation::Btn_NePasQuit(), 0);
+        PrimeFile.isForeign ? Localisation::Txt_CeciEffSonCont() : "", Localisation::Btn_Enreg(),
+        Localisation::Btn_NePasEnreg(), Localisation::Btn_NePasQuit(), 0);
     enregistrer = answer == 1;
     return answer != 1 && answer != 2;
 }
@@ -171,9 +179,9 @@ void WinMain::SaveWithoutAsking() {
     }
     app.SavePreferencesQuietly(listeVisible);
     // A table that never agreed with the file says nothing of what the file holds.
-    if (Nb_NbrePcharg > 0 && NewPrimes(*this) > 0 && PasNil_Existe_Alias(app.FichNbPrems, true) &&
-        !program.HasWinChargSauvNb1ers()) {
-        SaveQuietly(*this, *app.FichNbPrems);
+    if (Nb_NbrePcharg > 0 && !PrimeFile.isForeign && NewPrimes(*this) > 0 &&
+        PasNil_Existe_Alias(app.FichNbPrems, true) && !program.HasWinChargSauvNb1ers()) {
+        SaveQuietly(*this, *app.FichNbPrems, program.services.memory.AvailableBytes() / 2);
     }
 }
 

@@ -53,6 +53,10 @@ void WinMain::Event_Open() {
     Refresh();
     Show();
     program.winChargSauvNb1ers().LoadNb1ers();
+    if (CloseIsDue() || app.QuitAsked) {
+        app.Quit(0); // the user has closed the program in the middle of it
+        return;
+    }
     Welcome(premierLancement);
     if (program.services.loop.IsQuitting()) {
         return; // a signal ended the dialogs: there is nothing to save, and no window to open

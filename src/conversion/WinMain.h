@@ -14,6 +14,7 @@
 #include "platform/TextField.h"
 #include "platform/Thread.h"
 #include "platform/Timer.h"
+#include "primes/BoundFile.h"
 #include "primes/CalculationProgress.h"
 #include "primes/PrimeTable.h"
 #include "primes/RunControl.h"
@@ -110,6 +111,7 @@ public:
 
     PrimeTable Nbres_Premiers;       // the table of primes, rising from 2
     std::uint32_t Nb_NbrePcharg = 0; // how many of its entries agree with the prime file
+    BoundFile PrimeFile;             // what is known of the prime file's content
     bool FocusNbre = false;          // EditFieldNbre is being edited
     bool FocusBase = false;          // EditFieldBaseOrg is being edited
     bool CalculEnCours = false;      // from a calculation's start until its result has been dealt with
@@ -130,9 +132,6 @@ public:
     void ChangeNbre();
     // Reads the source field in its base and writes the other number fields, or what is wrong in all outputs.
     void ConvNbreBaseD();
-    // Tells, once in a row, that a number has other digits in `baseDest` from one field than from the other.
-    void ReportConversionMismatch(
-        const std::string& fromDecimal, int baseDest, const std::string& fromSource, int baseOrg);
     // The digits in `baseDest` of a number given in `baseOrg`, or the text of an error.
     std::string ConvNbreBase(std::string_view nombre, int baseOrg, int baseDest, std::string_view alphabet);
     // A decimal number as it is shown; a text that is no number comes back unchanged.
@@ -249,6 +248,8 @@ private:
     void ConvertSourceBase(std::string& decimal, std::string& source, int baseOrg, std::string_view alphabet);
     void ShowDestination(
         const std::string& decimal, const std::string& source, int baseOrg, std::string_view alphabet);
+    void ReportConversionMismatch(
+        const std::string& fromDecimal, int baseDest, const std::string& fromSource, int baseOrg);
     bool IsErrorText(std::string_view text) const;
     void ConvertAgain();
     std::string NumberShown() const;
@@ -262,8 +263,8 @@ private:
     void ReportFactorMismatch(std::uint64_t product, std::uint64_t n);
     RunControl MakeRunControl(bool checkTime);
 
-    int AskOnTheWayOut(const std::string& message, const std::string& action, const std::string& cancel,
-        const std::string& alternate, int icon);
+    int AskOnTheWayOut(const std::string& message, const std::string& explanation, const std::string& action,
+        const std::string& cancel, const std::string& alternate, int icon);
     bool AskAboutNewPrimes(bool& enregistrer);
     void StayOpen();
     void DecideClose(bool enregistrer);

@@ -4,6 +4,7 @@
 #include <QCoreApplication>
 #include <QEvent>
 #include <QEventLoop>
+#include <QKeyEvent>
 #include <QTimer>
 #include <QTimerEvent>
 
@@ -22,10 +23,14 @@ constexpr int longestDrop = 100;
 
 const QEvent::Type taskPosted = static_cast<QEvent::Type>(QEvent::registerEventType());
 
-// Keeps what the user does from everybody.
+// Keeps what the user does from everybody, but for the wish to quit.
 class InputSink final : public QObject {
 protected:
     bool eventFilter(QObject*, QEvent* event) override {
+        if (event->type() == QEvent::ShortcutOverride &&
+            static_cast<QKeyEvent*>(event)->matches(QKeySequence::Quit)) {
+            QCoreApplication::postEvent(QCoreApplication::instance(), new QEvent(QEvent::Quit));
+        }
         return event->isInputEvent() || event->type() == QEvent::Shortcut ||
                event->type() == QEvent::InputMethod;
     }

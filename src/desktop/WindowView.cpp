@@ -39,7 +39,7 @@ Qt::CursorShape Shape(Cursor cursor) {
 WindowView::WindowView(Window& window, QtMenu* menu, bool withBar)
     : QWidget(nullptr, Flags(window.Frame)), window_(window), content_(new WindowContent(this)),
       focus_(window, *this, [this](const Control* control) { return Find(control); }) {
-    if (window.Frame.kind == WindowFrame::Kind::MovableModal) {
+    if (window.Frame.kind == WindowFrame::Kind::MovableModal && window.Frame.blocksOthers) {
         setWindowModality(Qt::ApplicationModal);
     }
     if (menu != nullptr) {
@@ -229,6 +229,7 @@ void WindowView::ModelClosed() {
 // Through the loop's queue, so that a close while the program waits comes when the wait is over.
 void WindowView::closeEvent(QCloseEvent* event) {
     event->ignore();
+    window_.UserWillClose();
     EventLoop& loop = window_.GetApplication().GetServices().loop;
     loop.Post([this, alive = alive_] {
         if (*alive && !window_.IsClosed()) {

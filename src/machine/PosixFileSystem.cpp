@@ -20,6 +20,12 @@ namespace tessarolyne {
 
 namespace {
 
+FileStamp StampOf(const struct stat& status) {
+    constexpr std::int64_t nanoseconds = 1'000'000'000;
+    return {status.st_dev, status.st_ino, static_cast<std::uint64_t>(status.st_size),
+        std::int64_t{status.st_mtim.tv_sec} * nanoseconds + status.st_mtim.tv_nsec};
+}
+
 // A device is never opened, since opening alone can do something to it, and a FIFO is never waited for.
 class PosixInputFile final : public InputFile {
 public:
@@ -36,9 +42,14 @@ public:
             ThrowErrno("open " + path);
         }
         MustBeRegular(status);
+        stamp_ = StampOf(status);
+        left_ = stamp_.size;
     }
 
+    FileStamp Stamp() const override { return stamp_; }
+
     std::size_t Read(std::span<char> bytes) override {
+        bytes = bytes.first(static_cast<std::size_t>(std::min<std::uint64_t>(bytes.size(), left_)));
         std::size_t count = 0;
         while (count < bytes.size()) {
             const auto rest = bytes.subspan(count);
@@ -51,6 +62,7 @@ public:
             }
             count += static_cast<std::size_t>(read);
         }
+        left_ -= count;
         return count;
     }
 
@@ -63,6 +75,8 @@ private:
 
     std::string path_;
     Descriptor file_;
+    FileStamp stamp_;
+    std::uint64_t left_ = 0;
 };
 
 constexpr off_t largestCopy = off_t{16} * 1024 * 1024;
@@ -120,6 +134,12 @@ FileKind PosixFileSystem::Kind(const std::string& path) const {
     default:
         return FileKind::Other;
     }
+}
+
+std::optional<FileStamp> PosixFileSystem::Stamp(const std::string& path) const {
+    struct stat status {};
+    const bool isFile = ::stat(path.c_str(), &status) == 0 && S_ISREG(status.st_mode);
+    return isFile ? std::optional(StampOf(status)) : std::nullopt;
 }
 
 std::optional<std::string> PosixFileSystem::Resolve(const std::string& path) const {

@@ -12,6 +12,7 @@ public:
     PosixFileSystem();
 
     FileKind Kind(const std::string& path) const override;
+    std::optional<FileStamp> Stamp(const std::string& path) const override;
     std::optional<std::string> Resolve(const std::string& path) const override;
     std::vector<Volume> Volumes() const override;
     std::optional<std::string> VolumeNameAt(const std::string& path) const override;

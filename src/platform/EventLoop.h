@@ -33,7 +33,8 @@ public:
     // Whether such a wait is under way: assistive technology gets in all the same.
     virtual bool IsWaiting() const = 0;
     // Forgets what the user typed and clicked while the program was busy or waited, which would otherwise be
-    // done afterwards.
+    // done afterwards; a close box and the key that quits count all the same. Windows are drawn meanwhile and
+    // answer the window manager.
     virtual void DropInput() = 0;
 
     // Ends the loop and all that RunUntil nested in it.

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <cstdint>
 #include <memory>
 #include <optional>
 #include <span>
@@ -27,10 +28,24 @@ struct Volume {
     bool operator==(const Volume&) const = default;
 };
 
-// An open regular file, read from its start.
+// By what a file is known again: as long as all of it is the same, so is the content.
+struct FileStamp {
+    std::uint64_t device = 0;
+    std::uint64_t inode = 0;
+    std::uint64_t size = 0;
+    std::int64_t changed = 0; // nanoseconds
+
+    bool operator==(const FileStamp&) const = default;
+};
+
+// An open regular file, read from its start up to where its end was when it was opened, so that one that
+// grows all the time has an end too.
 class InputFile {
 public:
     virtual ~InputFile() = default;
+
+    // As it was when the file was opened.
+    virtual FileStamp Stamp() const = 0;
 
     // Fills `bytes` from the file and gives the count; a lower count only at the end of the file. Throws
     // IOException.
@@ -56,6 +71,8 @@ public:
     virtual ~FileSystem() = default;
 
     virtual FileKind Kind(const std::string& path) const = 0;
+    // Of the regular file to which the path leads; nothing if it leads to none.
+    virtual std::optional<FileStamp> Stamp(const std::string& path) const = 0;
     // The path without a link in it; nothing if it leads nowhere. A link to what can't be looked at gives the
     // path to that.
     virtual std::optional<std::string> Resolve(const std::string& path) const = 0;

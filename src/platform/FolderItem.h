@@ -41,6 +41,8 @@ public:
 
     // False if it didn't succeed.
     bool CreateAsFolder() const { return files_->MakeFolder(path_); }
+    // Of the file that the item is or leads to.
+    std::optional<FileStamp> Stamp() const { return files_->Stamp(path_); }
     // Whether a save to this item would be let begin now.
     bool CanReplace(LinkPolicy links) const { return files_->CanReplace(path_, links); }
 

@@ -25,6 +25,7 @@ struct WindowFrame {
     int minHeight = 64;
     int maxWidth = 32000;
     int maxHeight = 32000;
+    bool blocksOthers = true; // MovableModal: false where the other windows may be closed while it is up
 };
 
 // A window as a model: its place, its controls, who of them has the focus, and the events that its class
@@ -50,7 +51,13 @@ public:
     // Changes the size, within the frame's limits; the controls follow by their locks.
     void Resize(int width, int height);
 
-    void UserClosed() { Close(); }
+    void UserClosed() {
+        closeIsDue_ = false;
+        Close();
+    }
+    // The user asks for a close while the program is busy; UserClosed follows when it no longer is.
+    void UserWillClose() { closeIsDue_ = true; }
+    bool CloseIsDue() const { return closeIsDue_; }
     void UserMoved(int left, int top);
     void UserResized(int width, int height) { Resize(width, height); }
     // A key that no control took. True: the window took it.
@@ -102,6 +109,7 @@ private:
     std::vector<Control*> controls_;
     Control* focus_ = nullptr;
     bool closed_ = false;
+    bool closeIsDue_ = false;
     bool presented_ = false;
     bool takesKeyboard_ = true;
 };

@@ -5,6 +5,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <exception>
 #include <limits>
 #include <string_view>
 
@@ -24,6 +25,8 @@ public:
     virtual void Reach([[maybe_unused]] std::int64_t index) {}
     // Some hundred kilobytes are done, whatever was in them.
     virtual void Work() {}
+    // Asked after each Work of a reading: true ends it.
+    virtual bool MustStop() { return false; }
 };
 
 // How many numbers stand between two calls of Reach: a five hundredth of the whole; 0 for a small whole.
@@ -38,23 +41,34 @@ void WritePrimeFile(const PrimeTable& table, std::string_view label, int perLine
 // Expected of a file without a header.
 inline constexpr std::int64_t headerlessMaximum = 200'000;
 
+// No list of primes is larger: as many numbers as a table takes, each of 12 digits and a separator, and a
+// header.
+inline constexpr std::uint64_t largestPrimeFile = std::uint64_t{PrimeTable::maxSize} * 13 + 4096;
+
+// What a file turned out to hold.
+enum class PrimeFileContent {
+    Primes,  // first of all 2, 3, 5, 7
+    Nothing, // not a character but blanks, or a label and a number as the header
+    Other
+};
+
+// PrimeFileProgress::MustStop ended a reading.
+class ReadingStopped final : public std::exception {
+public:
+    const char* what() const noexcept override { return "the reading was stopped"; }
+};
+
 // Replaces the table by the numbers of the file. A line ends with CR, LF or CRLF; a byte order mark at the
 // start is passed over. A first line that contains " : " is a header, whose count only tells what to expect.
 // The number of a field is its Val, truncated and held within 64 bits; 0 drops the rest of the line. Reaches
 // every index that is a multiple of the step, for a step of 0 only the first. Takes memory for one chunk, of
 // at least 3 bytes, beside the table. Throws IOException, also when the table takes no more numbers or has
-// more than `mostBytes` bytes; it then holds what was read.
-void ReadPrimeFile(InputFile& file, PrimeTable& table, PrimeFileProgress& progress,
+// more than `mostBytes` bytes, or ReadingStopped; the table then holds what was read.
+PrimeFileContent ReadPrimeFile(InputFile& file, PrimeTable& table, PrimeFileProgress& progress,
     std::uint64_t mostBytes = std::numeric_limits<std::uint64_t>::max(),
     std::size_t chunkSize = std::size_t{256} * 1024);
 
-// What a table that was read begins with.
-enum class TableStart {
-    Primes, // 2, 3, 5, 7
-    Short,  // some of these, and then no more
-    Empty,
-    Other
-};
-TableStart StartOf(const PrimeTable& table);
+// Whether these are 2, 3, 5, 7.
+bool BeginsWithFirstPrimes(const PrimeTable& table);
 
 } // namespace tessarolyne

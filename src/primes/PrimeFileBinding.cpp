@@ -57,6 +57,9 @@ void WinNbresPremiers::OpenBoundFile(bool fichDispo) {
 std::optional<FolderItem> WinNbresPremiers::ChooseAndLoad() {
     auto chosen = fncts.MyDialogLoad(
         app.FichNbPrems, Localisation::Txt_SelectFichierNbPrem(), FileTypes::QueText.Text(), nullptr);
+    if (chosen && !CanBeKept(*chosen)) {
+        chosen.reset();
+    }
     if (chosen) {
         ProgressWheel2.Visible = true;
         app.FichNbPrems = MemeItem(chosen);
@@ -79,11 +82,31 @@ std::optional<FolderItem> WinNbresPremiers::ChooseAndSave() {
             Localisation::Txt_Rempl_Imposs(), "", Localisation::Btn_Annuler(), "", "", 1, nullptr);
         chosen.reset();
     }
+    if (chosen && !CanBeKept(*chosen)) {
+        chosen.reset();
+    }
     if (chosen) {
+        if (chosen != app.FichNbPrems) {
+            program.winMain().PrimeFile = {chosen->Stamp(), false}; // the user has agreed to replace this
+        }
         app.FichNbPrems = MemeItem(chosen);
         program.winChargSauvNb1ers().SaveNb1ers(LinkPolicy::ReplaceLink);
     }
     return chosen;
+}
+
+// A setting is one line: a place that holds a line end could not be found again at the next start.
+bool WinNbresPremiers::CanBeKept(const FolderItem& item) {
+    const auto isOneLine = [](const FolderItem& place) {
+        return place.NativePath().find_first_of("\r\n") == std::string::npos;
+    };
+    if (isOneLine(item) && isOneLine(GetTargetItem_f(item).value_or(item))) {
+        return true;
+    }
+    fncts.Beep();
+    fncts.MyDialogBox(
+        Localisation::Txt_FichNomSurLignes(), "", Localisation::Btn_Annuler(), "", "", 1, nullptr);
+    return false;
 }
 
 void WinNbresPremiers::AskToKeepFile() {

@@ -19,6 +19,7 @@ namespace {
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 constexpr std::string_view headerMark = " : ";
 constexpr std::string_view lineEnds = "\r\n";
+constexpr std::string_view blanks = " \t\r\n";
 
 bool IsLineEnd(char c) {
     return c == '\n' || c == '\r';
@@ -126,6 +127,8 @@ public:
 
     void Take(std::string_view bytes);
     void Finish();
+    // Whether there was anything but blanks and a header.
+    bool HasText() const { return hasText_; }
 
 private:
     std::string_view TakeFirstLine(std::string_view bytes);
@@ -142,6 +145,7 @@ private:
     bool inFirstLine_ = true;
     bool isHeader_ = false;
     bool hasBegun_ = false;
+    bool hasText_ = false;
     HeaderMark headerMark_;
     bool inField_ = false;  // field_ has begun to take one
     bool dropping_ = false; // up to the end of the line
@@ -152,6 +156,7 @@ void Reader::Take(std::string_view bytes) {
     if (inFirstLine_) {
         bytes = TakeFirstLine(bytes);
     }
+    hasText_ = hasText_ || bytes.find_first_not_of(blanks) != std::string_view::npos;
     TakeData(bytes.data(), bytes.data() + bytes.size());
     sink_.Flush();
 }
@@ -168,12 +173,16 @@ std::string_view Reader::TakeFirstLine(std::string_view bytes) {
             return bytes;
         }
         isHeader_ = true;
+        hasText_ = false;
         inField_ = dropping_ = false;
         neighbourhood_.Leave();
         sink_.Restart();
         field_.Clear();
         line.remove_prefix(behindMark);
     }
+    // A line of prose may contain the mark too: in the header of a list there is a number behind it.
+    hasText_ =
+        hasText_ || std::any_of(line.begin(), line.end(), [](char c) { return c != ' ' && !IsDigit(c); });
     for (const char c : line) {
         field_.Take(c);
     }
@@ -282,8 +291,8 @@ void Reader::Finish() {
 
 } // namespace
 
-void ReadPrimeFile(InputFile& file, PrimeTable& table, PrimeFileProgress& progress, std::uint64_t mostBytes,
-    std::size_t chunkSize) {
+PrimeFileContent ReadPrimeFile(InputFile& file, PrimeTable& table, PrimeFileProgress& progress,
+    std::uint64_t mostBytes, std::size_t chunkSize) {
     table.Clear();
     Reader reader(table, progress);
     std::vector<char> chunk(chunkSize);
@@ -295,6 +304,9 @@ void ReadPrimeFile(InputFile& file, PrimeTable& table, PrimeFileProgress& progre
         }
         reader.Take(bytes);
         progress.Work();
+        if (progress.MustStop()) {
+            throw ReadingStopped();
+        }
         if (table.Bytes() > mostBytes) {
             throw IOException("no memory for more numbers");
         }
@@ -303,22 +315,16 @@ void ReadPrimeFile(InputFile& file, PrimeTable& table, PrimeFileProgress& progre
         }
     }
     reader.Finish();
+    return BeginsWithFirstPrimes(table) ? PrimeFileContent::Primes
+           : reader.HasText()           ? PrimeFileContent::Other
+                                        : PrimeFileContent::Nothing;
 }
 
-TableStart StartOf(const PrimeTable& table) {
+bool BeginsWithFirstPrimes(const PrimeTable& table) {
     constexpr std::array<std::uint64_t, 4> firstPrimes{2, 3, 5, 7};
-    if (table.Size() == 0) {
-        return TableStart::Empty;
-    }
-    for (std::int32_t rank = 0; rank < static_cast<std::int32_t>(firstPrimes.size()); ++rank) {
-        if (rank == table.Size()) {
-            return TableStart::Short;
-        }
-        if (table[rank] != firstPrimes[static_cast<std::size_t>(rank)]) {
-            return TableStart::Other;
-        }
-    }
-    return TableStart::Primes;
+    std::array<std::uint64_t, 4> first{};
+    table.CopyTo(0, first);
+    return first == firstPrimes;
 }
 
 } // namespace tessarolyne

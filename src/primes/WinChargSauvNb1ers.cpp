@@ -12,8 +12,8 @@
 
 #include <atomic>
 #include <exception>
+#include <optional>
 #include <thread>
-#include <utility>
 
 namespace tessarolyne {
 
@@ -21,8 +21,11 @@ namespace {
 
 constexpr std::int64_t ticksBetweenAnswers = 6;
 
-constexpr WindowFrame frame{
-    .kind = WindowFrame::Kind::MovableModal, .closeButton = false, .minimizeButton = false};
+// The program takes no input while the window is up, and its main window must be there to be closed.
+constexpr WindowFrame frame{.kind = WindowFrame::Kind::MovableModal,
+    .closeButton = false,
+    .minimizeButton = false,
+    .blocksOthers = false};
 constexpr int ticksToBeSeen = 6;
 
 } // namespace
@@ -76,13 +79,16 @@ void WinChargSauvNb1ers::Work() {
     }
 }
 
+bool WinChargSauvNb1ers::MustStop() {
+    return program.services.loop.IsQuitting() || program.winMain().CloseIsDue() || app.QuitAsked;
+}
+
 void WinChargSauvNb1ers::Draw() {
     drawn_ = program.services.clock.Ticks();
     UpdateNow();
     if (drawn_ >= answered_ + ticksBetweenAnswers) {
         answered_ = drawn_;
-        bool once = false; // one round of events without the user's: the window is exposed, and answers pings
-        program.services.loop.WaitUntil([&once] { return std::exchange(once, true); });
+        program.services.loop.DropInput();
     }
 }
 
@@ -92,48 +98,98 @@ void WinChargSauvNb1ers::TellFailure(int beeps, const std::string& message) {
 }
 
 void WinChargSauvNb1ers::LoadNb1ers() {
+    WinMain& main = program.winMain();
     Start(Localisation::WinChargNb1ersTitre());
-    if (!PasNil_Existe_Alias(app.FichNbPrems, true) || !ReadBoundFile()) {
+    if (main.Nbres_Premiers.Size() == 0) {
         Reset();
+    }
+    main.Nb_NbrePcharg = 0;
+    main.PrimeFile = {};
+    app.QuitAsked = false;
+    if (PasNil_Existe_Alias(app.FichNbPrems, true)) {
+        LoadBoundFile();
     }
     End();
 }
 
-// False, all reported, if the table has to be reset.
-bool WinChargSauvNb1ers::ReadBoundFile() {
-    PrimeTable& table = program.winMain().Nbres_Premiers;
-    try {
-        table.Clear();
-        const auto file = app.FichNbPrems->Files().OpenForReading(app.FichNbPrems->NativePath());
-        // Half of what there is, as for a calculation.
-        ReadPrimeFile(*file, table, *this, program.services.memory.AvailableBytes() / 2);
-        switch (StartOf(table)) {
-        case TableStart::Primes:
-            program.winMain().Nb_NbrePcharg = static_cast<std::uint32_t>(table.Size());
-            return true;
-        case TableStart::Short:
-            TellFailure(1, Localisation::Txt_ErreurLectFich());
-            break;
-        case TableStart::Other:
-            AskAboutOtherFile();
-            break;
-        case TableStart::Empty:
-            break;
-        }
-    } catch (const std::exception&) {
-        TellFailure(1, Localisation::Txt_ErreurLectFich());
+void WinChargSauvNb1ers::LoadBoundFile() {
+    PrimeTable read;
+    const Reading reading = ReadInto(read);
+    if (reading == Reading::Primes) {
+        Take(read);
+        return;
     }
-    return false;
+    read.Clear();
+    program.winMain().PrimeFile.isForeign = reading != Reading::Nothing;
+    switch (reading) {
+    case Reading::Other:
+        if (UserOverwrites()) {
+            Save(LinkPolicy::ReplaceTarget);
+        }
+        break;
+    case Reading::TooLarge:
+        TellFailure(1, Localisation::Txt_FichTropGrand());
+        break;
+    case Reading::Failed:
+        TellFailure(1, Localisation::Txt_ErreurLectFich());
+        break;
+    case Reading::Stopped:
+        Reset();
+        break;
+    case Reading::Primes:
+    case Reading::Nothing:
+        break;
+    }
 }
 
-void WinChargSauvNb1ers::AskAboutOtherFile() {
+WinChargSauvNb1ers::Reading WinChargSauvNb1ers::ReadInto(PrimeTable& table) {
+    std::optional<FileStamp>& seen = program.winMain().PrimeFile.seen;
+    try {
+        seen = app.FichNbPrems->Stamp();
+        const auto file = app.FichNbPrems->Files().OpenForReading(app.FichNbPrems->NativePath());
+        seen = file->Stamp();
+        if (seen->size > largestPrimeFile) {
+            return Reading::TooLarge;
+        }
+        switch (ReadPrimeFile(*file, table, *this, MemoryForTable())) {
+        case PrimeFileContent::Primes:
+            return Reading::Primes;
+        case PrimeFileContent::Nothing:
+            return Reading::Nothing;
+        case PrimeFileContent::Other:
+            return Reading::Other;
+        }
+    } catch (const ReadingStopped&) {
+        return Reading::Stopped;
+    } catch (const std::exception&) {
+        return Reading::Failed;
+    }
+    return Reading::Failed;
+}
+
+void WinChargSauvNb1ers::Take(PrimeTable& read) {
+    program.winMain().Nbres_Premiers.Swap(read);
+    CountAsSaved();
+}
+
+// Half of what there is, as for a calculation. The table that stays until another has been read counts as
+// taken.
+std::uint64_t WinChargSauvNb1ers::MemoryForTable() const {
+    return program.services.memory.AvailableBytes() / 2;
+}
+
+// Whether the table may take the place of a file that holds something else. On the answer that it may not,
+// the file is let go of.
+bool WinChargSauvNb1ers::UserOverwrites() {
     fncts.Beep();
     const int answer =
         fncts.MyDialogBox(Localisation::Txt_CeFichContPasNb1er(), Localisation::Txt_CeciEffSonCont(),
             Localisation::Btn_Enreg(), Localisation::Btn_NePasEnreg(), "", 0, nullptr);
     if (answer == 2) {
         app.FichNbPrems.reset();
+        program.winMain().PrimeFile = {};
     }
+    return answer == 1;
 }
 
 void WinChargSauvNb1ers::Reset() {
@@ -144,30 +200,62 @@ void WinChargSauvNb1ers::Reset() {
             break;
         }
     }
-    program.winMain().Nb_NbrePcharg = 0;
 }
 
 void WinChargSauvNb1ers::SaveNb1ers(LinkPolicy links) {
     Start(Localisation::WinSauvNb1ersTitre());
-    const PrimeTable& table = program.winMain().Nbres_Premiers;
+    Save(links);
+    End();
+}
+
+void WinChargSauvNb1ers::Save(LinkPolicy links) {
+    Title = Localisation::WinSauvNb1ersTitre();
+    if (app.FichNbPrems && !MayReplace()) {
+        return;
+    }
     // Before the first byte: a save that failed and was reported isn't offered again.
-    program.winMain().Nb_NbrePcharg = static_cast<std::uint32_t>(table.Size());
+    CountAsSaved();
     try {
         Write(links);
     } catch (const std::exception&) {
         TellFailure(3, Localisation::Txt_ErreurEcritFich());
     }
-    End();
+}
+
+void WinChargSauvNb1ers::CountAsSaved() {
+    WinMain& main = program.winMain();
+    main.Nb_NbrePcharg = static_cast<std::uint32_t>(main.Nbres_Premiers.Size());
+}
+
+// False, and the user knows why, if the file has changed since it was seen and is worth more than the table.
+bool WinChargSauvNb1ers::MayReplace() {
+    const WinMain& main = program.winMain();
+    switch (
+        LookBeforeSaving(*app.FichNbPrems, main.PrimeFile, main.Nbres_Premiers, MemoryForTable(), *this)) {
+    case UnseenContent::None:
+        return true;
+    case UnseenContent::MorePrimes:
+        TellFailure(1, Localisation::Txt_FichAPlusDeNb1ers());
+        CountAsSaved(); // what there is here, there is in the file
+        return false;
+    case UnseenContent::Other:
+        return UserOverwrites();
+    case UnseenContent::Unreadable:
+        TellFailure(1, Localisation::Txt_ErreurLectFich());
+        return false;
+    }
+    return false;
 }
 
 void WinChargSauvNb1ers::Write(LinkPolicy links) {
     if (!app.FichNbPrems) {
         throw IOException("no file is bound");
     }
-    const WinMain& main = program.winMain();
+    WinMain& main = program.winMain();
     const auto file = app.FichNbPrems->Files().CreateSafely(app.FichNbPrems->NativePath(), links);
     WritePrimeFile(main.Nbres_Premiers, Localisation::Txt_NbreDeNbPrem(), main.NbreNbPparLigne, *file, *this);
     CommitWhileDrawing(*file);
+    main.PrimeFile = {app.FichNbPrems->Stamp(), false};
 }
 
 // The disk may need seconds, in which the window must not look dead.

@@ -14,7 +14,8 @@ namespace tessarolyne {
 class WinMain;
 
 // Shows how far the prime file is read or written, and does the one or the other: it lives for one operation,
-// which opens it, reports what went wrong, and closes it. While it is up it is drawn and nobody can stop it.
+// which opens it, reports what went wrong, and closes it. While it is up it is drawn, and only the end of the
+// program stops a reading.
 class WinChargSauvNb1ers final : public ModalWindow, private PrimeFileProgress {
 public:
     explicit WinChargSauvNb1ers(Program& owner);
@@ -23,10 +24,12 @@ public:
     ProgressBar ProgressBarNb1ers{*this, "ProgressBarNb1ers", {20, 39, 360, 13}, lockLeftTop, NoTabStop(1)};
     BlockingOverlay LabBlockUI{*this, fncts, NoTabStop(2)};
 
-    // Reads the bound file into the table; with none, or one that is no good, the table becomes 2, 3, 5, 7.
+    // Reads the bound file into the table. With none, or one that is no good, the table stays what it is, and
+    // 2, 3, 5, 7 if it was empty. A file without primes is overwritten if the user says so, or let go of.
     void LoadNb1ers();
-    // Writes the table to the bound file. A file that the user has just chosen takes the place of a link with
-    // ReplaceLink; a file that has been bound for long stays what it is.
+    // Writes the table to the bound file, unless that has changed and would lose by it. A file that the user
+    // has just chosen takes the place of a link with ReplaceLink; a file that has been bound for long stays
+    // what it is.
     void SaveNb1ers(LinkPolicy links = LinkPolicy::ReplaceTarget);
 
     void Event_Open() override;
@@ -36,13 +39,22 @@ private:
     void Expect(std::int64_t maximum) override;
     void Reach(std::int64_t index) override;
     void Work() override;
+    bool MustStop() override;
+
+    enum class Reading { Primes, Nothing, Other, TooLarge, Failed, Stopped };
 
     void Start(const std::string& title);
     void End();
     void Draw();
-    bool ReadBoundFile();
-    void AskAboutOtherFile();
+    void LoadBoundFile();
+    Reading ReadInto(PrimeTable& table);
+    void Take(PrimeTable& read);
+    void CountAsSaved();
+    bool UserOverwrites();
     void Reset();
+    void Save(LinkPolicy links);
+    bool MayReplace();
+    std::uint64_t MemoryForTable() const;
     void Write(LinkPolicy links);
     void CommitWhileDrawing(OutputFile& file);
     void TellFailure(int beeps, const std::string& message);

@@ -80,6 +80,7 @@ private:
     void OpenBoundFile(bool fichDispo);
     std::optional<FolderItem> ChooseAndLoad();
     std::optional<FolderItem> ChooseAndSave();
+    bool CanBeKept(const FolderItem& item);
     void AskToKeepFile();
     void ShowBinding();
 

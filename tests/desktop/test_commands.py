@@ -7,6 +7,9 @@ from pathlib import Path
 from case import ProgramTestCase
 
 
+LOADING = "^Chargement des Nombres Premiers$"
+
+
 class SavingTestCase(ProgramTestCase):
     def save_as(self, target):
         self.screen.press("ctrl+s")
@@ -15,6 +18,21 @@ class SavingTestCase(ProgramTestCase):
         )
         self.screen.type(str(target))
         self.screen.press("Return")
+
+    def open(self, path):
+        self.screen.press("ctrl+o")
+        self.find_with_keyboard("dialog", "Sélectionner le Fichier")
+        self.screen.type(str(path))
+        self.screen.press("Return")
+
+    def load_zeros(self, size):
+        """Begins to load four primes and that many zero bytes on a line, which take no place on the disk."""
+        path = Path(self._home) / "long.txt"
+        path.write_bytes(b"2\t3\t5\t7\n")
+        os.truncate(path, size)
+        self.open(path)
+        self.program.wait_for(lambda: self.screen.find_windows(LOADING), "the load to begin")
+        return path
 
 
 class PrimeFile(SavingTestCase):
@@ -44,22 +62,51 @@ class PrimeFile(SavingTestCase):
         self.control("StaticTextNbNbre1ers")
 
     def test_what_is_clicked_during_a_load_is_not_done_after_it(self):
-        path = Path(self._home) / "long.txt"
-        path.write_bytes(b"2\t3\t5\t7\n")
-        os.truncate(path, 300_000_000)  # zero bytes on one line: they take a second and no place on the disk
         list_button = self.control("BevelButtonListe").centre
-        self.screen.press("ctrl+o")
-        self.find_with_keyboard("dialog", "Sélectionner le Fichier")
-        self.screen.type(str(path))
-        self.screen.press("Return")
-        title = "^Chargement des Nombres Premiers$"
-        self.program.wait_for(lambda: self.screen.find_windows(title), "the load to begin")
+        self.load_zeros(300_000_000)  # a second
         self.screen.click(*list_button)
-        self.program.wait_for(lambda: not self.screen.find_windows(title), "the load to end")
+        self.program.wait_for(lambda: not self.screen.find_windows(LOADING), "the load to end")
         self.press_button("CheckBoxFormatAuto")
         format_auto = self.control("CheckBoxFormatAuto")
         self.program.wait_for(lambda: not format_auto.checked, "a click after the load to be done")
         self.assertTrue(self.control("BevelButtonListe").checked)
+
+
+class OtherText(SavingTestCase):
+    def test_a_text_is_named_before_the_primes_that_were_there_take_its_place(self):
+        letter = Path(self._home) / "letter.txt"
+        letter.write_text("Dear Anne,\nyours\n")
+        self.press_button("BevelButtonListe")
+        self.wait_for_focus("EditFieldFin")
+        self.screen.press("ctrl+a")
+        self.screen.type("987")
+        self.screen.press("Return")
+        self.control("StaticTextNbNbre1ers")
+        self.open(letter)
+        self.find_with_keyboard("push button", "Enregistrer")
+        self.assertEqual(letter.read_text(), "Dear Anne,\nyours\n")
+        self.screen.press("Return")
+        self.program.wait_for(lambda: letter.read_text().endswith("977\t983\n"), "the primes to be in the file")
+        self.control("StaticTextNbNbre1ers")
+
+
+class EndOfALoad(SavingTestCase):
+    def test_a_load_ends_with_the_program_and_writes_nothing(self):
+        ends = (
+            lambda: self.program.signal(signal.SIGTERM),
+            lambda: self.program.click_close_box(),
+            lambda: self.screen.press("ctrl+q"),
+        )
+        for number, end in enumerate(ends):
+            with self.subTest(number):
+                if number > 0:
+                    self.write_preferences(self.PREFERENCES)
+                    self.start_program()
+                path = self.load_zeros(25_000_000_000)  # a minute at least
+                before = path.stat()
+                end()
+                self.assertEqual(self.program.wait_for_end(3), 0)
+                self.assertEqual(path.stat().st_mtime_ns, before.st_mtime_ns)
 
 
 class FileInTheWay(SavingTestCase):

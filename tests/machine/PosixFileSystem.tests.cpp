@@ -50,12 +50,17 @@ TEST_CASE("A file is read in pieces of any size, and what is no regular file is 
     }
     WriteFile(disk / "f", text);
     const auto file = disk.files.OpenForReading(disk / "f");
+    CHECK(file->Stamp() == disk.files.Stamp(disk / "f"));
     std::string read;
     std::array<char, 777> piece;
     for (auto count = file->Read(piece); count > 0; count = file->Read(piece)) {
         read.append(piece.data(), count);
+        std::ofstream(disk / "f", std::ios::app) << "more"; // goes on growing while it is read
+        REQUIRE(read.size() <= text.size());
     }
     CHECK(read == text);
+    CHECK_FALSE(file->Stamp() == disk.files.Stamp(disk / "f"));
+    CHECK_FALSE(disk.files.Stamp(disk.Path()).has_value());
 
     REQUIRE(::mkfifo((disk / "fifo").c_str(), 0666) == 0);
     fs::create_symlink("none", disk / "dangling");

@@ -1,6 +1,7 @@
 #include "platform/MenuBar.h"
 #include "primes/WinNbresPremiers.h"
 #include "support/TestWorld.h"
+#include "ui/Localisation.h"
 
 #include <doctest/doctest.h>
 
@@ -10,114 +11,125 @@ using namespace tessarolyne::tests;
 namespace {
 
 const std::string path = "/home/user/primes.txt";
+const std::string sixPrimes = "2\t3\t5\t7\t11\t13\n";
 
-struct Binding {
+struct Binding : TestWorld {
     explicit Binding(bool bound) {
-        world.files.AddFile(path, "2\t3\t5\t7\t11\t13\n");
+        files.AddFile(path, sixPrimes);
         if (bound) {
-            world.program->app.FichNbPrems = Item(path);
+            Bound() = files.At(path);
         }
-        world.Main().BevelButtonListe.UserPressed();
+        Main().BevelButtonListe.UserPressed();
     }
 
-    std::optional<FolderItem> Item(const std::string& place) {
-        return FolderItem::FromNativePath(world.files, place);
+    std::optional<FolderItem>& Bound() { return program->app.FichNbPrems; }
+    std::string Caption() { return program->winNbresPremiers().PushButtonFichier.Caption; }
+    void Click(bool option, bool shift, const std::optional<FolderItem>& chosen) {
+        desktop.option = option;
+        desktop.shift = shift;
+        if (!option) {
+            dialogs.ExpectFile(chosen);
+        }
+        program->winNbresPremiers().PushButtonFichier.UserPressed();
     }
-    WinNbresPremiers& List() { return world.program->winNbresPremiers(); }
-    std::optional<FolderItem>& Bound() { return world.program->app.FichNbPrems; }
-    void Click(bool option, bool shift) {
-        world.desktop.option = option;
-        world.desktop.shift = shift;
-        List().PushButtonFichier.UserPressed();
-    }
-
-    TestWorld world;
 };
 
 } // namespace
 
 TEST_CASE("The binding, Option and Shift decide what a click does") {
-    for (const bool bound : {false, true}) {
-        for (const bool option : {false, true}) {
-            for (const bool shift : {false, true}) {
-                CAPTURE(bound);
-                CAPTURE(option);
-                CAPTURE(shift);
-                Binding binding(bound);
-                const bool load = bound != shift;
-                if (!option) {
-                    binding.world.dialogs.ExpectFile(binding.Item(path));
-                }
-                const int beeps = binding.world.sounds.beeps;
-                binding.Click(option, shift);
-                if (option) {
-                    CHECK(binding.world.desktop.opened.size() == (bound ? 1U : 0U));
-                    CHECK(binding.world.sounds.beeps == beeps + (bound ? 0 : 1));
-                    CHECK(binding.Bound().has_value() == bound);
-                    continue;
-                }
-                CHECK(binding.world.dialogs.fileDialogs.back().prompt ==
-                      (load ? "Sélectionner le Fichier des Nombres Premiers :"
-                            : "Sélectionner le dossier de sauvegarde :"));
-                CHECK(binding.Bound() == binding.Item(path));
-                CHECK(binding.List().PushButtonFichier.Caption() == "Changer Fichier");
-                CHECK(binding.world.Main().Nbres_Premiers.Back() == (load ? 13 : 7));
-                CHECK(binding.world.files.entries.at(path).content.starts_with(load ? "2\t3" : "Nombre de"));
-            }
+    for (int keys = 0; keys < 8; ++keys) {
+        const bool bound = (keys & 1) != 0;
+        const bool option = (keys & 2) != 0;
+        const bool shift = (keys & 4) != 0;
+        CAPTURE(keys);
+        Binding world(bound);
+        const bool load = bound != shift;
+        const std::string chosen = load ? path : "/home/user/new.txt";
+        world.Click(option, shift, world.files.At(chosen));
+        if (option) {
+            CHECK(world.desktop.opened.size() == (bound ? 1U : 0U));
+            CHECK(world.sounds.beeps == (bound ? 0 : 1));
+            CHECK(world.Bound().has_value() == bound);
+            continue;
         }
+        CHECK(world.dialogs.fileDialogs.back().prompt ==
+              (load ? Localisation::Txt_SelectFichierNbPrem() : Localisation::Txt_SelectDossSauv()));
+        CHECK(world.Bound() == world.files.At(chosen));
+        CHECK(world.Caption() == "Changer Fichier");
+        CHECK(world.Main().Nbres_Premiers.Back() == (load ? 13 : 7));
+        CHECK(world.files.entries.at(chosen).content.starts_with(load ? "2\t3" : "Nombre de"));
     }
 }
 
 TEST_CASE("A cancelled chooser asks what becomes of a bound file, and is silent without one") {
     Binding unbound(false);
-    unbound.world.dialogs.ExpectFile(std::nullopt);
-    unbound.Click(false, false);
-    CHECK(unbound.world.dialogs.asked.empty());
+    unbound.Click(false, false, std::nullopt);
+    CHECK(unbound.dialogs.asked.empty());
 
     for (const DialogButton answer : {DialogButton::Action, DialogButton::Cancel, DialogButton::None}) {
-        Binding binding(true);
-        binding.world.dialogs.ExpectFile(std::nullopt);
-        binding.world.dialogs.Expect(answer);
-        binding.Click(false, false);
-        CHECK(binding.Bound().has_value() == (answer != DialogButton::Cancel));
-        CHECK(binding.List().PushButtonFichier.Caption() ==
-              (answer == DialogButton::Cancel ? "Sauver Fichier" : "Changer Fichier"));
-        CHECK(binding.world.Main().Nbres_Premiers.Back() == 7);
+        Binding world(true);
+        world.dialogs.Expect(answer);
+        world.Click(false, false, std::nullopt);
+        CHECK(world.Bound().has_value() == (answer != DialogButton::Cancel));
+        CHECK(world.Caption() == (answer == DialogButton::Cancel ? "Sauver Fichier" : "Changer Fichier"));
+        CHECK(world.Main().Nbres_Premiers.Back() == 7);
     }
 }
 
-TEST_CASE("A file that can't be replaced is told, costs nothing, and counts as cancelled") {
-    Binding binding(false);
-    binding.world.files.unwritable.insert(path);
-    binding.world.dialogs.ExpectFile(binding.Item(path));
-    binding.world.dialogs.Expect(DialogButton::Action);
-    binding.Click(false, false);
-    CHECK(binding.world.dialogs.asked.at(0).message == "Remplacement impossible !");
-    CHECK_FALSE(binding.Bound().has_value());
-    CHECK(binding.world.files.entries.at(path).content == "2\t3\t5\t7\t11\t13\n");
+TEST_CASE(
+    "A file that can't be replaced, or found again at the next start, is told and counts as cancelled") {
+    Binding locked(false);
+    locked.files.unwritable.insert(path);
+    locked.dialogs.Expect(DialogButton::Action);
+    locked.Click(false, false, locked.files.At(path));
+    CHECK(locked.dialogs.asked.at(0).message == "Remplacement impossible !");
+    CHECK_FALSE(locked.Bound().has_value());
+    CHECK(locked.files.entries.at(path).content == sixPrimes);
+
+    for (const bool load : {false, true}) {
+        for (const char* name :
+            {"/home/user/two\nlines.txt", "/home/user/two\rlines/primes.txt", "/home/user/link"}) {
+            Binding world(false);
+            world.files.AddFile("/home/user/two\nlines.txt", sixPrimes);
+            world.files.AddLink("/home/user/link", "/home/user/two\nlines.txt");
+            world.dialogs.Expect(DialogButton::Action);
+            world.Click(false, load, world.files.At(name));
+            CHECK(world.dialogs.asked.at(0).message == Localisation::Txt_FichNomSurLignes());
+            CHECK_FALSE(world.Bound().has_value());
+            CHECK(world.files.entries.at("/home/user/two\nlines.txt").content == sixPrimes);
+        }
+    }
+}
+
+TEST_CASE("The bound file isn't replaced by fewer primes, though the user chose it again") {
+    Binding world(true);
+    world.dialogs.Expect(DialogButton::Action);
+    world.Click(false, true, world.files.At(path)); // never read, and holds six primes to the table's four
+    CHECK(world.files.entries.at(path).content == sixPrimes);
+    CHECK(world.dialogs.asked.at(0).message == Localisation::Txt_FichAPlusDeNb1ers());
 }
 
 TEST_CASE("A bound file that has vanished counts as none, and a click offers to save") {
-    Binding binding(true);
-    binding.world.files.entries.erase(path);
-    binding.world.dialogs.ExpectFile(binding.Item(path));
-    binding.Click(false, false);
-    CHECK(binding.world.files.entries.at(path).content.starts_with("Nombre de Nombres Premiers : 4\n"));
+    Binding world(true);
+    world.files.entries.erase(path);
+    world.Click(false, false, world.files.At(path));
+    CHECK(world.files.entries.at(path).content.starts_with("Nombre de Nombres Premiers : 4\n"));
 }
 
 TEST_CASE("The menu commands open the list and work with a file bound and without") {
     for (const bool bound : {false, true}) {
-        Binding binding(bound);
-        binding.world.Main().BevelButtonListe.UserPressed();
-        binding.world.loop.Advance(1);
-        const MenuBar& menus = *binding.world.program->app.GetMenuBar();
-        binding.world.dialogs.ExpectFile(binding.Item(path));
-        menus.Find("FichChoixFichNbP")->UserChose(binding.world.program->app);
-        CHECK(binding.world.Main().BevelButtonListe.Value());
-        CHECK(binding.world.Main().Nbres_Premiers.Back() == 13);
-        binding.world.dialogs.ExpectFile(binding.Item("/home/user/new.txt"));
-        menus.Find("FichSauvFichNbP")->UserChose(binding.world.program->app);
-        CHECK(binding.world.files.entries.at("/home/user/new.txt").content ==
+        Binding world(bound);
+        world.Main().BevelButtonListe.UserPressed();
+        world.loop.Advance(1);
+        const MenuBar& menus = *world.program->app.GetMenuBar();
+        world.dialogs.ExpectFile(world.files.At(path));
+        menus.Find("FichChoixFichNbP")->UserChose(world.program->app);
+        CHECK(world.Main().BevelButtonListe.Value());
+        CHECK(world.Main().Nbres_Premiers.Back() == 13);
+        world.files.AddFile("/home/user/other.txt", sixPrimes + "17\n");
+        world.dialogs.ExpectFile(world.files.At("/home/user/other.txt"));
+        menus.Find("FichSauvFichNbP")->UserChose(world.program->app);
+        CHECK(world.files.entries.at("/home/user/other.txt").content ==
               "Nombre de Nombres Premiers : 6\n2\t3\t5\t7\t11\t13\n");
     }
 }

@@ -31,40 +31,39 @@ struct OpenList {
 
 } // namespace
 
-TEST_CASE("A short table stands on one line, with its count and its last prime") {
-    OpenList open(7);
-    WinNbresPremiers& list = open.List();
+TEST_CASE("Six primes stand on each line, bare, with their count and the last of all") {
+    OpenList few(7);
+    WinNbresPremiers& list = few.List();
     CHECK(list.TxtAreaListeNbres1ers.Text() == "\t2\t3\t5\t7");
-    CHECK(open.Range() == "1-4");
-    CHECK(list.StaticTextNbNbre1ers.Text() == "4 nombres premiers");
+    CHECK(few.Range() == "1-4");
     CHECK(list.EditFieldFin.Text() == "7");
     CHECK(list.EditFieldFin.SelLength() == 1);
     CHECK_FALSE(list.ProgressWheel2.Visible());
-    CHECK(open.Show("9", "9", true) == "1-4");
-}
-
-TEST_CASE("Six primes stand on each line, bare") {
-    OpenList open(10000);
-    CHECK(open.Show("1219", "0", false) == "1219-1229");
-    CHECK(open.List().TxtAreaListeNbres1ers.Text() ==
+    CHECK(few.Show("9", "9", true) == "1-4");
+    OpenList many(10000);
+    CHECK(many.Show("1219", "0", false) == "1219-1229");
+    CHECK(many.List().TxtAreaListeNbres1ers.Text() ==
           "\t9883\t9887\t9901\t9907\t9923\t9929\n\t9931\t9941\t9949\t9967\t9973");
-    CHECK(open.List().StaticTextNbNbre1ers.Text() == "1 229 nombres premiers");
+    CHECK(many.List().StaticTextNbNbre1ers.Text() == "1 229 nombres premiers");
 }
 
 TEST_CASE("A range is cut to 2000 primes at the end that the Return key chooses, and to the table") {
     OpenList open(104729); // 10,000 primes
     CHECK(open.Range() == "1-2000");
-    CHECK(open.Show("5000", "1", true) == "5000-6999");
-    CHECK(open.Show("1", "9000", false) == "7001-9000");
-    CHECK(open.Show("1", "9000", true) == "1-2000");
-    CHECK(open.Show("20000", "1", true) == "8001-10000");
-    CHECK(open.Show("1", "0", false) == "8001-10000");
-    CHECK(open.Show("1", "", false) == "8001-10000");
-    CHECK(open.Show("9500", "99999", true) == "9500-10000");
-    CHECK(open.Show("10000000000000000000", "1e30", true) == "8001-10000");
-    CHECK(open.Show("-5", "-9223372036854775809", true) == "1-2000");
-    CHECK(open.Show("3 000", "3 010", true) == "3000-3010");
     CHECK_FALSE(open.List().EditFieldAffDu.UserPressedKey("5"));
+    struct Case {
+        const char* first;
+        const char* last;
+        bool returnInFirst;
+        const char* shown;
+    };
+    for (const Case& entered : {Case{"5000", "1", true, "5000-6999"}, {"1", "9000", false, "7001-9000"},
+             {"1", "9000", true, "1-2000"}, {"20000", "1", true, "8001-10000"},
+             {"1", "0", false, "8001-10000"}, {"1", "", false, "8001-10000"},
+             {"9500", "99999", true, "9500-10000"}, {"10000000000000000000", "1e30", true, "8001-10000"},
+             {"-5", "-9223372036854775809", true, "1-2000"}, {"3 000", "3 010", true, "3000-3010"}}) {
+        CHECK(open.Show(entered.first, entered.last, entered.returnInFirst) == entered.shown);
+    }
 }
 
 TEST_CASE("A run extends the table to the limit and shows its end; an empty limit adds one prime") {

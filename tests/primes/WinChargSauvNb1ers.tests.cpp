@@ -9,153 +9,169 @@
 
 using namespace tessarolyne;
 using namespace tessarolyne::tests;
+using enum DialogButton;
 
 namespace {
 
+using Numbers = std::vector<std::uint64_t>;
+
 const std::string path = "/home/user/primes.txt";
-const std::vector<std::uint64_t> firstFour{2, 3, 5, 7};
+const Numbers firstFour{2, 3, 5, 7};
+const Numbers found{2, 3, 5, 7, 11, 13};
+const std::string foundText = "Nombre de Nombres Premiers : 6\n2\t3\t5\t7\t11\t13\n";
 
-void Bind(TestWorld& world, const std::string& bytes) {
-    world.files.AddFile(path, bytes);
-    world.program->app.FichNbPrems = world.files.At(path);
-}
-
-// What the program looks like after a load of these bytes.
-struct Loaded {
-    std::vector<std::uint64_t> numbers;
-    std::uint32_t known = 0;
-    bool isBound = false;
-    int beeps = 0;
-    std::vector<std::string> asked;
+// A program that has found two primes and is bound to a file of these bytes, which it hasn't read.
+struct Bound : TestWorld {
+    explicit Bound(const std::string& bytes) {
+        files.AddFile(path, bytes);
+        program->app.FichNbPrems = files.At(path);
+        Main().NbresPremCalc(13, false);
+    }
+    void Load() { program->winChargSauvNb1ers().LoadNb1ers(); }
+    void Save(LinkPolicy links = LinkPolicy::ReplaceTarget) {
+        program->winChargSauvNb1ers().SaveNb1ers(links);
+    }
+    Numbers Table() { return NumbersOf(Main().Nbres_Premiers); }
+    std::string Content() { return files.entries[path].content; }
+    std::string LastMessage() { return dialogs.asked.empty() ? "" : dialogs.asked.back().message; }
 };
 
-Loaded Load(const std::string& bytes, std::vector<DialogButton> answers) {
-    TestWorld world;
-    Bind(world, bytes);
-    world.Main().Nb_NbrePcharg = 77;
-    for (const DialogButton answer : answers) {
-        world.dialogs.Expect(answer);
-    }
-    world.program->winChargSauvNb1ers().LoadNb1ers();
-    Loaded loaded{NumbersOf(world.Main().Nbres_Premiers), world.Main().Nb_NbrePcharg,
-        world.program->app.FichNbPrems.has_value(), world.sounds.beeps, {}};
-    for (const MessageDialog& dialog : world.dialogs.asked) {
-        loaded.asked.push_back(dialog.message);
-    }
-    return loaded;
-}
-
-// A place that fails at the first byte, or takes everything and then fails.
-class FullDisk final : public MemoryFileSystem {
-public:
-    explicit FullDisk(bool atOnce) : atOnce_(atOnce) {}
+// A place that takes everything and then has no room for it.
+struct FullDisk final : MemoryFileSystem {
     std::unique_ptr<OutputFile> CreateSafely(const std::string&, LinkPolicy) override {
         struct Full final : OutputFile {
-            explicit Full(bool failing) : atOnce(failing) {}
-            void Fail() const { throw IOException("no space left"); }
-            void Write(std::string_view) override { atOnce ? Fail() : void(); }
-            void Commit() override { atOnce ? void() : Fail(); }
-            bool atOnce;
+            void Write(std::string_view) override {}
+            void Commit() override { throw IOException("no space left"); }
         };
-        return std::make_unique<Full>(atOnce_);
+        return std::make_unique<Full>();
     }
-
-private:
-    bool atOnce_;
 };
-
-// Sees a window as whoever draws it.
-class Drawer {
-public:
-    Drawer(WinChargSauvNb1ers& window, std::function<void()> meanwhile)
-        : connection_(window.DrawNow.Connect([this, meanwhile = std::move(meanwhile)] {
-              ++drawn;
-              meanwhile();
-          })) {}
-    int drawn = 0;
-
-private:
-    Connection connection_;
-};
-
-void Append(TestWorld& world, std::initializer_list<std::uint64_t> numbers) {
-    for (const std::uint64_t number : numbers) {
-        REQUIRE(world.Main().Nbres_Premiers.Append(number));
-    }
-}
 
 } // namespace
 
-TEST_CASE("A loaded file becomes the table, and a bad one leaves 2, 3, 5, 7 and says what it has to") {
-    const std::string readError = Localisation::Txt_ErreurLectFich();
+TEST_CASE("A file of primes becomes the table; any other leaves it, and is named before it is replaced") {
     const std::string noPrimes = Localisation::Txt_CeFichContPasNb1er();
-    using enum DialogButton;
     struct Case {
-        const char* name;
         std::string bytes;
         std::vector<DialogButton> answers;
-        std::vector<std::uint64_t> numbers;
+        Numbers numbers;
         std::uint32_t known;
         bool staysBound;
-        std::vector<std::string> asked;
+        std::string content;
     };
-    const std::vector<Case> cases = {
-        {"good", "x : 5\n2\t3\t5\t7\t11\n", {}, {2, 3, 5, 7, 11}, 5, true, {}},
-        {"wrong count", "x : 0\n2\t3\t5\t7\n", {}, firstFour, 4, true, {}},
-        {"good start, odd rest", "2\t3\t5\t7\t1\t1\t6\n", {}, {2, 3, 5, 7, 1, 1, 6}, 7, true, {}},
-        {"empty", "", {}, firstFour, 0, true, {}},
-        {"text without numbers", "Dear Anne\nyours\n", {}, firstFour, 0, true, {}},
-        {"three entries", "2\t3\t5\n", {Action}, firstFour, 0, true, {readError}},
-        {"only 4, to be overwritten", "4\n", {Action}, firstFour, 0, true, {noPrimes}},
-        {"only 4, to be let go", "4\n", {Cancel}, firstFour, 0, false, {noPrimes}},
-        {"data lost as a header", "2\t3 : 5\n7\t11\t13\t17\n", {Cancel}, firstFour, 0, false, {noPrimes}},
+    const auto same = [](const std::string& bytes, Numbers numbers) {
+        const auto known = numbers == found ? 0U : static_cast<std::uint32_t>(numbers.size());
+        return Case{bytes, {}, std::move(numbers), known, true, bytes};
     };
-    for (const Case& file : cases) {
-        CAPTURE(file.name);
-        const Loaded loaded = Load(file.bytes, file.answers);
-        CHECK(loaded.numbers == file.numbers);
-        CHECK(loaded.known == file.known);
-        CHECK(loaded.isBound == file.staysBound);
-        CHECK(loaded.asked == file.asked);
-        CHECK(loaded.beeps == static_cast<int>(file.asked.size()));
+    const auto named = [](const std::string& bytes, DialogButton answer) {
+        return Case{bytes, {answer}, found, answer == Action ? 6U : 0U, answer != Cancel,
+            answer == Action ? foundText : bytes};
+    };
+    for (const Case& file : {same("x : 5\n2\t3\t5\t7\t11\n", {2, 3, 5, 7, 11}),
+             same("x : 0\n2\t3\t5\t7\n", firstFour), same("2\t3\t5\t7\t1\t1\t6\n", {2, 3, 5, 7, 1, 1, 6}),
+             same("", found), same("\r\n \t\n", found), same("Nombre : 25\n", found),
+             same("\xEF\xBB\xBFNombre : 25", found), named("Dear Anne\nyours\n", Action),
+             named("Dear Anne\nyours\n", Cancel), named("Dear Anne\nyours\n", None),
+             named("Dear Anne : hello", Cancel), named("4\n", Action), named("2\t3\t5\n", Cancel),
+             named("2\t3 : 5\n7\t11\t13\t17\n", Cancel), named(std::string(9, '\0'), Cancel)}) {
+        CAPTURE(file.bytes);
+        Bound world(file.bytes);
+        for (const DialogButton answer : file.answers) {
+            world.dialogs.Expect(answer, [&] { CHECK(world.Table() == found); });
+        }
+        world.Load();
+        CHECK(world.Table() == file.numbers);
+        CHECK(world.Main().Nb_NbrePcharg == file.known);
+        CHECK(world.program->app.FichNbPrems.has_value() == file.staysBound);
+        CHECK(world.Content() == file.content);
+        CHECK(world.LastMessage() == (file.answers.empty() ? "" : noPrimes));
+        CHECK(world.sounds.beeps == static_cast<int>(file.answers.size()));
     }
 }
 
-TEST_CASE("A file that can't be read is a read error, one that isn't there is none") {
-    for (const FileKind kind : {FileKind::Folder, FileKind::Other, FileKind::Unknown, FileKind::Regular}) {
-        TestWorld world;
-        Bind(world, "2\t3\t5\t7\t11\n");
-        world.files.entries[path].kind = kind;
-        world.files.unreadable.insert(path);
-        Append(world, {11});
-        world.dialogs.Expect(DialogButton::Action, [&] { CHECK_FALSE(world.program->fncts.DrapMenu); });
-        world.program->winChargSauvNb1ers().LoadNb1ers();
-        CHECK(world.dialogs.asked[0].message == Localisation::Txt_ErreurLectFich());
-        CHECK(world.dialogs.asked[0].icon == 1);
-        CHECK(NumbersOf(world.Main().Nbres_Premiers) == firstFour);
-        CHECK(world.program->app.FichNbPrems.has_value());
-        CHECK(world.program->fncts.DrapMenu);
+TEST_CASE(
+    "After a load that failed nothing is offered or saved until more is found, and then with a warning") {
+    const auto fail = [](Bound& world, int way) {
+        MemoryFileSystem::Entry& file = world.files.entries[path];
+        switch (way) {
+        case 0:
+            file.kind = FileKind::Folder;
+            break;
+        case 1:
+            world.files.unreadable.insert(path);
+            break;
+        case 2:
+            world.memory.available = 0;
+            break;
+        case 3:
+            file.claimedSize = std::uint64_t{2'147'483'647} * 13 + 5000;
+            break;
+        default:
+            file.kind = FileKind::Unknown; // in a folder that can't be searched
+        }
+        world.dialogs.Expect(Action, [&] { CHECK_FALSE(world.program->fncts.DrapMenu); });
+        world.Load();
+    };
+    for (const int way : {0, 1, 2, 3, 4}) {
+        CAPTURE(way);
+        Bound atStart("2\t3\t5\t7\t11\n");
+        atStart.Main().Nbres_Premiers.Clear();
+        fail(atStart, way);
+        CHECK(atStart.Table() == firstFour);
+        CHECK(atStart.program->app.FichNbPrems.has_value());
+        CHECK(atStart.LastMessage() ==
+              (way == 3 ? Localisation::Txt_FichTropGrand() : Localisation::Txt_ErreurLectFich()));
+        CHECK(atStart.dialogs.asked[0].icon == 1);
+        CHECK(atStart.sounds.beeps == 1);
+        atStart.Main().UserClosed(); // asks nothing
+        atStart.loop.Advance(50);
+        CHECK(atStart.loop.IsQuitting());
+
+        Bound later("2\t3\t5\t7\t11\n");
+        fail(later, way);
+        CHECK(later.Table() == found);
+        later.dialogs.Expect(Alternate);
+        later.Main().UserClosed();
+        CHECK(later.LastMessage().starts_with("Il y a 2 nouveaux"));
+        CHECK(later.dialogs.asked.back().explanation == Localisation::Txt_CeciEffSonCont());
+        later.program->EndWithoutAsking();
+        CHECK(later.Content() == "2\t3\t5\t7\t11\n");
     }
-    TestWorld world;
-    Append(world, {11});
-    world.files.AddLink(path, "/home/user/gone.txt");
-    world.program->app.FichNbPrems = world.files.At(path);
-    world.program->winChargSauvNb1ers().LoadNb1ers();
-    CHECK(NumbersOf(world.Main().Nbres_Premiers) == firstFour);
-    CHECK(world.program->app.FichNbPrems.has_value());
+    Bound gone("");
+    gone.files.AddLink(path, "/home/user/gone.txt");
+    gone.Load();
+    CHECK(gone.program->app.FichNbPrems.has_value());
+}
+
+TEST_CASE("The end of the session stops a load at once, with nothing written and nothing asked") {
+    std::string bytes = "x : 1\n2\t3\t5\t7";
+    for (int i = 0; i < 200'000; ++i) {
+        bytes += "\t9";
+    }
+    Bound world(bytes);
+    WinChargSauvNb1ers& window = world.program->winChargSauvNb1ers();
+    const Connection connection = window.DrawNow.Connect([&] { world.program->EndWithoutAsking(); });
+    window.LoadNb1ers();
+    CHECK(world.Table() == firstFour);
+    CHECK(world.Content() == bytes);
+    CHECK(world.loop.IsQuitting());
+
+    Bound bad("4\t6\t8\n");
+    bad.dialogs.Expect(None, [&] { bad.program->EndWithoutAsking(); });
+    bad.Load();
+    CHECK(bad.Content() == "4\t6\t8\n");
 }
 
 TEST_CASE(
     "While it works the window is drawn, holds the commands and can't be closed; it is seen for 6 ticks") {
-    TestWorld world;
-    Bind(world, "x : 4\n2\t3\t5\t7\n");
+    Bound world("x : 500\n2\t3\t5\t7\t11\t13");
     for (const bool saving : {false, true}) {
         WinChargSauvNb1ers& window = world.program->winChargSauvNb1ers();
-        CHECK(window.Frame.kind == WindowFrame::Kind::MovableModal);
-        CHECK_FALSE(window.Frame.closeButton);
         const int beeps = world.sounds.beeps;
         const std::int64_t start = world.loop.Ticks();
-        Drawer drawer(window, [&] {
+        int drawn = 0;
+        const Connection connection = window.DrawNow.Connect([&] {
+            ++drawn;
             CHECK(window.Visible());
             CHECK_FALSE(world.program->fncts.DrapMenu);
             window.UserClosed();
@@ -164,90 +180,96 @@ TEST_CASE(
         saving ? window.SaveNb1ers() : window.LoadNb1ers();
         CHECK(window.Title() ==
               (saving ? Localisation::WinSauvNb1ersTitre() : Localisation::WinChargNb1ersTitre()));
-        CHECK(drawer.drawn == (saving ? 3 : 1));
-        CHECK(world.sounds.beeps == beeps + drawer.drawn);
-        CHECK(window.ProgressBarNb1ers.Maximum == 4);
-        CHECK(window.ProgressBarNb1ers.Value == (saving ? 3 : 0));
+        CHECK(drawn == (saving ? 5 : 6));
+        CHECK(world.sounds.beeps == beeps + drawn);
+        CHECK(window.ProgressBarNb1ers.Maximum == (saving ? 6 : 500));
+        CHECK(window.ProgressBarNb1ers.Value == 5);
         CHECK(world.loop.Ticks() >= start + 6);
         CHECK(window.IsClosed());
         CHECK(world.program->fncts.DrapMenu);
         CHECK_FALSE(world.program->HasWinChargSauvNb1ers());
     }
-}
-
-TEST_CASE("A header that is far too low doesn't make the window draw itself at every number") {
-    TestWorld world;
-    std::string bytes = "x : 500\n2\t3\t5\t7";
+    // A header that is far too low doesn't make it draw itself at every number.
+    std::string many = "x : 500\n2\t3\t5\t7";
     for (int i = 0; i < 10'000; ++i) {
-        bytes += "\t9";
+        many += "\t9";
     }
-    Bind(world, bytes);
+    world.files.AddFile(path, many);
     WinChargSauvNb1ers& window = world.program->winChargSauvNb1ers();
-    const Drawer drawer(window, [] {});
+    int drawn = 0;
+    const Connection connection = window.DrawNow.Connect([&] { ++drawn; });
     window.LoadNb1ers();
-    CHECK(drawer.drawn >= 500);
-    CHECK(drawer.drawn <= 510);
+    CHECK(drawn >= 500);
+    CHECK(drawn <= 510);
 }
 
-TEST_CASE("A save writes the table in the user's line length and counts it as known") {
-    TestWorld world;
-    Bind(world, "old");
-    Append(world, {11, 13});
-    world.Main().NbreNbPparLigne = 4;
-    world.program->winChargSauvNb1ers().SaveNb1ers();
-    CHECK(world.files.entries[path].content == "Nombre de Nombres Premiers : 6\n2\t3\t5\t7\n11\t13\n");
-    CHECK(world.Main().Nb_NbrePcharg == 6);
-}
-
-TEST_CASE("A link stays at a save, or is replaced where the user has just chosen it") {
+TEST_CASE("A save writes the table in the user's line length, to a link's target or in the link's place") {
     for (const LinkPolicy links : {LinkPolicy::ReplaceTarget, LinkPolicy::ReplaceLink}) {
-        TestWorld world;
-        world.files.AddFile("/home/user/far.txt", "old");
-        world.files.AddLink(path, "/home/user/far.txt");
-        world.program->app.FichNbPrems = world.files.At(path);
-        world.program->winChargSauvNb1ers().SaveNb1ers(links);
+        Bound world("");
+        const std::string far = "/home/user/far.txt";
+        world.files.AddFile(far);
+        world.files.AddLink(path, far);
+        world.Main().NbreNbPparLigne = 4;
+        world.Save(links);
         const bool stays = links == LinkPolicy::ReplaceTarget;
+        CHECK(world.files.entries[stays ? far : path].content ==
+              "Nombre de Nombres Premiers : 6\n2\t3\t5\t7\n11\t13\n");
         CHECK((world.files.entries[path].kind == FileKind::Link) == stays);
-        CHECK((world.files.entries["/home/user/far.txt"].content == "old") != stays);
+        CHECK(world.Main().Nb_NbrePcharg == 6);
     }
+}
+
+TEST_CASE("A file that changed since it was seen is replaced only if nothing is lost by it") {
+    struct Case {
+        std::string now;
+        bool isQuiet;
+        std::string message; // none: nothing is said
+        std::string content;
+    };
+    const std::string more = "2\t3\t5\t7\t11\t13\t17\n";
+    const std::string fewer = "2\t3\t5\t7\t11\n";
+    for (const Case& file : {Case{more, false, Localisation::Txt_FichAPlusDeNb1ers(), more},
+             Case{more, true, "", more}, Case{fewer, false, "", foundText}, Case{fewer, true, "", foundText},
+             Case{"", false, "", foundText}, Case{"Dear Anne", true, "", "Dear Anne"},
+             Case{"Dear Anne", false, Localisation::Txt_CeFichContPasNb1er(), foundText}}) {
+        CAPTURE(file.now);
+        Bound world("2\t3\t5\t7\n");
+        world.Load();
+        world.Main().NbresPremCalc(13, false);
+        world.files.AddFile(path, file.now);
+        if (!file.message.empty()) {
+            world.dialogs.Expect(Action);
+        }
+        file.isQuiet ? world.program->EndWithoutAsking() : world.Save();
+        CHECK(world.LastMessage() == file.message);
+        CHECK(world.Content() == file.content);
+        CHECK((world.Main().Nb_NbrePcharg == 6 || file.isQuiet));
+    }
+    Bound own("2\t3\t5\t7\n"); // what was saved is seen, too
+    own.Load();
+    own.Main().NbresPremCalc(13, false);
+    own.Save();
+    own.Main().Nbres_Premiers.Clear();
+    own.Save();
+    CHECK(own.Content() == "Nombre de Nombres Premiers : 0\n");
 }
 
 TEST_CASE("A failed save says so with three beeps and leaves table and file as they were") {
-    TestWorld world;
-    FullDisk fullDisk(true);
-    FullDisk fullAtTheEnd(false);
-    Append(world, {11});
-    Bind(world, "old");
+    Bound world("2\t3\t5\t7\n");
+    FullDisk full;
     world.files.unwritable.insert(path);
     int beeps = 0;
     for (const std::optional<FolderItem>& item :
-        {world.program->app.FichNbPrems, std::optional(fullDisk.At(path)),
-            std::optional(fullAtTheEnd.At(path)), std::optional<FolderItem>()}) {
+        {world.program->app.FichNbPrems, std::optional(full.At(path)), std::optional<FolderItem>()}) {
         world.program->app.FichNbPrems = item;
-        world.dialogs.Expect(DialogButton::Action);
-        world.program->winChargSauvNb1ers().SaveNb1ers();
-        CHECK(world.dialogs.asked.back().message == Localisation::Txt_ErreurEcritFich());
+        world.dialogs.Expect(Action);
+        world.Save();
+        CHECK(world.LastMessage() == Localisation::Txt_ErreurEcritFich());
         CHECK(world.dialogs.asked.back().icon == 1);
         CHECK(world.sounds.beeps == (beeps += 3));
-        CHECK(NumbersOf(world.Main().Nbres_Premiers) == std::vector<std::uint64_t>{2, 3, 5, 7, 11});
-        CHECK(world.Main().Nb_NbrePcharg == 5);
+        CHECK(world.Table() == found);
+        CHECK(world.Main().Nb_NbrePcharg == 6);
         CHECK(world.program->fncts.DrapMenu);
     }
-    CHECK(world.files.entries[path].content == "old");
-}
-
-TEST_CASE("A session that ends leaves a file alone that the table doesn't stem from") {
-    TestWorld world;
-    Bind(world, "what could not be read");
-    Append(world, {11});
-    world.program->EndWithoutAsking();
-    CHECK(world.files.entries[path].content == "what could not be read");
-}
-
-TEST_CASE("A session that ends in the middle of a bad load doesn't save what is in the table then") {
-    TestWorld world;
-    Bind(world, "x : 4\n4\t6\t8\n");
-    world.dialogs.Expect(DialogButton::None, [&] { world.program->EndWithoutAsking(); });
-    world.program->winChargSauvNb1ers().LoadNb1ers();
-    CHECK(world.files.entries[path].content == "x : 4\n4\t6\t8\n");
+    CHECK(world.Content() == "2\t3\t5\t7\n");
 }

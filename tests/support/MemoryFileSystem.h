@@ -13,7 +13,10 @@ namespace tessarolyne {
 // Bytes as a file to read.
 class MemoryInputFile final : public InputFile {
 public:
-    explicit MemoryInputFile(std::string bytes) : bytes_(std::move(bytes)) {}
+    explicit MemoryInputFile(std::string bytes, FileStamp stamp = {})
+        : bytes_(std::move(bytes)), stamp_(stamp) {}
+
+    FileStamp Stamp() const override { return stamp_; }
 
     std::size_t Read(std::span<char> bytes) override {
         const auto count = bytes_.copy(bytes.data(), bytes.size(), next_);
@@ -23,6 +26,7 @@ public:
 
 private:
     std::string bytes_;
+    FileStamp stamp_;
     std::size_t next_ = 0;
 };
 
@@ -33,6 +37,8 @@ public:
     struct Entry {
         FileKind kind = FileKind::Regular;
         std::string content = {}; // of a link: the path that it leads to
+        std::int64_t changed = 0;
+        std::uint64_t claimedSize = 0; // in place of the content's own
     };
 
     std::map<std::string, Entry> entries{{"/", {FileKind::Folder}}};
@@ -46,13 +52,22 @@ public:
     FolderItem At(std::string_view path) { return FolderItem::FromNativePath(*this, path).value(); }
     void AddFolder(const std::string& path) { entries[path] = {FileKind::Folder}; }
     void AddFile(const std::string& path, std::string text = {}) {
-        entries[path] = {FileKind::Regular, text};
+        entries[path] = {FileKind::Regular, text, ++lastChange_};
     }
     void AddLink(const std::string& path, std::string to) { entries[path] = {FileKind::Link, to}; }
 
     FileKind Kind(const std::string& path) const override {
         const auto entry = entries.find(path);
         return entry == entries.end() ? FileKind::None : entry->second.kind;
+    }
+    std::optional<FileStamp> Stamp(const std::string& path) const override {
+        const auto place = Resolve(path);
+        if (!place || Kind(*place) != FileKind::Regular) {
+            return std::nullopt;
+        }
+        const Entry& entry = entries.at(*place);
+        return FileStamp{
+            1, 1, std::max<std::uint64_t>(entry.content.size(), entry.claimedSize), entry.changed};
     }
     std::optional<std::string> Resolve(const std::string& path) const override {
         std::string place = path;
@@ -81,7 +96,7 @@ public:
         if (!place || Kind(*place) != FileKind::Regular || unreadable.contains(*place)) {
             throw IOException("open " + path);
         }
-        return std::make_unique<MemoryInputFile>(entries.at(*place).content);
+        return std::make_unique<MemoryInputFile>(entries.at(*place).content, *Stamp(*place));
     }
     std::unique_ptr<OutputFile> CreateSafely(const std::string& path, LinkPolicy links) override {
         if (!CanReplace(path, links)) {
@@ -120,6 +135,8 @@ private:
         std::string path_;
         std::string content_;
     };
+
+    std::int64_t lastChange_ = 0;
 
     std::string Target(const std::string& path, LinkPolicy links) const {
         return links == LinkPolicy::ReplaceTarget ? Resolve(path).value_or(path) : path;
