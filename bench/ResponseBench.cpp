@@ -242,7 +242,7 @@ int main() {
     QtServices desktop(files);
     NoSounds silence;
     Services services{clock, desktop.loop, desktop.stage, desktop.dialogs, desktop.desktop, silence,
-        desktop.http, files, memory};
+        desktop.http, files, memory, desktop.announcer};
     Bench bench(services);
     const bool kept = bench.Stalls();
     return bench.Stops() && kept ? 0 : 1;

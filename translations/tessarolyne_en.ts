@@ -268,6 +268,10 @@ English translation: the authors of Tessarolyne</translation>
         <source>Enregistrer Nombres Premiers sous…</source>
         <translation>Save Primes As…</translation>
     </message>
+    <message id="Localisation.Pref_ChBoxAnnonces">
+        <source>Faire annoncer les résultats au lecteur d'écran</source>
+        <translation>Announce results to the screen reader</translation>
+    </message>
     <message id="Localisation.Pref_ChBoxAutoUpdt">
         <source>Vérifier automatiquement les mises à jour</source>
         <translation>Check for updates automatically</translation>
@@ -327,6 +331,11 @@ Do you want to save your primes in this file?</translation>
     <message id="Localisation.Txt_Centimes">
         <source>centimes</source>
         <translation>cents</translation>
+    </message>
+    <message id="Localisation.Txt_Copie">
+        <source>Copié : ¿%</source>
+        <extracomment>For screen readers, with what is on the clipboard.</extracomment>
+        <translation>Copied: ¿%</translation>
     </message>
     <message id="Localisation.Txt_EnBase">
         <source>en base </source>

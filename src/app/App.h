@@ -41,6 +41,7 @@ public:
     Date DateDuJour;                       // this launch
     Date DateDerLaunch;                    // the launch before this one
     bool AutoCheckUpdt = false;            // look for a new version once a day
+    bool Annonces = true;                  // results are announced to screen readers
     bool DejaDonne = false;                // the donation prompt is settled
     std::array<std::int16_t, 4> WinNBP{};  // left, top, width, height of the prime list window
 

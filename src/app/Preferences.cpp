@@ -51,6 +51,7 @@ void App::Apply(const Preferences& preferences) {
     DateDerLaunch = preferences.dateLaunch;
     DejaDonne = preferences.dejaDonne;
     AutoCheckUpdt = preferences.autoCheckUpdt;
+    Annonces = preferences.annonces;
     WinNBP = preferences.winNBP;
     FichNbPrems = GetFitemAbsPath(GetServices().files, preferences.fichNbPrems, false);
     boundAtStart_ = FichNbPrems;
@@ -97,6 +98,7 @@ Preferences App::Gather(bool listeVisible) const {
     preferences.dateLaunch = DateDuJour;
     preferences.dejaDonne = DejaDonne;
     preferences.autoCheckUpdt = AutoCheckUpdt;
+    preferences.annonces = Annonces;
     preferences.winMain = {window.Left, window.Top, window.Width, window.Height};
     preferences.majuscule = window.CheckBoxMajusc.Value;
     preferences.winNBP = WinNBP;

@@ -86,6 +86,7 @@ bool ReadSwitch(std::string_view key, std::string_view value, Preferences& prefe
         {keys::listeVisible, &preferences.listeVisible},
         {keys::formatAuto, &preferences.formatAuto},
         {keys::trUnion, &preferences.trUnion},
+        {keys::annonces, &preferences.annonces},
     };
     for (const auto& [name, place] : switches) {
         if (SameIgnoringCase(key, name)) {
@@ -136,6 +137,9 @@ std::string PreferencesText(const Preferences& preferences) {
     AppendLine(text, keys::centime, preferences.centime);
     AppendLine(text, keys::monnaies, preferences.monnaies);
     AppendLine(text, keys::centimes, preferences.centimes);
+    if (!preferences.annonces) {
+        AppendLine(text, keys::annonces, TextOf(false));
+    }
     return text;
 }
 

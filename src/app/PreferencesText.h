@@ -35,6 +35,8 @@ inline constexpr std::string_view monnaie = "Monnaie";
 inline constexpr std::string_view centime = "Centime";
 inline constexpr std::string_view monnaies = "Monnaies";
 inline constexpr std::string_view centimes = "Centimes";
+// Stands in the file only where it is switched off, so that all others keep their 19 lines.
+inline constexpr std::string_view annonces = "Annonces";
 
 // Between a key and its value.
 inline constexpr std::string_view separator = " :@: ";
@@ -65,6 +67,7 @@ struct Preferences {
     std::string centime;
     std::string monnaies;
     std::string centimes;
+    bool annonces = true;
 
     bool operator==(const Preferences&) const = default;
 };
@@ -78,9 +81,9 @@ struct PreferencesLimits {
 // The longest text that is kept, in bytes; no path and no word comes near it.
 inline constexpr std::size_t longestPreferencesValue = std::size_t{64} * 1024;
 
-// The whole file: 19 lines, each with its line ending. A text with a line end in it is written as empty,
-// since a file's name may hold one and what stands behind it would be read as a setting; so is one that is
-// too long.
+// The whole file: 19 lines, or 20 without announcements, each with its line ending. A text with a line end in
+// it is written as empty, since a file's name may hold one and what stands behind it would be read as a
+// setting; so is one that is too long.
 std::string PreferencesText(const Preferences& preferences);
 
 // Key and value of a line, parted at the first separator; the key is empty if there is none.

@@ -69,6 +69,9 @@ void WinMain::TurnWheel(bool& reason, bool on) {
 void WinMain::CopyToClipboard(const std::string& texte) {
     fncts.PlayT(fncts.Bip, false);
     fncts.PressPapTxt(texte);
+    if (!texte.empty()) {
+        fncts.Announce(fncts.FracTexte(Localisation::Txt_Copie(), 1) + texte);
+    }
 }
 
 void WinMain::PushButtonPressPapBOrg_Action(PushButton&) {

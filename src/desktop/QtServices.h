@@ -1,5 +1,6 @@
 #pragma once
 
+#include "desktop/QtAnnouncer.h"
 #include "desktop/QtDesktop.h"
 #include "desktop/QtDialogs.h"
 #include "desktop/QtEventLoop.h"
@@ -17,7 +18,7 @@ struct QtServices {
 
     // Them together with what the machine answers.
     Services With(Clock& clock, FileSystem& files, MemoryLimits& memory) {
-        return {clock, loop, stage, dialogs, desktop, sounds, http, files, memory};
+        return {clock, loop, stage, dialogs, desktop, sounds, http, files, memory, announcer};
     }
 
     QtEventLoop loop;
@@ -26,6 +27,7 @@ struct QtServices {
     QtDesktop desktop;
     QtSounds sounds;
     QtHttp http;
+    QtAnnouncer announcer;
 };
 
 } // namespace tessarolyne

@@ -2,6 +2,7 @@
 
 namespace tessarolyne {
 
+class Announcer;
 class Clock;
 class Desktop;
 class Dialogs;
@@ -23,6 +24,7 @@ struct Services {
     HttpService& http;
     FileSystem& files;
     MemoryLimits& memory;
+    Announcer& announcer;
 };
 
 } // namespace tessarolyne

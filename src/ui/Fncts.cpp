@@ -3,6 +3,7 @@
 #include "app/Program.h"
 #include "app/SafeAddress.h"
 #include "conversion/WinMain.h"
+#include "platform/Announcer.h"
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
 #include "platform/EventLoop.h"
@@ -26,6 +27,12 @@ constexpr int ticksBetweenBeeps = 10;
 
 void Fncts::Beep() {
     program_.services.sounds.Beep();
+}
+
+void Fncts::Announce(const std::string& texte) {
+    if (program_.app.Annonces && !texte.empty()) {
+        program_.services.announcer.Say(texte);
+    }
 }
 
 void Fncts::BeepNbT(int nombre) {

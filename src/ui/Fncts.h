@@ -75,6 +75,10 @@ public:
     void ReportFault(const std::string& place);
     void ReportFaultInLines(const std::string& place);
 
+    // Has a screen reader speak `texte`, short and plain, at once and wherever the focus is: for what it
+    // would not come upon by itself. Nothing for an empty text, without a screen reader, or where the user
+    // has switched that off. Main thread only.
+    void Announce(const std::string& texte);
     // The system's alert sound.
     void Beep();
     // `nombre` beeps, ten ticks apart; none for 0 or less.

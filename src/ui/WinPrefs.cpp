@@ -26,6 +26,7 @@ WindowFrame PreferencesFrame() {
 WinPrefs::WinPrefs(Program& owner)
     : ModalWindow(owner, Localisation::WinPref_Title(), 400, 99, PreferencesFrame()) {
     CheckBoxAutoUpdt.Caption = Localisation::Pref_ChBoxAutoUpdt();
+    CheckBoxAnnonces.Caption = Localisation::Pref_ChBoxAnnonces();
     PushButtAnnuler.Caption = Localisation::Btn_Annuler();
     PushButtAnnuler.Cancel = true;
     PushButtAnnuler.Action = [this] { PushButtAnnuler_Action(PushButtAnnuler); };
@@ -44,6 +45,7 @@ void WinPrefs::Event_Open() {
     Left = std::min(std::max(centred, 0), program.services.stage.Screen().Width - Width());
     OpenModal();
     CheckBoxAutoUpdt.Value = app.AutoCheckUpdt;
+    CheckBoxAnnonces.Value = app.Annonces;
 }
 
 bool WinPrefs::Event_CancelClose(bool) {
@@ -52,6 +54,7 @@ bool WinPrefs::Event_CancelClose(bool) {
 
 void WinPrefs::PushButtOk_Action(PushButton&) {
     app.AutoCheckUpdt = CheckBoxAutoUpdt.Value;
+    app.Annonces = CheckBoxAnnonces.Value;
     EndModal();
 }
 

@@ -45,11 +45,13 @@ TEST_CASE("Every setting comes from its line of the file, and goes back to it") 
                              "Monnaie :@: a :@: b\n"
                              "Centime :@: \n"
                              "Monnaies :@: francs\n"
-                             "Centimes :@: centimes é\n";
+                             "Centimes :@: centimes é\n"
+                             "Annonces :@: False\n";
     const auto world = StartWith(file);
     WinMain& window = world->Main();
     CHECK(window.Nbres_Premiers.Back() == 11);
     CHECK(world->program->app.AutoCheckUpdt);
+    CHECK_FALSE(world->program->app.Annonces);
     CHECK(std::pair(window.Left(), window.Top()) == std::pair(300, 200));
     CHECK(window.CheckBoxMajusc.Value());
     CHECK(window.CheckBoxTrUnion.Value());

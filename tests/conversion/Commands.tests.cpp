@@ -60,7 +60,8 @@ TEST_CASE("A shortcut whose command is off does nothing; quitting is never off")
     CHECK(world.loop.ExitCode() == 0);
 }
 
-TEST_CASE("The copy buttons copy what is shown, groups and errors included") {
+TEST_CASE(
+    "The copy buttons copy what is shown, groups and errors included, and announce it unless switched off") {
     TestWorld world;
     WinMain& window = world.Main();
     world.Type(window.EditFieldNbre, "4660");
@@ -71,10 +72,14 @@ TEST_CASE("The copy buttons copy what is shown, groups and errors included") {
     CHECK(copied(window.PushButtonPressPapBOrg) == "12 34");
     CHECK(copied(window.PushButtonPressPapBDest) == "1 0010 0011 0100");
     CHECK(copied(window.PushButtonPressPapPrem) == "2 x 2 x 5 x 233");
+    CHECK(world.announcer.said.back() == "Copié : 2 x 2 x 5 x 233");
     world.Type(window.EditFieldNbre, "999999999989");
     CHECK(copied(window.PushButtonPressPapPrem) ==
-          "Pour les grands nombres, cliquez Décomposer.\nCela peut être long.");
+          "Pour les grands nombres, cliquez Décomposer.
+Cela peut être long.");
+    world.program->app.Annonces = false;
     world.Type(window.EditFieldNbre, "1.5");
     CHECK(copied(window.PushButtonPressPapBOrg) == "#Erreur Nbre !");
+    CHECK(world.announcer.said.size() == 4);
     CHECK(world.sounds.played == std::vector<std::string>(5, "Bip.wav"));
 }

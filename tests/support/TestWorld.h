@@ -2,6 +2,7 @@
 
 #include "app/Program.h"
 #include "conversion/WinMain.h"
+#include "platform/Announcer.h"
 #include "platform/Desktop.h"
 #include "platform/Dialogs.h"
 #include "platform/Http.h"
@@ -156,6 +157,14 @@ public:
     std::vector<Request> requests;
 };
 
+// Remembers what a screen reader was given to speak, the last at the back.
+class TestAnnouncer final : public Announcer {
+public:
+    void Say(const std::string& text) override { said.push_back(text); }
+
+    std::vector<std::string> said;
+};
+
 class PlentyOfMemory final : public MemoryLimits {
 public:
     std::uint64_t AvailableBytes() const override { return available; }
@@ -184,7 +193,8 @@ public:
     TestHttp http;
     MemoryFileSystem files;
     PlentyOfMemory memory;
-    Services services{loop, loop, stage, dialogs, desktop, sounds, http, files, memory};
+    TestAnnouncer announcer;
+    Services services{loop, loop, stage, dialogs, desktop, sounds, http, files, memory, announcer};
     std::unique_ptr<Program> program;
 };
 

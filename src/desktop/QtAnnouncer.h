@@ -1,0 +1,21 @@
+#pragma once
+
+#include "platform/Announcer.h"
+
+#include <QPointer>
+#include <QWidget>
+
+namespace tessarolyne {
+
+// Announces as a notification that shows in the window that the user is in: a label in a box of that role,
+// one pixel in size and never drawn. Screen readers speak what such a box holds when it shows, wherever the
+// focus is.
+class QtAnnouncer final : public Announcer {
+public:
+    void Say(const std::string& text) override;
+
+private:
+    QPointer<QWidget> last_; // it goes with its window
+};
+
+} // namespace tessarolyne
