@@ -34,17 +34,3 @@ class SwissFrench(LanguageTestCase):
 
     def test_francs_in_swiss_numbers(self):
         self.check(*FRENCH, "huitante francs deux centimes")
-
-
-class EnglishBehindGerman(LanguageTestCase):
-    ENVIRONMENT = {"LANGUAGE": "de:en", "LANG": "de_DE.UTF-8"}
-
-    def test_the_first_language_that_there_is(self):
-        self.check(*ENGLISH, "eighty euros two cents")
-
-
-class German(LanguageTestCase):
-    ENVIRONMENT = {"LANGUAGE": "de", "LANG": "de_DE.UTF-8"}
-
-    def test_french_where_none_is_there(self):
-        self.check(*FRENCH, "quatre-vingts euros deux centimes")

@@ -12,10 +12,6 @@ class Quitting(ProgramTestCase):
         if not self.program.running:
             self.start_program()
 
-    def test_ctrl_q_quits(self):
-        self.screen.press("ctrl+q")
-        self.assertEqual(self.program.wait_for_end(), 0)
-
     def test_the_close_box_quits(self):
         self.program.click_close_box()
         self.assertEqual(self.program.wait_for_end(), 0)

@@ -15,6 +15,7 @@ TEST_CASE("The first wanted language that there is decides, and a region falls b
         {{"fr_BE", "en"}, {"fr_BE"}},
         {{"fr_FR", "en_US"}, {}},
         {{"fr", "en"}, {}},
+        {{"de"}, {}},
         {{"de_CH", "fr_CH", "en"}, {"fr_CH"}},
         {{}, {}},
         // a region's catalogue serves that region alone
