@@ -132,6 +132,9 @@ public:
     void ChangeNbre();
     // Reads the source field in its base and writes the other number fields, or what is wrong in all outputs.
     void ConvNbreBaseD();
+    // Tells, once in a row, that a number has other digits in `baseDest` from one field than from the other.
+    void ReportConversionMismatch(
+        const std::string& fromDecimal, int baseDest, const std::string& fromSource, int baseOrg);
     // The digits in `baseDest` of a number given in `baseOrg`, or the text of an error.
     std::string ConvNbreBase(std::string_view nombre, int baseOrg, int baseDest, std::string_view alphabet);
     // A decimal number as it is shown; a text that is no number comes back unchanged.
@@ -248,8 +251,6 @@ private:
     void ConvertSourceBase(std::string& decimal, std::string& source, int baseOrg, std::string_view alphabet);
     void ShowDestination(
         const std::string& decimal, const std::string& source, int baseOrg, std::string_view alphabet);
-    void ReportConversionMismatch(
-        const std::string& fromDecimal, int baseDest, const std::string& fromSource, int baseOrg);
     bool IsErrorText(std::string_view text) const;
     void ConvertAgain();
     std::string NumberShown() const;

@@ -124,8 +124,8 @@ bool WindowFocus::Composed(ControlView& view, const QInputMethodEvent& event) {
     return text.size() == 1 && event.preeditString().isEmpty() && view.Model().UserPressedKey(FromQt(text));
 }
 
-// In a window that isn't in front Qt moves the focus at a press too, but tells nobody before the window gets the
-// keyboard, and then it looks like a focus that only comes back.
+// In a window that isn't in front Qt moves the focus at a press too, but tells nobody before the window gets
+// the keyboard, and then it looks like a focus that only comes back.
 void WindowFocus::PressedOn(const ControlView& view) {
     if ((view.Widget()->focusPolicy() & Qt::ClickFocus) != 0) {
         view.Model().UserFocused();

@@ -5,8 +5,6 @@
 
 #include <doctest/doctest.h>
 
-#include <algorithm>
-
 using namespace tessarolyne;
 
 namespace {

@@ -75,8 +75,7 @@ TEST_CASE(
     CHECK(world.announcer.said.back() == "Copié : 2 x 2 x 5 x 233");
     world.Type(window.EditFieldNbre, "999999999989");
     CHECK(copied(window.PushButtonPressPapPrem) ==
-          "Pour les grands nombres, cliquez Décomposer.
-Cela peut être long.");
+          "Pour les grands nombres, cliquez Décomposer.\nCela peut être long.");
     world.program->app.Annonces = false;
     world.Type(window.EditFieldNbre, "1.5");
     CHECK(copied(window.PushButtonPressPapBOrg) == "#Erreur Nbre !");

@@ -41,8 +41,8 @@ TEST_CASE("What FormatNbre gives it takes again, and its forms turn into each ot
         "4503599627370496.5", "999999999999.994"};
     for (int round = 0; round < 20000; ++round) {
         const std::string text = round < 8 ? edges[round]
-                                            : std::to_string(random() % 1000000000000 >> random() % 40) +
-                                                  "." + std::to_string(random() % 100000 >> random() % 17);
+                                           : std::to_string(random() % 1000000000000 >> random() % 40) + "." +
+                                                 std::to_string(random() % 100000 >> random() % 17);
         const std::string shown = FormatNbre(text, true);
         const std::string bare = FormatNbre(text, false);
         CAPTURE(text);

@@ -35,7 +35,7 @@ TEST_CASE(
     SystemClock clock;
     QtServices desktop(parts.files);
     Services services{clock, desktop.loop, desktop.stage, desktop.dialogs, parts.desktop, parts.sounds,
-        parts.http, parts.files, parts.memory};
+        parts.http, parts.files, parts.memory, parts.announcer};
     Program program(services);
     program.Start();
     desktop.loop.Post([&] { program.app.RequestQuit(); });

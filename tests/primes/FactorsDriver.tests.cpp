@@ -103,8 +103,11 @@ TEST_CASE("A hard number gives the hint and the button; Escape stops its run onc
     CHECK(window.PushButtDecomposer.Enabled());
     const auto reached = window.Nbres_Premiers.UpperBound();
     CHECK(reached > 3);
-    window.CheckBoxFormatAuto.UserPressed(); // changes the display only
-    CHECK(window.Nbres_Premiers.UpperBound() == reached);
+    for (int presses = 0; presses < 2; ++presses) {
+        window.CheckBoxFormatAuto.UserPressed(); // changes the display only
+        CHECK(window.Nbres_Premiers.UpperBound() == reached);
+        CHECK(window.TxtAreaDecomp1er.Text() == hint);
+    }
 
     window.PushButtDecomposer.UserPressed();
     CHECK(window.TxtAreaDecomp1er.Text() == "…");
