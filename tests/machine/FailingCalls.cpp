@@ -3,47 +3,31 @@
 #include <algorithm>
 #include <cerrno>
 #include <csignal>
-#include <cstdarg>
 #include <sys/stat.h>
 #include <sys/types.h>
 
 namespace tessarolyne {
 
-namespace {
-
-FailingCalls* living = nullptr;
-
-bool Fails(const char* call) {
-    const int error = living == nullptr ? 0 : living->Note(call);
-    errno = error == 0 ? errno : error;
-    return error != 0;
-}
-
-} // namespace
-
-FailingCalls::FailingCalls() {
-    living = this;
-}
-FailingCalls::~FailingCalls() {
-    living = nullptr;
-}
-FailingCalls* Failing() {
-    return living;
-}
-
-int FailingCalls::Note(const char* call) {
+bool FailingCalls::Fails(const char* call) {
+    const bool now = static_cast<int>(made.size()) == failing;
     made.emplace_back(call);
-    if (static_cast<int>(made.size()) - 1 == failing) {
-        if (error == kill) {
-            std::raise(SIGKILL);
-        }
-        return error;
+    if (now && error == kill) {
+        std::raise(SIGKILL);
     }
     const auto found = refused.find(call);
-    return found == refused.end() ? 0 : found->second;
+    if (now || found != refused.end()) {
+        errno = now ? error : found->second;
+    }
+    return now || found != refused.end();
 }
 
 } // namespace tessarolyne
+
+using tessarolyne::FailingCalls;
+
+static bool Fails(const char* call) {
+    return FailingCalls::living != nullptr && FailingCalls::living->Fails(call);
+}
 
 // What the linker calls by these names in place of the system's.
 extern "C" {
@@ -51,7 +35,7 @@ extern "C" {
 #define STANDS_FOR(result, call, parameters, arguments)                                                      \
     result __real_##call parameters;                                                                         \
     result __wrap_##call parameters {                                                                        \
-        return tessarolyne::Fails(#call) ? -1 : __real_##call arguments;                                     \
+        return Fails(#call) ? -1 : __real_##call arguments;                                                  \
     }
 STANDS_FOR(int, faccessat, (int a, const char* b, int c, int d), (a, b, c, d))
 STANDS_FOR(int, fchmod, (int a, mode_t b), (a, b))
@@ -68,36 +52,27 @@ STANDS_FOR(int, link, (const char* a, const char* b), (a, b))
 STANDS_FOR(off_t, lseek, (int a, off_t b, int c), (a, b, c))
 STANDS_FOR(int, lstat, (const char* a, struct stat* b), (a, b))
 STANDS_FOR(int, memfd_create, (const char* a, unsigned b), (a, b))
+// The last argument of these two isn't looked at where none was given.
+STANDS_FOR(int, open, (const char* a, int b, mode_t c), (a, b, c))
+STANDS_FOR(int, openat, (int a, const char* b, int c, mode_t d), (a, b, c, d))
 STANDS_FOR(ssize_t, read, (int a, void* b, size_t c), (a, b, c))
 STANDS_FOR(ssize_t, readlink, (const char* a, char* b, size_t c), (a, b, c))
-STANDS_FOR(int, renameat, (int a, const char* b, int c, const char* d), (a, b, c, d))
 STANDS_FOR(int, stat, (const char* a, struct stat* b), (a, b))
 STANDS_FOR(int, unlink, (const char* a), (a))
 STANDS_FOR(int, unlinkat, (int a, const char* b, int c), (a, b, c))
 
-int __real_open(const char* path, int flags, ...);
-int __wrap_open(const char* path, int flags, ...) {
-    va_list rest;
-    va_start(rest, flags);
-    const auto permissions = va_arg(rest, mode_t); // not looked at where none was given
-    va_end(rest);
-    return tessarolyne::Fails("open") ? -1 : __real_open(path, flags, permissions);
-}
-
-int __real_openat(int folder, const char* path, int flags, ...);
-int __wrap_openat(int folder, const char* path, int flags, ...) {
-    va_list rest;
-    va_start(rest, flags);
-    const auto permissions = va_arg(rest, mode_t);
-    va_end(rest);
-    return tessarolyne::Fails("openat") ? -1 : __real_openat(folder, path, flags, permissions);
+int __real_renameat(int from, const char* a, int to, const char* b);
+int __wrap_renameat(int from, const char* a, int to, const char* b) {
+    if (FailingCalls::living != nullptr && FailingCalls::living->unanswered) {
+        __real_renameat(from, a, to, b);
+    }
+    return Fails("renameat") ? -1 : __real_renameat(from, a, to, b);
 }
 
 // In pieces, as the system may.
 ssize_t __real_write(int file, const void* bytes, size_t size);
 ssize_t __wrap_write(int file, const void* bytes, size_t size) {
-    const auto* calls = tessarolyne::Failing();
-    const size_t most = calls == nullptr ? size : calls->longestWrite;
-    return tessarolyne::Fails("write") ? -1 : __real_write(file, bytes, std::min(size, most));
+    constexpr size_t longest = 100'000;
+    return Fails("write") ? -1 : __real_write(file, bytes, std::min(size, longest));
 }
 }

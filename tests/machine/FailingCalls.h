@@ -10,25 +10,24 @@ namespace tessarolyne {
 // them fail or the process die as it is told. One at a time.
 class FailingCalls {
 public:
-    FailingCalls();
+    FailingCalls() { living = this; }
     FailingCalls(const FailingCalls&) = delete;
     FailingCalls& operator=(const FailingCalls&) = delete;
-    ~FailingCalls();
+    ~FailingCalls() { living = nullptr; }
 
     static constexpr int kill = -1; // in place of an error
 
     std::map<std::string, int> refused; // calls that always fail, with their errors
     int failing = -1;                   // the number of the one that fails, from 0
     int error = 0;
-    std::size_t longestWrite = 100'000;
+    bool unanswered = false; // a rename that fails has come to pass
 
     std::vector<std::string> made; // also those that failed
 
-    // What a call is told: 0, or the error that it fails with.
-    int Note(const char* call);
-};
+    static inline FailingCalls* living = nullptr;
 
-// The living one; nullptr for none.
-FailingCalls* Failing();
+    // Whether this call, noted here, fails, with errno.
+    bool Fails(const char* call);
+};
 
 } // namespace tessarolyne

@@ -1,20 +1,16 @@
 // Stands in for the macOS library where there is none: knows the few classes and messages that the package
 // question needs, and ends the program at any other.
 #include <cstdlib>
-#include <cstring>
-#include <map>
+#include <set>
 #include <string>
 
 namespace {
 
-char nsString, nsUrl, yes, no, error, key;
-std::map<std::string, std::string> texts; // the address of an object is that of its text
+char yes, no, error, key;
+std::set<std::string> texts; // the address of an object is that of its text
 
 void* Object(const std::string& text) {
-    return &texts.try_emplace(text, text).first->second;
-}
-const std::string& TextOf(void* object) {
-    return *static_cast<std::string*>(object);
+    return const_cast<std::string*>(&*texts.insert(text).first);
 }
 
 } // namespace
@@ -24,33 +20,27 @@ extern "C" {
 void* NSURLIsPackageKey = &key;
 
 void* objc_getClass(const char* name) {
-    return std::strcmp(name, "NSString") == 0 ? &nsString
-           : std::strcmp(name, "NSURL") == 0  ? &nsUrl
-                                              : nullptr;
+    return Object(name);
 }
-
 void* sel_registerName(const char* name) {
     return Object(name);
 }
-
 void* objc_msgSend(void* receiver, void* selector, void* first, void* second, void* third) {
-    const std::string& message = TextOf(selector);
-    if (receiver == &nsString && message == "stringWithUTF8String:") {
+    if (receiver == Object("NSString") && selector == Object("stringWithUTF8String:")) {
         return Object(static_cast<const char*>(first));
     }
-    if (receiver == &nsUrl && message == "URLWithString:") {
+    if (receiver == Object("NSURL") && selector == Object("URLWithString:")) {
         return first;
     }
-    if (message == "boolValue") {
-        return reinterpret_cast<void*>(receiver == &yes ? 1L : 0L);
+    bool answer = receiver == &yes;
+    if (selector == Object("getResourceValue:forKey:error:") && second == &key) {
+        answer = receiver != Object("file:///none");
+        *static_cast<void**>(answer ? first : third) = !answer                                 ? &error
+                                                       : receiver == Object("file:///package") ? &yes
+                                                                                               : &no;
+    } else if (selector != Object("boolValue")) {
+        std::abort();
     }
-    if (message == "getResourceValue:forKey:error:" && second == &key) {
-        const std::string& url = TextOf(receiver);
-        const bool known = url != "file:///none";
-        *static_cast<void**>(known ? first : third) = !known ? &error : url == "file:///package" ? &yes : &no;
-        // The answer is a byte in the low part of the register.
-        return reinterpret_cast<void*>(known ? 1L : 0L);
-    }
-    std::abort();
+    return reinterpret_cast<void*>(answer ? 1L : 0L); // a byte in the low part of the register
 }
 }
