@@ -20,7 +20,7 @@ int main(int count, char** arguments) {
     SystemMemory memory;
     QtApplication desktop("Tessarolyne", applicationIdentifier);
     HttpLimits limits;
-    limits.deadline = 1500;
+    limits.deadline = 5000; // the start of the window counts
     QtServices services(files, limits);
     Services world = services.With(clock, files, memory);
     Program program(world, arguments[1]);

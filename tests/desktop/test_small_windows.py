@@ -95,7 +95,7 @@ class SmallWindows(ProgramTestCase):
 
 
 class UpdateCheck(ProgramTestCase):
-    """The program of the same parts at a site of the tests' own, with a deadline of a second and a half."""
+    """The program of the same parts at a site of the tests' own, with a deadline of five seconds."""
 
     PREFERENCES = SmallWindows.PREFERENCES + "Auto Check Update :@: True\nDate Launch :@: 2020-02-02 02:02:02\n"
 
