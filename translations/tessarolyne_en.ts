@@ -13,6 +13,111 @@
         <extracomment>Not a text: the sign that stands before decimals, &quot;.&quot; or &quot;,&quot;. With &quot;.&quot;, &quot;1,234&quot; is read as 1234.</extracomment>
         <translation>.</translation>
     </message>
+    <message id="Localisation.Acc_BaseArrivee">
+        <source>Base d'arrivée</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Destination base</translation>
+    </message>
+    <message id="Localisation.Acc_BaseDepart">
+        <source>Base de départ</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Source base</translation>
+    </message>
+    <message id="Localisation.Acc_Calcul">
+        <source>Calcul en cours</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Calculation under way</translation>
+    </message>
+    <message id="Localisation.Acc_CentimePluriel">
+        <source>Centime au pluriel</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Hundredth, plural</translation>
+    </message>
+    <message id="Localisation.Acc_CentimeSingulier">
+        <source>Centime au singulier</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Hundredth, singular</translation>
+    </message>
+    <message id="Localisation.Acc_Copier">
+        <source>Copier : ¿%</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Copy: ¿%</translation>
+    </message>
+    <message id="Localisation.Acc_DevisePluriel">
+        <source>Devise au pluriel</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Currency, plural</translation>
+    </message>
+    <message id="Localisation.Acc_DeviseSingulier">
+        <source>Devise au singulier</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Currency, singular</translation>
+    </message>
+    <message id="Localisation.Acc_Facteurs">
+        <source>Facteurs premiers</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Prime factors</translation>
+    </message>
+    <message id="Localisation.Acc_LangueLettres">
+        <source>Langue du montant en lettres</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Language of the amount in words</translation>
+    </message>
+    <message id="Localisation.Acc_Lettres">
+        <source>Montant en lettres</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Amount in words</translation>
+    </message>
+    <message id="Localisation.Acc_Limite">
+        <source>Calculer jusqu'à</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Compute up to</translation>
+    </message>
+    <message id="Localisation.Acc_ListeNbres">
+        <source>Nombres premiers affichés</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Primes shown</translation>
+    </message>
+    <message id="Localisation.Acc_Nombre">
+        <source>Nombre </source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Number </translation>
+    </message>
+    <message id="Localisation.Acc_NombreArrivee">
+        <source>Nombre en base d'arrivée</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Number in the destination base</translation>
+    </message>
+    <message id="Localisation.Acc_NombreDepart">
+        <source>Nombre en base de départ</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Number in the source base</translation>
+    </message>
+    <message id="Localisation.Acc_ParLigne">
+        <source>Nombres premiers par ligne du fichier</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Primes per line of the file</translation>
+    </message>
+    <message id="Localisation.Acc_RangDernier">
+        <source>Rang du dernier nombre affiché</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Rank of the last prime shown</translation>
+    </message>
+    <message id="Localisation.Acc_RangPremier">
+        <source>Rang du premier nombre affiché</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Rank of the first prime shown</translation>
+    </message>
+    <message id="Localisation.Acc_TraitsUnion">
+        <source>Traits d'union</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Hyphens</translation>
+    </message>
+    <message id="Localisation.Acc_VerMaJ">
+        <source>Recherche d'une mise à jour</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Looking for an update</translation>
+    </message>
     <message id="Localisation.BevelButtListe">
         <source>Liste Nb 1ers</source>
         <translation>Prime List</translation>
@@ -310,9 +415,17 @@ This version was built for ¿%.</translation>
         <source>…</source>
         <translation>…</translation>
     </message>
+    <message id="Localisation.Txt_CalculArrete">
+        <source>Calcul arrêté</source>
+        <translation>Calculation stopped</translation>
+    </message>
     <message id="Localisation.Txt_CalculEnCours">
         <source>Des calculs sont en cours, souhaitez-vous les stopper ?</source>
         <translation>Calculations are in progress. Do you want to stop them?</translation>
+    </message>
+    <message id="Localisation.Txt_CalculFini">
+        <source>Calcul terminé : ¿%</source>
+        <translation>Calculation finished: ¿%</translation>
     </message>
     <message id="Localisation.Txt_CeciEffSonCont">
         <source>Cela aura pour effet d&apos;effacer son contenu actuel.</source>

@@ -62,7 +62,7 @@ void WinMain::HoldMenuForCalculation(bool hold) {
 void WinMain::TurnWheel(bool& reason, bool on) {
     reason = on;
     ProgressWheel1.AccessibleName =
-        factorsTakeTime_ ? Localisation::GpBox2() : Localisation::Menu_AppleVMaJ();
+        factorsTakeTime_ ? Localisation::Acc_Calcul() : Localisation::Acc_VerMaJ();
     ProgressWheel1.Visible = factorsTakeTime_ || checkTakesTime_;
 }
 

@@ -61,6 +61,7 @@ void WinMain::TakeAsSource(bool isDecimal, ChangedBy who) {
     if (app.initProg && who == ChangedBy::User) {
         DrapTimerNbre = isDecimal;
         TimerTempo.Mode = 1;
+        AnnounceResultAfterPause();
     }
 }
 

@@ -11,6 +11,7 @@ namespace {
 constexpr int recalculationDelay = 20; // shorter than the time between two keystrokes
 constexpr int quitPeriod = 10;
 constexpr int moment = 500; // what takes longer is shown to be under way
+constexpr int typingPause = 1000;
 constexpr int copyButtonTextSize = 16;
 
 constexpr const char* copyButtonCaption = "✎";
@@ -22,11 +23,13 @@ WinMain::WinMain(Program& owner)
       TimerTempo(owner.services.loop, recalculationDelay), TimerQuit(owner.services.loop, quitPeriod),
       TimerThr(owner.services.loop, handOverPeriod), TimerVerMaJ(owner.services.loop, handOverPeriod),
       SocketVerMaJ(owner.services.http), Progress(owner.services.loop, Nbres_Premiers, CheckBoxFormatAuto),
-      slowCheck_(owner.services.loop, moment), ThreadDecPrems(owner.services.loop) {
+      typingPause_(owner.services.loop, typingPause), slowCheck_(owner.services.loop, moment),
+      ThreadDecPrems(owner.services.loop) {
     SetInitialState();
     NameForScreenReaders();
     BindEvents();
     BindCommandEvents();
+    BindAnnouncements();
     BindUpdateCheck();
     AddMenuHandlers();
 }
@@ -71,23 +74,22 @@ void WinMain::SetInitialState() {
     }
 }
 
+// Only for those that have no caption, or share one with another control of the window.
 void WinMain::NameForScreenReaders() {
-    const std::string conversion = Localisation::GpBox1();
-    const std::string words = Localisation::GpBox3();
-    EditFieldNbre.AccessibleName = Localisation::Txt_EnBase() + "10";
-    EditFieldBaseOrg.AccessibleName = conversion + " 1";
-    PopupMenuBaseOrg.AccessibleName = conversion + " 1";
-    EditFieldBaseDest.AccessibleName = conversion + " 2";
-    PopupMenuBaseDest.AccessibleName = conversion + " 2";
-    TxtAreaDecomp1er.AccessibleName = Localisation::GpBox2();
-    TxtAreaLettres.AccessibleName = words;
-    PopupMenuLg.AccessibleName = words;
-    CheckBoxTrUnion.AccessibleName = words + " : -";
-    EditFieldMonnaies.AccessibleName = words + " : " + Localisation::Txt_Monnaies();
-    EditFieldMonnaie.AccessibleName = words + " : " + Localisation::Txt_Monnaie();
-    EditFieldCentimes.AccessibleName = words + " : " + Localisation::Txt_Centimes();
-    EditFieldCentime.AccessibleName = words + " : " + Localisation::Txt_Centime();
-    const std::string copy = Localisation::Menu_EditCopy() + " : ";
+    EditFieldNbre.AccessibleName = Localisation::Acc_Nombre() + Localisation::Txt_EnBase() + "10";
+    EditFieldBaseOrg.AccessibleName = Localisation::Acc_NombreDepart();
+    PopupMenuBaseOrg.AccessibleName = Localisation::Acc_BaseDepart();
+    EditFieldBaseDest.AccessibleName = Localisation::Acc_NombreArrivee();
+    PopupMenuBaseDest.AccessibleName = Localisation::Acc_BaseArrivee();
+    TxtAreaDecomp1er.AccessibleName = Localisation::Acc_Facteurs();
+    TxtAreaLettres.AccessibleName = Localisation::Acc_Lettres();
+    PopupMenuLg.AccessibleName = Localisation::Acc_LangueLettres();
+    CheckBoxTrUnion.AccessibleName = Localisation::Acc_TraitsUnion();
+    EditFieldMonnaies.AccessibleName = Localisation::Acc_DevisePluriel();
+    EditFieldMonnaie.AccessibleName = Localisation::Acc_DeviseSingulier();
+    EditFieldCentimes.AccessibleName = Localisation::Acc_CentimePluriel();
+    EditFieldCentime.AccessibleName = Localisation::Acc_CentimeSingulier();
+    const std::string copy = fncts.FracTexte(Localisation::Acc_Copier(), 1);
     PushButtonPressPapBOrg.AccessibleName = copy + EditFieldBaseOrg.AccessibleName();
     PushButtonPressPapBDest.AccessibleName = copy + EditFieldBaseDest.AccessibleName();
     PushButtonPressPapPrem.AccessibleName = copy + TxtAreaDecomp1er.AccessibleName();

@@ -165,6 +165,10 @@ public:
     void TellWhyRunEnded();
     // Ends the body of a thread that a failure cut short as if it had been stopped.
     void ThreadFailed(std::int16_t step, const std::string& reason);
+    // A calculation on a thread begins; one that the user asked for is told at its end, however short it was.
+    void NoteRunBegins(bool isAskedFor);
+    // Tells a screen reader that a run has ended, and with what, unless nobody would miss that.
+    void AnnounceRunEnded(const std::string& resultat);
     // Asks whether to stop the running calculation and quit; on yes, TimerQuit waits for its end.
     void AskToStopCalculation();
     // What the signal or the session's end leaves time for: the settings, and new primes if a file is bound.
@@ -260,7 +264,7 @@ private:
     std::string SourceDigits() const;
     bool TakeBaseEdit(TextEdit& edit);
 
-    void RunFactorsOnThread(std::uint64_t n);
+    void RunFactorsOnThread(std::uint64_t n, bool isAskedFor);
     void ReportFactorMismatch(std::uint64_t product, std::uint64_t n);
     RunControl MakeRunControl(bool checkTime);
 
@@ -275,6 +279,15 @@ private:
     void CopyToClipboard(const std::string& texte);
 
     NumberField numberField_{EditFieldNbre, fncts};
+    void BindAnnouncements();
+    void AnnounceResultAfterPause();
+    void AnnounceResult();
+
+    Timer typingPause_; // until the user is taken to have typed all
+    // The output that the user went to last, whose text is announced.
+    TextControl* outputOfInterest_ = &TxtAreaLettres;
+    bool runIsAskedFor_ = false;
+    std::int64_t runBegan_ = 0;
     bool startIsOver_ = false; // there are settings to save; unlike App.initProg it stays up
     bool calculationHoldsMenu_ = false;
     bool quitQuestionIsUp_ = false;

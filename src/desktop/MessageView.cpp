@@ -42,6 +42,9 @@ QString WithoutMnemonic(const std::string& caption) {
 
 MessageView::MessageView(const MessageDialog& dialog, QWidget* parent) : QDialog(parent) {
     setWindowModality(parent != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
+    // Read out as it comes up, and then the button that has the focus.
+    setAccessibleName(VisibleText(dialog.message).trimmed().left(longestName));
+    setAccessibleDescription(VisibleText(dialog.explanation).left(longestName));
     auto* const upper = new QHBoxLayout;
     upper->addWidget(MakeIcon(dialog.icon), 0, Qt::AlignTop);
     upper->addWidget(MakeText(dialog), 1);

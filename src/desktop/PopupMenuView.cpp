@@ -47,9 +47,10 @@ public:
         return state;
     }
 
-    int childCount() const override { return 1; }
+    // Rows that aren't in view would tell that the chosen one has the focus.
+    int childCount() const override { return box_.view()->isVisible() ? 1 : 0; }
     QAccessibleInterface* child(int index) const override {
-        return index == 0 ? QAccessible::queryAccessibleInterface(box_.view()) : nullptr;
+        return index < childCount() ? QAccessible::queryAccessibleInterface(box_.view()) : nullptr;
     }
     int indexOfChild(const QAccessibleInterface* child) const override {
         return child != nullptr && child->object() == box_.view() ? 0 : -1;

@@ -1,5 +1,6 @@
 #include "desktop/QtApplication.h"
 
+#include "desktop/FocusFirst.h"
 #include "desktop/OutlinedStyle.h"
 #include "desktop/QtText.h"
 #include "desktop/Resources.h"
@@ -47,6 +48,7 @@ QtApplication::QtApplication(
     if (style()->name() == u"fusion") {
         setStyle(new OutlinedStyle);
     }
+    TellFocusBeforeCaret();
     LoadIcon();
     connect(this, &QGuiApplication::commitDataRequest, this, [this](QSessionManager&) {
         if (OnSessionEnds) {

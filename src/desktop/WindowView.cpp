@@ -8,6 +8,8 @@
 #include "platform/Services.h"
 #include "platform/Window.h"
 
+#include <QAccessible>
+#include <QAccessibleWidget>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -30,6 +32,16 @@ Qt::WindowFlags Flags(const WindowFrame& frame) {
     return flags;
 }
 
+// A screen reader tells by the role which kind of window one is in; Qt calls a mere widget a filler.
+QAccessibleInterface* MakeAccess(const QString&, QObject* object) {
+    auto* const view = dynamic_cast<WindowView*>(object);
+    if (view == nullptr) {
+        return nullptr;
+    }
+    const bool isDialog = view->Model().Frame.kind == WindowFrame::Kind::MovableModal;
+    return new QAccessibleWidget(view, isDialog ? QAccessible::Dialog : QAccessible::Window);
+}
+
 Qt::CursorShape Shape(Cursor cursor) {
     return cursor == Cursor::Finger ? Qt::PointingHandCursor : Qt::ArrowCursor;
 }
@@ -39,6 +51,7 @@ Qt::CursorShape Shape(Cursor cursor) {
 WindowView::WindowView(Window& window, QtMenu* menu, bool withBar)
     : QWidget(nullptr, Flags(window.Frame)), window_(window), content_(new WindowContent(this)),
       focus_(window, *this, [this](const Control* control) { return Find(control); }) {
+    QAccessible::installFactory(MakeAccess); // once, however often it is called
     if (window.Frame.kind == WindowFrame::Kind::MovableModal && window.Frame.blocksOthers) {
         setWindowModality(Qt::ApplicationModal);
     }

@@ -37,6 +37,7 @@ void WinMain::TimerThr_Action(Timer& timer) {
         TurnWheel(factorsTakeTime_, false);
         Progress.End();
         DecompPremFin(ThrPn1);
+        AnnounceRunEnded(TxtAreaDecomp1er.Text);
     } else if (ThrNo == listRunHasEnded) {
         program.winNbresPremiers().ButtCalcPremsFin();
     } else {

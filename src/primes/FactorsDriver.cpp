@@ -36,7 +36,7 @@ void WinMain::DecompPremDeb(bool force) {
         return;
     }
     if (force || static_cast<double>(Nbres_Premiers.Back()) > n) {
-        RunFactorsOnThread(ToUInt64(n));
+        RunFactorsOnThread(ToUInt64(n), force);
         return;
     }
     TicksFinCalc = program.services.clock.Ticks() + ticksForTyping;
@@ -44,7 +44,8 @@ void WinMain::DecompPremDeb(bool force) {
     DecompPremFin(ToUInt64(n));
 }
 
-void WinMain::RunFactorsOnThread(std::uint64_t n) {
+void WinMain::RunFactorsOnThread(std::uint64_t n, bool isAskedFor) {
+    NoteRunBegins(isAskedFor);
     TurnWheel(factorsTakeTime_, true);
     Write(factors_, Localisation::Txt_Attente());
     HoldMenuForCalculation(true);

@@ -105,6 +105,7 @@ void WinNbresPremiers::PushButtonCalcPrems_Action(PushButton&) {
     main.HoldMenuForCalculation(true);
     main.ThrPn1 = limit;
     main.Progress.Follow(ProgressWheel2, limit);
+    main.NoteRunBegins(true);
     ThreadCalcPrems.Start();
 }
 
@@ -129,6 +130,7 @@ void WinNbresPremiers::ButtCalcPremsFin() {
     main.HoldMenuForCalculation(false);
     main.CalculEnCours = false;
     main.TellWhyRunEnded();
+    main.AnnounceRunEnded(StaticTextNbNbre1ers.Text);
 }
 
 } // namespace tessarolyne

@@ -59,12 +59,12 @@ void WinNbresPremiers::SetInitialState() {
     TxtAreaListeNbres1ers.TabColumns = columns;
     PushButtonFichier.Caption = Localisation::Btn_ChoixFich();
 
-    EditFieldFin.AccessibleName = Localisation::Btn_CalcPrems();
-    EditFieldAffDu.AccessibleName = Localisation::StTextAffDu();
-    EditFieldAffAu.AccessibleName = Localisation::StTextAffDu() + " … " + Localisation::StTextAffAu();
-    ProgressWheel2.AccessibleName = Localisation::WinNbresTitre();
-    TxtAreaListeNbres1ers.AccessibleName = Localisation::WinNbresTitre();
-    EditFieldNbNbresLigne.AccessibleName = Localisation::EdFieldNbNbresLigne_HT();
+    EditFieldFin.AccessibleName = Localisation::Acc_Limite();
+    EditFieldAffDu.AccessibleName = Localisation::Acc_RangPremier();
+    EditFieldAffAu.AccessibleName = Localisation::Acc_RangDernier();
+    ProgressWheel2.AccessibleName = Localisation::Acc_Calcul();
+    TxtAreaListeNbres1ers.AccessibleName = Localisation::Acc_ListeNbres();
+    EditFieldNbNbresLigne.AccessibleName = Localisation::Acc_ParLigne();
 }
 
 void WinNbresPremiers::BindEvents() {

@@ -49,6 +49,7 @@ void WinMain::ConvNbreLettresD() {
 void WinMain::RecomputeWords() {
     if (app.initProg) {
         ConvNbreLettresD();
+        AnnounceResultAfterPause();
     }
 }
 

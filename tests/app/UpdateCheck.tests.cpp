@@ -145,7 +145,7 @@ TEST_CASE("The wheel turns once a check from the menu takes long, until all that
     CHECK_FALSE(wheel.Visible());
     world.loop.Advance(1);
     CHECK(wheel.Visible());
-    CHECK(wheel.AccessibleName() == "Vérifier les mises à jour…");
+    CHECK(wheel.AccessibleName() == "Recherche d'une mise à jour");
     world.ChooseCheck();
     world.dialogs.Expect(DialogButton::Action);
     world.Answer(File(here));
@@ -155,7 +155,7 @@ TEST_CASE("The wheel turns once a check from the menu takes long, until all that
     CHECK(window.TxtAreaDecomp1er.Text() == "2 x 3");
     CHECK(wheel.Visible());
     window.DecompPremDeb(false);
-    CHECK(wheel.AccessibleName() == "Décomposition en Nombres Premiers");
+    CHECK(wheel.AccessibleName() == "Calcul en cours");
     world.Answer("", 1);
     CHECK(wheel.Visible()); // for the factors
     world.dialogs.Expect(DialogButton::Action);

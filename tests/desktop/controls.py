@@ -4,44 +4,37 @@ A control is found by its accessible name and its role, as a screen reader finds
 else of itself to the outside.
 """
 
-# The captions that several names are made of; the program shows its French texts in the C locale.
-_CONVERSION = "Conversion de Base"
-_WORDS = "Conversion en Lettres"
-
-# Control of the program: (accessible name, role as AT-SPI says it).
+# Control of the program: (accessible name, role as AT-SPI says it), in French, which the program speaks in the C locale.
 CONTROLS = {
-    "EditFieldNbre": ("en base 10", "text"),
-    "EditFieldBaseOrg": (f"{_CONVERSION} 1", "text"),
-    "EditFieldBaseDest": (f"{_CONVERSION} 2", "text"),
-    "PopupMenuBaseOrg": (f"{_CONVERSION} 1", "combo box"),
-    "PopupMenuBaseDest": (f"{_CONVERSION} 2", "combo box"),
-    "EditFieldMonnaies": (f"{_WORDS} : euros", "text"),
-    "EditFieldMonnaie": (f"{_WORDS} : euro", "text"),
-    "EditFieldCentimes": (f"{_WORDS} : centimes", "text"),
-    "EditFieldCentime": (f"{_WORDS} : centime", "text"),
+    "EditFieldNbre": ("Nombre en base 10", "text"),
+    "EditFieldBaseOrg": ("Nombre en base de départ", "text"),
+    "EditFieldBaseDest": ("Nombre en base d'arrivée", "text"),
+    "PopupMenuBaseOrg": ("Base de départ", "combo box"),
+    "PopupMenuBaseDest": ("Base d'arrivée", "combo box"),
+    "EditFieldMonnaies": ("Devise au pluriel", "text"),
+    "EditFieldMonnaie": ("Devise au singulier", "text"),
+    "EditFieldCentimes": ("Centime au pluriel", "text"),
+    "EditFieldCentime": ("Centime au singulier", "text"),
     "CheckBoxMajusc": ("Première lettre en majuscule", "check box"),
-    "PopupMenuLg": (_WORDS, "combo box"),
-    "CheckBoxTrUnion": (f"{_WORDS} : -", "check box"),
+    "PopupMenuLg": ("Langue du montant en lettres", "combo box"),
+    "CheckBoxTrUnion": ("Traits d'union", "check box"),
     "CheckBoxFormatAuto": ("Format Auto", "check box"),
     "RadioButton09AZ 0": ("01…89AB…YZ", "radio button"),
     "RadioButton09AZ 1": ("AB…YZ01…89", "radio button"),
-    "TxtAreaDecomp1er": ("Décomposition en Nombres Premiers", "text"),
-    "TxtAreaLettres": (_WORDS, "text"),
+    "TxtAreaDecomp1er": ("Facteurs premiers", "text"),
+    "TxtAreaLettres": ("Montant en lettres", "text"),
     "BevelButtonListe": ("Liste Nb 1ers", "check box"),
-    "PushButtonPressPapBOrg": (f"Copier : {_CONVERSION} 1", "push button"),
-    "PushButtonPressPapBDest": (f"Copier : {_CONVERSION} 2", "push button"),
-    "PushButtonPressPapLettr": (f"Copier : {_WORDS}", "push button"),
-    "PushButtonPressPapPrem": ("Copier : Décomposition en Nombres Premiers", "push button"),
+    "PushButtonPressPapBOrg": ("Copier : Nombre en base de départ", "push button"),
+    "PushButtonPressPapBDest": ("Copier : Nombre en base d'arrivée", "push button"),
+    "PushButtonPressPapLettr": ("Copier : Montant en lettres", "push button"),
+    "PushButtonPressPapPrem": ("Copier : Facteurs premiers", "push button"),
     "PushButtonFichier": ("Changer Fichier", "push button"),
-    "EditFieldFin": ("Calculer Nbres 1ers jusqu'à :", "text"),
-    "EditFieldAffDu": ("Afficher Nbres 1ers du", "text"),
-    "EditFieldAffAu": ("Afficher Nbres 1ers du … au", "text"),
-    "EditFieldNbNbresLigne": (
-        "Entrer ici la quantité de nombres premiers que vous voulez par ligne dans le fichier",
-        "text",
-    ),
+    "EditFieldFin": ("Calculer jusqu'à", "text"),
+    "EditFieldAffDu": ("Rang du premier nombre affiché", "text"),
+    "EditFieldAffAu": ("Rang du dernier nombre affiché", "text"),
+    "EditFieldNbNbresLigne": ("Nombres premiers par ligne du fichier", "text"),
     "StaticTextNbNbre1ers": ("166 nombres premiers", "label"),
-    "TxtAreaListeNbres1ers": ("Liste des Nombres Premiers", "text"),
+    "TxtAreaListeNbres1ers": ("Nombres premiers affichés", "text"),
     "PushButtDecomposer": ("Décomposer", "push button"),
 }
 

@@ -18,8 +18,8 @@ class LanguageTestCase(ProgramTestCase):
         )
 
 
-ENGLISH = ("Factor", "Prime List", "Start with a capital letter"), "Number in Words"
-FRENCH = ("Décomposer", "Liste Nb 1ers", "Première lettre en majuscule"), "Conversion en Lettres"
+ENGLISH = ("Factor", "Prime List", "Start with a capital letter"), "Amount in words"
+FRENCH = ("Décomposer", "Liste Nb 1ers", "Première lettre en majuscule"), "Montant en lettres"
 
 
 class BritishEnglish(LanguageTestCase):

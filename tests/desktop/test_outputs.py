@@ -81,7 +81,7 @@ class Outputs(ProgramTestCase):
         self.clear("EditFieldFin")
         self.screen.type("999999999999")
         self.screen.press("Return")
-        wheel = self.find("progress bar", "Liste des Nombres Premiers")
+        wheel = self.find("progress bar", "Calcul en cours")
         told = self.program.wait_for(lambda: wheel.value, "the first prime to be told")
         self.program.wait_for(
             lambda: wheel.value > told and wheel.description.replace(" ", "") == f"2,3,5,7…{wheel.value}/999999999999",
@@ -90,7 +90,7 @@ class Outputs(ProgramTestCase):
         self.focus("EditFieldNbre")
         self.screen.type("12.5")
         self.screen.press("Tab", "Escape")
-        self.wait_until_gone("progress bar", "Liste des Nombres Premiers")
+        self.wait_until_gone("progress bar", "Calcul en cours")
         self.assertEqual(wheel.description, "")
         self.press_button("BevelButtonListe")
         self.wait_for_text("TxtAreaLettres", "douze euros cinquante centimes")

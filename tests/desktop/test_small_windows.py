@@ -131,7 +131,7 @@ class UpdateCheck(ProgramTestCase):
         self.click("push button", "Ok")
 
         self.choose_command("Vérifier les mises à jour")
-        self.assertEqual(self.find("progress bar", "Vérifier les mises à jour").description, "")
+        self.assertEqual(self.find("progress bar", "Recherche d'une mise à jour").description, "")
         silent = self.find_with_keyboard("text", "Impossible de vérifier les mises à jour")
         self.assertTrue(silent.text.endswith("\n\nServer Error 102"))
         self.screen.press("Return")

@@ -1,0 +1,125 @@
+"""What a screen reader gets to speak: roles, names and states, and the events in their order, in both languages."""
+
+import json
+import subprocess
+import sys
+import threading
+
+from case import ProgramTestCase
+from waiting import wait_until
+
+# Prints each event that a screen reader speaks upon, with the role and name of its source and what is in it.
+LISTENER = """
+import json, os, gi
+gi.require_version("Atspi", "2.0")
+from gi.repository import Atspi
+def note(event):
+    source = event.source
+    text = " ".join(source.get_child_at_index(i).get_name() for i in range(source.get_child_count()))
+    if source.get_process_id() != os.getpid():
+        line = (event.type.split(":")[-1], event.detail1, source.get_role_name(), source.get_name(), text)
+        print(json.dumps(line), flush=True)
+listener = Atspi.EventListener.new(note)
+for kind in ("state-changed:focused", "state-changed:showing", "text-caret-moved", "text-selection-changed"):
+    listener.register("object:" + kind)
+print(json.dumps("ready"), flush=True)
+Atspi.event_main()
+"""
+
+
+class ScreenReaderTestCase(ProgramTestCase):
+    """Its subclasses say in which language what must be heard."""
+
+    @classmethod
+    def setUpClass(cls):
+        super().setUpClass()
+        cls.events = []
+        listener = subprocess.Popen([sys.executable, "-c", LISTENER], stdout=subprocess.PIPE, text=True)
+        cls.addClassCleanup(listener.communicate)
+        cls.addClassCleanup(listener.kill)
+        threading.Thread(target=lambda: cls.events.extend(map(json.loads, listener.stdout)), daemon=True).start()
+        wait_until(lambda: cls.events, "the listener")
+
+    def hear(self, act, wanted):
+        """What comes until an event like `wanted` (kind, role, name or text) does, that one last."""
+        self.events.clear()
+        act()
+
+        def found():
+            return next((i for i, e in enumerate(self.events) if (e[0], e[2]) == wanted[:2] and wanted[2] in e[3:]), None)
+
+        self.program.wait_for(lambda: found() is not None, lambda: f"{wanted} among {self.events}")
+        return self.events[: found() + 1]
+
+    def windows(self):
+        root = self.program.accessible
+        return [(w.get_role_name(), w.get_name()) for w in map(root.get_child_at_index, range(root.get_child_count()))]
+
+    def check(self, words):
+        number, source, amount, copied, finished, ended, help_text, button, title, list_name, ranks = words
+        self.assertEqual(self.windows(), [("frame", "Tessarolyne")])
+        spoken = self.hear(lambda: self.screen.type("255"), ("showing", "notification", amount))
+        self.assertEqual([e for e in spoken if e[0] == "focused"], [])
+        self.find("text", number)
+        before = self.hear(lambda: self.screen.press("Tab"), ("focused", "text", source))[:-1]
+        self.assertEqual([e for e in before if e[0].startswith("text-") and e[3] == source], [])
+        before = self.hear(lambda: self.screen.press("shift+Tab"), ("focused", "text", number))[:-1]
+        self.assertEqual([e for e in before if e[0].startswith("text-") and e[3] == number], [])
+        copy = next(c for c in self.all_controls() if c.role == "push button" and c.name.endswith(source))
+        self.hear(lambda: self.screen.click(*copy.centre), ("showing", "notification", copied))
+        self.hear(lambda: self.screen.press("ctrl+question"), ("focused", "push button", button))
+        role, name = self.windows()[-1]
+        self.assertEqual((role, name.split("\n")[0]), ("dialog", help_text))
+        self.screen.press("Escape")
+        self.wait_until_gone("dialog", help_text)
+        self.click("check box", list_name)
+        self.program.wait_for(lambda: ("frame", title) in self.windows(), "the list's window")
+        self.screen.type("1000")
+        self.hear(lambda: self.screen.press("Return"), ("showing", "notification", f"{finished}{ended}"))
+        for rank in ranks:
+            before = self.hear(lambda: self.screen.press("Tab"), ("focused", "text", rank))[:-1]
+            self.assertEqual([e for e in before if e[0].startswith("text-") and e[3] == rank], [])
+        names = [c.name for c in self.all_controls() if c.showing and c.name.strip() and c.role not in ("frame", "label")]
+        self.assertEqual(sorted(names), sorted(set(names)))
+        self.assertEqual([c for c in self.all_controls() if c.focused and not c.showing], [])
+
+
+class French(ScreenReaderTestCase):
+    def test_all_that_is_seen_is_told(self):
+        self.check(
+            (
+                "Nombre en base 10",
+                "Nombre en base de départ",
+                "deux cent cinquante-cinq euros zéro centime",
+                "Copié : FF",
+                "Calcul terminé : ",
+                "168 nombres premiers",
+                "L'aide n'est pas disponible pour Tessarolyne.",
+                "Lire À propos",
+                "Liste des Nombres Premiers",
+                "Liste Nb 1ers",
+                ("Rang du premier nombre affiché", "Rang du dernier nombre affiché"),
+            )
+        )
+
+
+class English(ScreenReaderTestCase):
+    ENVIRONMENT = {"LANGUAGE": "en"}
+
+    def test_all_that_is_seen_is_told(self):
+        self.check(
+            (
+                "Number in base 10",
+                "Number in the source base",
+                "two hundred and fifty five euros zero cent",
+                "Copied: FF",
+                "Calculation finished: ",
+                "168 primes",
+                "Help is not available for Tessarolyne.",
+                "Read About",
+                "List of Primes",
+                "Prime List",
+                ("Rank of the first prime shown", "Rank of the last prime shown"),
+            )
+        )
+        self.assertEqual([c for c in self.all_controls() if " :" in c.name and c.role != "push button"], [])
