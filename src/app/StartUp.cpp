@@ -52,7 +52,10 @@ void WinMain::Event_Open() {
     SweepLeftovers();
     Refresh();
     Show();
-    program.winChargSauvNb1ers().LoadNb1ers();
+    {
+        const QuietShowing quiet(app);
+        program.winChargSauvNb1ers().LoadNb1ers();
+    }
     if (CloseIsDue() || app.QuitAsked) {
         app.Quit(0); // the user has closed the program in the middle of it
         return;

@@ -47,14 +47,18 @@ bool WinChargSauvNb1ers::Event_CancelClose(bool) {
 
 void WinChargSauvNb1ers::Start(const std::string& title) {
     Title = title;
-    Show();
     drawn_ = program.services.clock.Ticks();
     deadline_ = drawn_ + ticksToBeSeen;
+    if (!app.ShowsQuietly()) {
+        Show();
+    }
 }
 
 void WinChargSauvNb1ers::End() {
     DrapMovableModal = false;
-    program.services.loop.WaitUntil([this] { return program.services.clock.Ticks() >= deadline_; });
+    if (Visible) {
+        program.services.loop.WaitUntil([this] { return program.services.clock.Ticks() >= deadline_; });
+    }
     program.services.loop.DropInput(); // what was meant for the windows behind this one
     EndModal();
 }
@@ -85,6 +89,9 @@ bool WinChargSauvNb1ers::MustStop() {
 
 void WinChargSauvNb1ers::Draw() {
     drawn_ = program.services.clock.Ticks();
+    if (!Visible && drawn_ >= deadline_) {
+        Show();
+    }
     UpdateNow();
     if (drawn_ >= answered_ + ticksBetweenAnswers) {
         answered_ = drawn_;
@@ -92,8 +99,10 @@ void WinChargSauvNb1ers::Draw() {
     }
 }
 
+// What was typed until now was meant for other windows and must not answer.
 void WinChargSauvNb1ers::TellFailure(int beeps, const std::string& message) {
     fncts.BeepNbT(beeps);
+    program.services.loop.DropInput();
     fncts.MyDialogBox(message, "", Localisation::Btn_Ok(), "", "", 1, nullptr);
 }
 
@@ -182,6 +191,7 @@ std::uint64_t WinChargSauvNb1ers::MemoryForTable() const {
 // the file is let go of.
 bool WinChargSauvNb1ers::UserOverwrites() {
     fncts.Beep();
+    program.services.loop.DropInput();
     const int answer =
         fncts.MyDialogBox(Localisation::Txt_CeFichContPasNb1er(), Localisation::Txt_CeciEffSonCont(),
             Localisation::Btn_Enreg(), Localisation::Btn_NePasEnreg(), "", 0, nullptr);

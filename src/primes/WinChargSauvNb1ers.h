@@ -15,7 +15,8 @@ class WinMain;
 
 // Shows how far the prime file is read or written, and does the one or the other: it lives for one operation,
 // which opens it, reports what went wrong, and closes it. While it is up it is drawn, and only the end of the
-// program stops a reading.
+// program stops a reading. It shows at once and long enough to be seen, since the user asked for it; while
+// the application shows quietly (QuietShowing), only once the operation has taken that long.
 class WinChargSauvNb1ers final : public ModalWindow, private PrimeFileProgress {
 public:
     explicit WinChargSauvNb1ers(Program& owner);

@@ -203,6 +203,26 @@ TEST_CASE(
     CHECK(drawn <= 510);
 }
 
+TEST_CASE("A load at the start shows nothing, unless it lasts, and then leaves the keyboard where it is") {
+    for (const bool lasts : {false, true}) {
+        Bound world("x : 500\n2\t3\t5\t7\t11\t13");
+        CHECK(world.stage.Count<WinChargSauvNb1ers>() == 0); // from the start with no file
+        {
+            const QuietShowing quiet(world.program->app);
+            WinChargSauvNb1ers& window = world.program->winChargSauvNb1ers();
+            const Connection connection = window.DrawNow.Connect([&] {
+                world.loop.Advance(lasts ? 20 : 0);
+                CHECK_FALSE((window.Visible() && window.TakesKeyboard()));
+            });
+            const std::int64_t start = world.loop.Ticks();
+            window.LoadNb1ers();
+            CHECK((world.loop.Ticks() == start) != lasts);
+        }
+        CHECK(world.stage.Count<WinChargSauvNb1ers>() == (lasts ? 1 : 0));
+        CHECK(world.Table() == found);
+    }
+}
+
 TEST_CASE("A save writes the table in the user's line length, to a link's target or in the link's place") {
     for (const LinkPolicy links : {LinkPolicy::ReplaceTarget, LinkPolicy::ReplaceLink}) {
         Bound world("");
