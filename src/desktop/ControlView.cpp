@@ -8,6 +8,10 @@
 #include "desktop/ShowingViews.h"
 #include "desktop/WheelView.h"
 
+#include "platform/Application.h"
+#include "platform/Services.h"
+#include "platform/Window.h"
+
 #include <QToolTip>
 
 namespace tessarolyne {
@@ -15,10 +19,14 @@ namespace tessarolyne {
 namespace {
 
 constexpr int noticeTime = 4000;
+constexpr int shortestToBeSeen = 150; // milliseconds
 
 } // namespace
 
-ControlView::ControlView(Control& control, QWidget* widget) : control_(control), widget_(widget) {
+ControlView::ControlView(Control& control, QWidget* widget)
+    : control_(control), widget_(widget),
+      disabling_(control.GetWindow().GetApplication().GetServices().loop, shortestToBeSeen) {
+    disabling_.Action = [this] { widget_->setEnabled(false); };
     widget_->setObjectName(ToQt(control.Name));
     // A click moves the focus into texts alone, see their views; the rest takes it from the keyboard.
     widget_->setFocusPolicy(control.TakesFocus() ? Qt::TabFocus : Qt::NoFocus);
@@ -59,6 +67,22 @@ void ControlView::TellModel(const std::function<void()>& tell) {
     Update();
 }
 
+// The model is disabled at once and refuses whatever comes; to the eye a state that passes sooner than it can
+// be read would only flicker.
+void ControlView::ReadEnabled() {
+    const bool shown = widget_->isEnabledTo(widget_->parentWidget());
+    if (control_.Enabled()) {
+        disabling_.Mode = 0;
+        if (!shown) {
+            widget_->setEnabled(true);
+        }
+    } else if (shown && !widget_->isVisible()) {
+        widget_->setEnabled(false);
+    } else if (shown && disabling_.Mode == 0) {
+        disabling_.Mode = 1;
+    }
+}
+
 void ControlView::ReadCommon() {
     const Control* parent = control_.Parent();
     const QRect place(control_.Left - (parent == nullptr ? 0 : parent->Left()),
@@ -66,9 +90,7 @@ void ControlView::ReadCommon() {
     if (widget_->geometry() != place) {
         widget_->setGeometry(place);
     }
-    if (widget_->isEnabledTo(widget_->parentWidget()) != control_.Enabled()) {
-        widget_->setEnabled(control_.Enabled());
-    }
+    ReadEnabled();
     if (widget_->isHidden() == control_.Visible()) {
         widget_->setVisible(control_.Visible());
     }

@@ -2,6 +2,7 @@
 
 #include "platform/Control.h"
 #include "platform/Signal.h"
+#include "platform/Timer.h"
 
 #include <QWidget>
 
@@ -46,11 +47,13 @@ protected:
 
 private:
     void ReadCommon();
+    void ReadEnabled();
 
     Control& control_;
     QWidget* const widget_;
     bool reading_ = false;
     bool telling_ = false;
+    Timer disabling_;
     Connection changed_;
     Connection notified_;
 };

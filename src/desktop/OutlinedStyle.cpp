@@ -1,6 +1,8 @@
 #include "desktop/OutlinedStyle.h"
 
+#include <QAbstractScrollArea>
 #include <QColor>
+#include <QPainter>
 #include <QPalette>
 #include <QStyleOptionButton>
 #include <QStyleOptionFrame>
@@ -33,6 +35,30 @@ Option WithOutline(const Option& option) {
     return outlined;
 }
 
+// Fusion draws the frame of an area around the middle of its lines, half of them outside of the widget. Where
+// a point is not a whole number of pixels, the half that is left may be less than one, and nothing is seen.
+class WholeLines {
+public:
+    WholeLines(QPainter* painter, const QWidget* widget)
+        : painter_(painter->device()->devicePixelRatioF() > 1 &&
+                           qobject_cast<const QAbstractScrollArea*>(widget) != nullptr
+                       ? painter
+                       : nullptr) {
+        Shift(0.5);
+    }
+    ~WholeLines() { Shift(-0.5); }
+    WholeLines(const WholeLines&) = delete;
+    WholeLines& operator=(const WholeLines&) = delete;
+
+private:
+    void Shift(qreal points) {
+        if (painter_ != nullptr) {
+            painter_->translate(points, points);
+        }
+    }
+    QPainter* const painter_;
+};
+
 } // namespace
 
 OutlinedStyle::OutlinedStyle() : QProxyStyle(QStringLiteral("fusion")) {}
@@ -42,6 +68,7 @@ void OutlinedStyle::drawPrimitive(
     const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option);
     const auto* const frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
     const bool dark = IsDark(option->palette);
+    const WholeLines whole(painter, element == PE_Frame ? widget : nullptr);
     if (dark && button != nullptr &&
         (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton)) {
         const auto outlined = WithOutline(*button);

@@ -21,13 +21,19 @@ public:
     const ProgressWheel& Model() const { return model_; }
 
 protected:
-    void showEvent(QShowEvent*) override { timer_.start(turnPeriod, this); }
+    void showEvent(QShowEvent*) override {
+        turn_ = -2;
+        timer_.start(turnPeriod, this);
+    }
     void hideEvent(QHideEvent*) override { timer_.stop(); }
     void timerEvent(QTimerEvent*) override {
         turn_ = (turn_ + 1) % spokes;
         update();
     }
     void paintEvent(QPaintEvent*) override {
+        if (turn_ < 0) {
+            return; // what is over before would only flicker
+        }
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);
         const qreal radius = std::min(width(), height()) / 2.0;

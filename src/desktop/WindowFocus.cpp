@@ -89,10 +89,33 @@ void WindowFocus::Begin() {
     Sync();
 }
 
+// Until a disabled control is shown so, what comes to it goes where it will go then: keys to the window, and
+// the mouse nowhere. A release still ends the press before it.
+bool WindowFocus::Refused(const QEvent& event) {
+    switch (event.type()) {
+    case QEvent::KeyPress:
+        WindowKey(static_cast<const QKeyEvent&>(event));
+        return true;
+    case QEvent::InputMethod:
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonDblClick:
+    case QEvent::Wheel:
+    case QEvent::ContextMenu:
+    case QEvent::DragEnter:
+    case QEvent::Drop:
+        return true;
+    default:
+        return false;
+    }
+}
+
 bool WindowFocus::eventFilter(QObject* watched, QEvent* event) {
     ControlView* const view = ViewOf(watched);
     if (view == nullptr || window_.IsClosed()) {
         return false;
+    }
+    if (!view->Model().Enabled() && Refused(*event)) {
+        return true;
     }
     switch (event->type()) {
     case QEvent::KeyPress:

@@ -41,6 +41,7 @@ protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
+    bool Refused(const QEvent& event);
     bool ControlKey(ControlView& view, const QKeyEvent& event);
     bool Composed(ControlView& view, const QInputMethodEvent& event);
     void PressedOn(const ControlView& view);

@@ -1,8 +1,14 @@
 #include "desktop/OutlinedStyle.h"
+#include "desktop/WindowView.h"
+#include "support/TestWorld.h"
 
+#include <QAbstractItemView>
 #include <QApplication>
+#include <QComboBox>
 #include <QImage>
+#include <QMouseEvent>
 #include <QPainter>
+#include <QPlainTextEdit>
 #include <QStyleOptionButton>
 #include <QStyleOptionFrame>
 
@@ -45,14 +51,87 @@ double OutlineContrast(QStyle::PrimitiveElement element, const QPalette& palette
     return (lightest + 0.05) / (Luminance(window) + 0.05);
 }
 
+// An application that needs no display.
+struct Offscreen {
+    int count = 1;
+    char name[6] = "tests";
+    char* arguments[2] = {name, nullptr};
+    const bool isSet = qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application{count, arguments};
+};
+
+// How many of an area's four edges are seen within its rectangle at that size of the screen.
+int EdgesSeen(double scale, int top) {
+    constexpr int width = 40;
+    constexpr int height = 19;
+    const QPlainTextEdit area;
+    QStyleOptionFrame option;
+    option.initFrom(&area);
+    option.rect = QRect(0, 0, width, height);
+    QImage image(240, 240, QImage::Format_RGB32);
+    image.setDevicePixelRatio(scale);
+    image.fill(Qt::white);
+    QPainter painter(&image);
+    painter.translate(5, top);
+    // Its viewport covers all but one point.
+    painter.setClipRegion(QRegion(option.rect) - QRegion(option.rect.adjusted(1, 1, -1, -1)));
+    OutlinedStyle().drawPrimitive(QStyle::PE_Frame, &option, &painter, &area);
+    painter.end();
+    const auto seen = [&](double x, double y) {
+        return image.pixelColor(static_cast<int>(x * scale), static_cast<int>(y * scale)) != Qt::white;
+    };
+    return seen(25, top + 0.5) + seen(25, top + height - 0.5) + seen(5.5, top + 9) +
+           seen(5 + width - 0.5, top + 9);
+}
+
 } // namespace
 
+TEST_CASE("The frame of an area is whole at every size and wherever it stands") {
+    const Offscreen offscreen;
+    for (double scale = 1; scale <= 3; scale += 0.25) {
+        for (int top = 10; top < 14; ++top) {
+            CAPTURE(scale);
+            CAPTURE(top);
+            CHECK(EdgesSeen(scale, top) == 4);
+        }
+    }
+}
+
+TEST_CASE("A control is greyed once it has been disabled for 150 ms, and refuses what comes from the first") {
+    const Offscreen offscreen;
+    tests::TestWorld world;
+    WinMain& window = world.Main();
+    const WindowView view(window, nullptr, false);
+    auto* const box = view.findChild<QWidget*>("CheckBoxMajusc");
+    auto* const menu = view.findChild<QComboBox*>("PopupMenuLg");
+    const auto click = [](QWidget* widget) {
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            const Qt::MouseButtons down = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+            QMouseEvent event(type, QPointF(8, 8), QPointF(8, 8), Qt::LeftButton, down, Qt::NoModifier);
+            QCoreApplication::sendEvent(widget, &event);
+        }
+    };
+    click(box);
+    CHECK(window.CheckBoxMajusc.Value);
+    for (const int disabledFor : {149, 150}) {
+        window.PopupMenuLg.Enabled = false;
+        click(menu);
+        CHECK_FALSE(menu->view()->isVisible());
+        window.CheckBoxMajusc.Enabled = false;
+        click(box);
+        window.CheckBoxMajusc.Enabled = true;
+        window.CheckBoxMajusc.Enabled = false;
+        world.loop.Advance(disabledFor);
+        CHECK(box->isEnabled() == (disabledFor < 150));
+        window.CheckBoxMajusc.Enabled = true;
+        window.PopupMenuLg.Enabled = true;
+        CHECK(box->isEnabled());
+        CHECK(window.CheckBoxMajusc.Value);
+    }
+}
+
 TEST_CASE("An empty box, dot or field can be told from a dark window") {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    int count = 1;
-    char name[] = "tests";
-    char* arguments[] = {name, nullptr};
-    const QApplication application(count, arguments);
+    const Offscreen offscreen;
     QPalette dark; // the lightest of those that desktops have
     dark.setColor(QPalette::Window, QColor(56, 56, 56));
     dark.setColor(QPalette::WindowText, QColor(240, 240, 240));
