@@ -2,6 +2,7 @@
 
 #include "desktop/FittingFont.h"
 #include "desktop/KeyText.h"
+#include "desktop/LineAccess.h"
 #include "desktop/QtText.h"
 #include "desktop/Replacement.h"
 
@@ -63,6 +64,7 @@ protected:
 
 FieldView::FieldView(TextField& model, QWidget* parent)
     : ControlView(model, new LineEdit(parent)), model_(model), edit_(static_cast<QLineEdit*>(Widget())) {
+    TellLinesWhole();
     edit_->setFocusPolicy(Qt::StrongFocus);
     static_cast<LineEdit*>(edit_)->onInsert = [this](const QString& text) { return Inserted(text); };
     QObject::connect(edit_, &QLineEdit::textChanged, edit_, [this] { Edited(); });

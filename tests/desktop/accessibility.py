@@ -54,6 +54,11 @@ class Control:
             return self.description
         return Atspi.Text.get_text(self._accessible, 0, Atspi.Text.get_character_count(self._accessible))
 
+    def run_of_attributes(self, offset):
+        """Where the run of text with the same attributes begins and ends."""
+        _, start, end = Atspi.Text.get_attribute_run(self._accessible, offset, False)
+        return start, end
+
     def set_text(self, text):
         """Replaces the text without a key, as dictation does."""
         Atspi.EditableText.set_text_contents(self._accessible, text)
