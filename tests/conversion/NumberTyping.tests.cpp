@@ -184,8 +184,8 @@ TEST_CASE("Digits are taken as programs write them, where the base has that way"
     } rows[] = {{"0xFF", 16, "FF"}, {"0Xff", 16, "ff"}, {"#FF", 16, "FF"}, {"FFh", 16, "FF"},
         {"0b1010", 2, "1010"}, {"0b1010", 16, "0b1010"}, {"0o17", 8, "17"}, {"0o17", 36, "0o17"},
         {"FF:FF_FF FF'FF\u00A0FF", 16, "FFFFFFFFFFFF"}, {" FF\r\n", 16, "FF"}, {"h", 16}, {"0xFFh", 16},
-        {"F\nF", 16}, {"F\tF", 16}, {"0x1", 10}, {"12.5", 10}, {"-1", 10}, {"1E3", 10}, {"102", 2},
-        {"G", 16}, {"0b", 2}, {"", 16}, {"é", 36}};
+        {"F\nF", 16}, {"F\tF", 16}, {"0x1", 10}, {"12.5", 10}, {"-1", 10}, {"1E3", 10}, {"102", 2}, {"G", 16},
+        {"0b", 2}, {"", 16}, {"é", 36}};
     for (const auto& [pasted, base, digits] : rows) {
         CAPTURE(pasted);
         CAPTURE(base);
