@@ -117,10 +117,21 @@
         <source>Recherche d'une mise à jour</source>
         <extracomment>For screen readers.</extracomment>
         <translation>Looking for an update</translation>
+    <message id="Localisation.BevButtDejDon_HT">
+        <source>Cette fenêtre ne s&apos;ouvrira plus d&apos;elle-même.</source>
+        <translation>This window won&apos;t open by itself any more.</translation>
     </message>
     <message id="Localisation.BevelButtListe">
         <source>Liste Nb 1ers</source>
         <translation>Prime List</translation>
+    </message>
+    <message id="Localisation.BevelButtonListe_HT">
+        <source>Ouvre ou ferme la fenêtre des nombres premiers et de leur fichier.</source>
+        <translation>Opens or closes the window with the primes and their file.</translation>
+    </message>
+    <message id="Localisation.BoutonOk_HT">
+        <source>Ferme cette fenêtre.</source>
+        <translation>Closes this window.</translation>
     </message>
     <message id="Localisation.Btn_Annuler">
         <source>Annuler</source>
@@ -222,6 +233,26 @@
         <source>Première lettre en majuscule</source>
         <translation>Start with a capital letter</translation>
     </message>
+    <message id="Localisation.CheckBoxAnnonces_HT">
+        <source>Le lecteur d&apos;écran dit de lui-même les résultats et ce qui est copié.</source>
+        <translation>The screen reader says by itself what came out and what was copied.</translation>
+    </message>
+    <message id="Localisation.CheckBoxAutoUpdt_HT">
+        <source>Demande une fois par jour au site de l&apos;auteur quelle est la version actuelle.</source>
+        <translation>Asks the author&apos;s site once a day which version is the current one.</translation>
+    </message>
+    <message id="Localisation.CheckBoxFormatAuto_HT">
+        <source>Groupe les chiffres des nombres, comme dans 1 234 567.</source>
+        <translation>Puts the digits of numbers in groups, as in 1 234 567.</translation>
+    </message>
+    <message id="Localisation.CheckBoxMajusc_HT">
+        <source>Commence le montant en lettres par une majuscule.</source>
+        <translation>Starts the amount in words with a capital letter.</translation>
+    </message>
+    <message id="Localisation.CheckBoxTrUnion_HT">
+        <source>Relie les mots du montant par des traits d&apos;union, comme dans vingt-et-un.</source>
+        <translation>Joins the words of the amount by hyphens, as in twenty-one.</translation>
+    </message>
     <message id="Localisation.EdFieldNbNbresLigne_HT">
         <source>Entrer ici la quantité de nombres premiers que vous voulez par ligne dans le fichier</source>
         <translation>Enter here how many primes you want per line in the file</translation>
@@ -229,6 +260,46 @@
     <message id="Localisation.EditFieldAffAu_HT">
         <source>Entrer 0 afin d&apos;afficher jusqu&apos;au dernier nombre premier</source>
         <translation>Enter 0 to show everything up to the last prime</translation>
+    </message>
+    <message id="Localisation.EditFieldAffDu_HT">
+        <source>Premier rang à afficher : la touche Retour montre la liste à partir de là.</source>
+        <translation>First rank to show: the Return key shows the list from there.</translation>
+    </message>
+    <message id="Localisation.EditFieldBaseDest_HT">
+        <source>Le nombre converti dans la base choisie à côté.</source>
+        <translation>The number converted to the base chosen beside it.</translation>
+    </message>
+    <message id="Localisation.EditFieldBaseOrg_HT">
+        <source>Le nombre dans la base choisie à côté : il peut être saisi ici aussi.</source>
+        <translation>The number in the base chosen beside it: it can be typed here too.</translation>
+    </message>
+    <message id="Localisation.EditFieldCentime_HT">
+        <source>Le centième de la devise au singulier, pour 0 et 1 : son pluriel est à gauche.</source>
+        <translation>The hundredth of the currency in the singular, for 0 and 1: its plural is on the left.</translation>
+    </message>
+    <message id="Localisation.EditFieldCentimes_HT">
+        <source>Le centième de la devise au pluriel, à partir de 2 : son singulier est à droite.</source>
+        <translation>The hundredth of the currency in the plural, for 2 and more: its singular is on the right.</translation>
+    </message>
+    <message id="Localisation.EditFieldFin_HT">
+        <source>Limite du calcul, et au repos le dernier nombre premier connu.</source>
+        <translation>Limit of the calculation, and at rest the last prime that is known.</translation>
+    </message>
+    <message id="Localisation.EditFieldMonnaie_HT">
+        <source>La devise au singulier, pour 0 et 1 : son pluriel est à gauche.</source>
+        <translation>The currency in the singular, for 0 and 1: its plural is on the left.</translation>
+    </message>
+    <message id="Localisation.EditFieldMonnaies_HT">
+        <source>La devise au pluriel, à partir de 2 : son singulier est à droite.</source>
+        <translation>The currency in the plural, for 2 and more: its singular is on the right.</translation>
+    </message>
+    <message id="Localisation.EditFieldNbre_HT">
+        <source>Le nombre en base 10, avec deux décimales au plus pour les centimes.</source>
+        <translation>The number in base 10, with at most two decimals for the cents.</translation>
+    </message>
+    <message id="Localisation.Email_HT">
+        <source>Commence une lettre à cette adresse.</source>
+        <translation>Starts a letter to this address.</translation>
     </message>
     <message id="Localisation.GpBox1">
         <source>Conversion de Base</source>
@@ -373,6 +444,18 @@ English translation: the authors of Tessarolyne</translation>
         <source>Enregistrer Nombres Premiers sous…</source>
         <translation>Save Primes As…</translation>
     </message>
+    <message id="Localisation.PopupMenuBaseDest_HT">
+        <source>Base dans laquelle le nombre est converti.</source>
+        <translation>Base to which the number is converted.</translation>
+    </message>
+    <message id="Localisation.PopupMenuBaseOrg_HT">
+        <source>Base du nombre à gauche.</source>
+        <translation>Base of the number on the left.</translation>
+    </message>
+    <message id="Localisation.PopupMenuLg_HT">
+        <source>Langue du montant : en pour l&apos;anglais, fr pour le français, ch be pour celui de Suisse et de Belgique.</source>
+        <translation>Language of the amount: en for English, fr for French, ch be for that of Switzerland and Belgium.</translation>
+    </message>
     <message id="Localisation.Pref_ChBoxAnnonces">
         <source>Faire annoncer les résultats au lecteur d'écran</source>
         <translation>Announce results to the screen reader</translation>
@@ -380,6 +463,46 @@ English translation: the authors of Tessarolyne</translation>
     <message id="Localisation.Pref_ChBoxAutoUpdt">
         <source>Vérifier automatiquement les mises à jour</source>
         <translation>Check for updates automatically</translation>
+    </message>
+    <message id="Localisation.ProgressBarNb1ers_HT">
+        <source>Part du fichier qui est lue ou écrite.</source>
+        <translation>How much of the file has been read or written.</translation>
+    </message>
+    <message id="Localisation.PushButtAnnuler_HT">
+        <source>Ferme sans rien changer aux préférences.</source>
+        <translation>Closes and leaves the preferences as they were.</translation>
+    </message>
+    <message id="Localisation.PushButtDecomposer_HT">
+        <source>Décompose un nombre trop long à décomposer pendant la saisie.</source>
+        <translation>Factors a number that took too long while typing.</translation>
+    </message>
+    <message id="Localisation.PushButtOk_HT">
+        <source>Ferme et garde ces préférences.</source>
+        <translation>Closes and keeps these preferences.</translation>
+    </message>
+    <message id="Localisation.PushButtonCalcPrems_HT">
+        <source>Calcule les nombres premiers jusqu&apos;à la limite à droite.</source>
+        <translation>Calculates the primes up to the limit on the right.</translation>
+    </message>
+    <message id="Localisation.PushButtonPressPap_HT">
+        <source>Copie le nombre à gauche dans le presse-papiers.</source>
+        <translation>Copies the number on the left to the clipboard.</translation>
+    </message>
+    <message id="Localisation.PushButtonPressPapLettr_HT">
+        <source>Copie le montant en lettres : Ctrl-clic remet les devises par défaut.</source>
+        <translation>Copies the amount in words: Ctrl-click restores the default currencies.</translation>
+    </message>
+    <message id="Localisation.PushButtonPressPapPrem_HT">
+        <source>Copie les facteurs dans le presse-papiers.</source>
+        <translation>Copies the factors to the clipboard.</translation>
+    </message>
+    <message id="Localisation.RadioButton09AZ_HT">
+        <source>Chiffres avant lettres : en base 16, dix s&apos;écrit A et quinze F.</source>
+        <translation>Digits before letters: in base 16, ten is A and fifteen is F.</translation>
+    </message>
+    <message id="Localisation.RadioButtonAZ09_HT">
+        <source>Lettres avant chiffres : en base 16, zéro s&apos;écrit A et quinze P.</source>
+        <translation>Letters before digits: in base 16, zero is A and fifteen is P.</translation>
     </message>
     <message id="Localisation.StTextAffAu">
         <source>au</source>
@@ -400,6 +523,10 @@ English translation: the authors of Tessarolyne</translation>
         <source>Formatage des nombres</source>
         <translation>Formatting the numbers</translation>
     </message>
+    <message id="Localisation.TexteInfo_HT">
+        <source>Le mode d&apos;emploi en bref, les auteurs et la licence.</source>
+        <translation>How to use the program in short, its authors and its licence.</translation>
+    </message>
     <message id="Localisation.Txt_AideNonDispo">
         <source>L&apos;aide n&apos;est pas disponible pour ¿%.
 Veuillez lire “¿%”.
@@ -410,6 +537,18 @@ Cette version a été compilée pour ¿%.</source>
 Please read “¿%”.
  
 This version was built for ¿%.</translation>
+    </message>
+    <message id="Localisation.TxtAreaDecomp1er_HT">
+        <source>Le nombre comme produit de nombres premiers.</source>
+        <translation>The number as a product of primes.</translation>
+    </message>
+    <message id="Localisation.TxtAreaLettres_HT">
+        <source>Le nombre en lettres, comme sur un chèque.</source>
+        <translation>The number in words, as on a cheque.</translation>
+    </message>
+    <message id="Localisation.TxtAreaListeNbres1ers_HT">
+        <source>Les nombres premiers de ces rangs, 2000 au plus à la fois.</source>
+        <translation>The primes of these ranks, at most 2000 at a time.</translation>
     </message>
     <message id="Localisation.Txt_Attente">
         <source>…</source>
@@ -622,6 +761,10 @@ This may take a while.</translation>
     <message id="Localisation.Txt_VsPouvPasMettre0">
         <source>Vous ne pouvez pas mettre 0 nombre premier par ligne, cette valeur a été remise à 10 !</source>
         <translation>You cannot have 0 primes per line. The value has been set back to 10!</translation>
+    </message>
+    <message id="Localisation.Web_HT">
+        <source>Ouvre ce site dans le navigateur.</source>
+        <translation>Opens this site in the browser.</translation>
     </message>
     <message id="Localisation.WinChargNb1ersTitre">
         <source>Chargement des Nombres Premiers</source>

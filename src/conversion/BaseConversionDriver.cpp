@@ -43,6 +43,9 @@ void WinMain::ConvNbreBaseD() {
         Write(factors_, error);
         Write(words_, error);
     }
+    for (TextField* field : {&EditFieldBaseOrg, &EditFieldBaseDest}) {
+        field->Remark = OnlyCentsAreWrong();
+    }
 }
 
 // From EditFieldNbre to EditFieldBaseOrg. False if the number is above the limit.

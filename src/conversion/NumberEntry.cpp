@@ -119,15 +119,23 @@ std::string WinMain::NumberShown() const {
     return tessarolyne::FormatNbre(EditFieldNbre.Text(), false);
 }
 
-void WinMain::Write(Output& output, const std::string& text) {
+// Where an error stands for no other reason than the cents, which the words can tell: what to say of it.
+std::string WinMain::OnlyCentsAreWrong() const {
+    const std::string decimal = WithoutBlanks(EditFieldNbre.Text());
+    const double value = IsNumeric(decimal) ? CDbl(decimal) : 0;
+    const bool hasCents = value > 0 && value <= static_cast<double>(NbreMax) && value != Round(value);
+    return hasCents ? Localisation::Txt_RefusEntier() : "";
+}
+
+void WinMain::Write(Output& output, const std::string& text, const std::string& remark) {
     output.area.Text = text;
+    output.remark = remark;
     output.number = NumberShown();
     output.Dim(false);
 }
 
 void WinMain::Output::Dim(bool dimmed) {
-    area.Dimmed = dimmed;
-    area.HelpTag = dimmed ? Localisation::Txt_NbrePrecedent() : "";
+    area.Remark = dimmed ? Localisation::Txt_NbrePrecedent() : remark;
 }
 
 // The digits in EditFieldBaseOrg may be another number now, of which the factors and the words don't speak

@@ -2,6 +2,7 @@
 
 #include "app/Program.h"
 #include "platform/Services.h"
+#include "ui/HelpTags.h"
 #include "ui/Localisation.h"
 
 namespace tessarolyne {
@@ -27,6 +28,7 @@ WinMain::WinMain(Program& owner)
       ThreadDecPrems(owner.services.loop) {
     SetInitialState();
     NameForScreenReaders();
+    ExplainControls(*this);
     BindEvents();
     BindCommandEvents();
     BindAnnouncements();

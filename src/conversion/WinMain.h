@@ -230,9 +230,11 @@ private:
     struct Output {
         TextArea& area;
         std::string number;
+        std::string remark; // on the text while it is of the number that stands there
         void Dim(bool dimmed);
     };
-    void Write(Output& output, const std::string& text);
+    void Write(Output& output, const std::string& text, const std::string& remark = {});
+    std::string OnlyCentsAreWrong() const;
 
     void BindEvents();
     void BindCommandEvents();
@@ -298,8 +300,8 @@ private:
     Timer slowCheck_; // until a check from the menu has to show that it is under way
     int fetchesUnderWay_ = 0;
     RunEnd lastRunEnd_{};
-    Output factors_{TxtAreaDecomp1er, {}};
-    Output words_{TxtAreaLettres, {}};
+    Output factors_{TxtAreaDecomp1er, {}, {}};
+    Output words_{TxtAreaLettres, {}, {}};
 
 public:
     // Last, so that it is joined before anything goes that its body uses.

@@ -44,7 +44,7 @@ void AreaView::Read() {
     if (edit_->textInteractionFlags() != flags) {
         edit_->setTextInteractionFlags(flags);
     }
-    edit_->SetDimmed(model_.Dimmed);
+    edit_->SetDimmed(!model_.Remark().empty());
     const QString text = WithLineFeeds(model_.Text);
     const bool isNew = text != shown_;
     if (model_.TabColumns > 0) {

@@ -94,7 +94,7 @@ void ControlView::ReadCommon() {
     if (widget_->isHidden() == control_.Visible()) {
         widget_->setVisible(control_.Visible());
     }
-    const QString tip = PlainToolTip(control_.HelpTag());
+    const QString tip = PlainToolTip(control_.Explanation());
     if (widget_->toolTip() != tip) {
         widget_->setToolTip(tip);
     }

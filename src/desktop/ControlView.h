@@ -43,7 +43,7 @@ protected:
     // The caption or text that serves as accessible name where the model gives none.
     virtual std::string OwnName() const { return {}; }
     // What a screen reader adds to the name.
-    virtual std::string Description() const { return control_.HelpTag; }
+    virtual std::string Description() const { return control_.Explanation(); }
 
 private:
     void ReadCommon();

@@ -1,5 +1,6 @@
 #include "desktop/FieldView.h"
 
+#include "desktop/Dimmable.h"
 #include "desktop/FittingFont.h"
 #include "desktop/KeyText.h"
 #include "desktop/LineAccess.h"
@@ -32,9 +33,9 @@ QString TypedText(const QKeyEvent& event) {
 
 // Hands on what is typed and pasted before it stands here: what the model refuses would else be among the
 // steps that undo takes back, and a paste beyond the line's maximal length would be cut.
-class LineEdit final : public QLineEdit {
+class LineEdit final : public Dimmable<QLineEdit> {
 public:
-    using QLineEdit::QLineEdit;
+    using Dimmable::Dimmable;
 
     std::function<bool(const QString&)> onInsert;
 
@@ -81,6 +82,7 @@ void FieldView::Read() {
         edit_->setReadOnly(model_.ReadOnly);
     }
     edit_->setAlignment(QtAlignment(model_.TextAlignment));
+    static_cast<LineEdit*>(edit_)->SetDimmed(!model_.Remark().empty());
     ReadFont();
     ReadText();
     if (model_.HasFocus()) {

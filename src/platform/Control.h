@@ -81,6 +81,8 @@ public:
     Property<bool> Visible{*this, true};
     Property<bool> Enabled{*this, true};
     Property<std::string> HelpTag{*this};
+    // What a pointer at rest and a screen reader are told beside the name and the content.
+    virtual std::string Explanation() const { return HelpTag; }
     // What a screen reader calls the control where it has no caption of its own.
     Property<std::string> AccessibleName{*this};
     // What Notify said last; empty once the user goes on or away. A screen reader adds it to the name.

@@ -28,9 +28,6 @@ public:
     void SetSelTextSize(int size) { StyleOfSelection().TextSize = size, Changed(); }
     const std::vector<TextStyle>& Styles() const { return styles_; }
 
-    // The text isn't of now: it is shown fainter, and can be read and copied all the same.
-    Property<bool> Dimmed{*this, false};
-
     // Into how many columns tab stops divide the area's width, the text behind each tab ending at its stop; 0
     // is the platform's own way.
     Property<int> TabColumns{*this, 0};

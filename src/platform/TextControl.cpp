@@ -47,6 +47,9 @@ void TextControl::PropertyChanged(const void* property) {
         const int length = static_cast<int>(Len(Text()));
         SelStart.Assign(std::min(SelStart(), length));
         SelLength.Assign(std::min(SelLength(), length - SelStart()));
+        if (changedBy == ChangedBy::User) {
+            Remark.Assign("");
+        }
     }
     Control::PropertyChanged(property);
     if (property == &Text) {

@@ -30,6 +30,7 @@ public:
     using Control::Control;
 
     bool TakesFocus() const override { return true; }
+    std::string Explanation() const override { return Remark().empty() ? HelpTag() : Remark(); }
 
     // Puts `inserted` in the place of `removed` characters at `start`, if the control takes it, and leaves
     // the caret behind it. All that the user does to the text comes through here: typing, pasting,
@@ -44,6 +45,9 @@ public:
     Property<int> SelLength{*this, 0};
     Property<bool> ReadOnly{*this, false};
     Property<int> TextSize{*this, 0}; // points; 0 is the system's own size
+    // What the text must not be taken for: it isn't of now, or no failure. With one it is shown fainter, and
+    // can be read and copied all the same; what the user changes is without.
+    Property<std::string> Remark{*this};
 
     // Any change of Text, the program's own included.
     Event<void(ChangedBy)> TextChange;

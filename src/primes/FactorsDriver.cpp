@@ -31,7 +31,7 @@ void WinMain::DecompPremDeb(bool force) {
     const std::string decimal = WithoutBlanks(EditFieldNbre.Text());
     const double n = CDbl(decimal);
     if (decimal.empty() || !IsNumeric(decimal) || !(n > 0) || n != Round(n)) {
-        Write(factors_, decimal.empty() ? "" : Localisation::Txt_ErrNbre());
+        Write(factors_, decimal.empty() ? "" : Localisation::Txt_ErrNbre(), OnlyCentsAreWrong());
         CalculEnCours = false;
         return;
     }

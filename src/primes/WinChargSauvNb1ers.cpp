@@ -8,6 +8,7 @@
 #include "platform/MemoryLimits.h"
 #include "platform/Services.h"
 #include "ui/FileItems.h"
+#include "ui/HelpTags.h"
 #include "ui/Localisation.h"
 
 #include <atomic>
@@ -33,6 +34,7 @@ constexpr int ticksToBeSeen = 6;
 WinChargSauvNb1ers::WinChargSauvNb1ers(Program& owner)
     : ModalWindow(owner, "… Lect/Sauv Nombres Premiers …", 400, 72, frame) {
     StaticTextFormNbre.Text = Localisation::StTextFormNbre();
+    ExplainControls(*this);
 }
 
 void WinChargSauvNb1ers::Event_Open() {

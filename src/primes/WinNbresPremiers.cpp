@@ -9,6 +9,7 @@
 #include "platform/Stage.h"
 #include "platform/Text.h"
 #include "ui/FileItems.h"
+#include "ui/HelpTags.h"
 #include "ui/Localisation.h"
 
 namespace tessarolyne {
@@ -33,6 +34,7 @@ WinNbresPremiers::WinNbresPremiers(Program& owner)
     : ProgramWindow(owner, Localisation::WinNbresTitre(), 520, 585, frame),
       ThreadCalcPrems(owner.services.loop) {
     SetInitialState();
+    ExplainControls(*this);
     BindEvents();
 }
 
@@ -41,10 +43,8 @@ void WinNbresPremiers::SetInitialState() {
     EditFieldFin.Mask = "999999999999";
     EditFieldAffDu.Mask = "999999999";
     EditFieldAffAu.Mask = "999999999";
-    EditFieldAffAu.HelpTag = Localisation::EditFieldAffAu_HT();
     EditFieldNbNbresLigne.Mask = "999";
     EditFieldNbNbresLigne.Format = "###";
-    EditFieldNbNbresLigne.HelpTag = Localisation::EdFieldNbNbresLigne_HT();
     for (TextField* field : {&EditFieldFin, &EditFieldAffDu, &EditFieldAffAu, &EditFieldNbNbresLigne}) {
         field->TextAlignment = Alignment::Right;
     }

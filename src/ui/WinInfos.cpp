@@ -3,6 +3,7 @@
 #include "app/Program.h"
 #include "app/Version.h"
 #include "platform/Text.h"
+#include "ui/HelpTags.h"
 #include "ui/Localisation.h"
 
 #include <utility>
@@ -34,6 +35,7 @@ bool IsInside(const Control& control, int x, int y) {
 WinInfos::WinInfos(Program& owner)
     : ModalWindow(owner, Localisation::Menu_AppleApropos(), 430, 480, AboutFrame()) {
     SetInitialState();
+    ExplainControls(*this);
     BindLinks();
     PointAt(BevButtDon);
     BevButtDon.Action = [this] { BevButtDon_Action(BevButtDon); };

@@ -4,6 +4,7 @@
 #include "conversion/WinMain.h"
 #include "platform/Services.h"
 #include "platform/Stage.h"
+#include "ui/HelpTags.h"
 #include "ui/Localisation.h"
 
 #include <algorithm>
@@ -27,6 +28,7 @@ WinPrefs::WinPrefs(Program& owner)
     : ModalWindow(owner, Localisation::WinPref_Title(), 400, 99, PreferencesFrame()) {
     CheckBoxAutoUpdt.Caption = Localisation::Pref_ChBoxAutoUpdt();
     CheckBoxAnnonces.Caption = Localisation::Pref_ChBoxAnnonces();
+    ExplainControls(*this);
     PushButtAnnuler.Caption = Localisation::Btn_Annuler();
     PushButtAnnuler.Cancel = true;
     PushButtAnnuler.Action = [this] { PushButtAnnuler_Action(PushButtAnnuler); };

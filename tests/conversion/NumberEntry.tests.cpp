@@ -51,6 +51,29 @@ TEST_CASE("What isn't a whole number within the limit is refused in place, and t
         CHECK(window.TxtAreaDecomp1er.Text() == errNbre);
         CHECK(world.sounds.beeps == beeps);
     }
+    SUBCASE("only for its cents: dimmed, and the reason told, until something else is wrong or nothing is") {
+        const auto remarks = [&] {
+            return std::vector{window.EditFieldBaseOrg.Remark(), window.EditFieldBaseDest.Remark(),
+                window.TxtAreaDecomp1er.Remark(), window.TxtAreaLettres.Remark()};
+        };
+        const std::string why = "Seulement des nombres entiers";
+        const std::vector<std::string> ofCents = {why, why, why, ""};
+        const std::vector<std::string> none(4);
+        world.Type(window.EditFieldNbre, "12.50");
+        CHECK(remarks() == ofCents);
+        window.PopupMenuBaseOrg.UserChose(0);
+        CHECK(remarks() == ofCents);
+        CHECK(window.EditFieldBaseOrg.Explanation() == why);
+        window.EditFieldBaseOrg.UserFocused();
+        window.EditFieldBaseOrg.UserTyped("1");
+        CHECK(window.EditFieldBaseOrg.Remark().empty()); // before the next calculation
+        for (const char* number : {"12.00", "0", "", "999999999999.01"}) {
+            world.Type(window.EditFieldNbre, "12.50");
+            world.Type(window.EditFieldNbre, number);
+            CHECK(remarks() == none);
+        }
+        CHECK(window.EditFieldBaseOrg.Explanation() == window.EditFieldBaseOrg.HelpTag());
+    }
     SUBCASE("a decimal number above the limit") {
         world.Type(window.EditFieldNbre, "999999999999.01");
         CHECK(window.EditFieldBaseOrg.Text() == errNbre);
@@ -149,30 +172,32 @@ TEST_CASE("Factors and words of another number than the one that stands there ar
     const TextArea& factors = window.TxtAreaDecomp1er;
     const TextArea& words = window.TxtAreaLettres;
     const auto baseOrg = [&](int base) { window.PopupMenuBaseOrg.UserChose(base - 2); };
+    const auto dimmed = [](const TextArea& area) {
+        return area.Remark() == "Correspond au nombre précédent.";
+    };
     world.Type(window.EditFieldBaseOrg, "10");
     const std::string textOfSixteen = words.Text;
     baseOrg(12);
     CHECK(window.EditFieldNbre.Text() == "12");
     CHECK(factors.Text() == "2 x 2 x 2 x 2");
     CHECK(words.Text() == textOfSixteen);
-    CHECK((factors.Dimmed && words.Dimmed));
-    CHECK(factors.HelpTag() == "Correspond au nombre précédent.");
+    CHECK((dimmed(factors) && dimmed(words)));
+    CHECK(factors.Explanation() == "Correspond au nombre précédent.");
     window.CheckBoxMajusc.UserPressed(); // the words are written again, and only they
-    CHECK((factors.Dimmed && !words.Dimmed));
+    CHECK((dimmed(factors) && !dimmed(words)));
     baseOrg(16); // the factors hold again
-    CHECK((!factors.Dimmed && words.Dimmed));
-    CHECK(factors.HelpTag().empty());
+    CHECK((!dimmed(factors) && dimmed(words)));
     world.Type(window.EditFieldBaseOrg, "A");
-    CHECK_FALSE((factors.Dimmed || words.Dimmed));
+    CHECK_FALSE((dimmed(factors) || dimmed(words)));
     baseOrg(10); // an error is written at once
     CHECK(words.Text() == errNbre);
-    CHECK_FALSE((factors.Dimmed || words.Dimmed));
+    CHECK_FALSE((dimmed(factors) || dimmed(words)));
     baseOrg(16);
-    CHECK((factors.Dimmed && words.Dimmed));
+    CHECK((dimmed(factors) && dimmed(words)));
     world.Type(window.EditFieldNbre, "12.5");
     window.EditFieldMonnaie.UserFocused(); // 12.50 is the same number
     baseOrg(10);
-    CHECK_FALSE((factors.Dimmed || words.Dimmed));
+    CHECK_FALSE((dimmed(factors) || dimmed(words)));
 }
 
 TEST_CASE("What a field can't take is refused with one beep, says why, and changes nothing") {

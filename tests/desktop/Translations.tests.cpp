@@ -113,9 +113,11 @@ void UseQt() {
 }
 
 // Every text of the window in its place: the views make a caption smaller that is too wide, so none may be.
+// And what the user can go to has a help tag, which fits on a screen.
 void CheckWidths(Window& window) {
     constexpr int titleButtons = 110;
     constexpr int frame = 8;
+    constexpr int smallScreen = 800;
     const WindowView view(window, nullptr, false);
     const QFontMetrics metrics(QApplication::font());
     const auto fits = [&](const QString& text, int room) {
@@ -131,6 +133,11 @@ void CheckWidths(Window& window) {
         CAPTURE(widget->objectName().toStdString());
         CAPTURE(widget->accessibleName().toStdString());
         CHECK(QFontInfo(widget->font()).pixelSize() >= fontPixels);
+    }
+    for (const Control* control : window.Controls()) {
+        CAPTURE(control->Name);
+        CHECK((!control->TakesFocus() || !control->HelpTag().empty()));
+        fits(WithLineFeeds(control->HelpTag()).section(u'\n', 0, 0), smallScreen);
     }
 }
 
@@ -184,7 +191,8 @@ TEST_CASE("A text comes from the region's catalogue, else the language's, else i
     }
 }
 
-TEST_CASE("Every text of every language fits into its place at the pinned font") {
+TEST_CASE(
+    "Every text of every language fits into its place at the pinned font, and every control is explained") {
     UseQt();
     const QStringList languages = Languages() + QStringList(u"fr"_qs);
     for (const QString& language : languages) {
@@ -197,6 +205,7 @@ TEST_CASE("Every text of every language fits into its place at the pinned font")
             CheckWidths(main);
         }
         WinNbresPremiers& list = world.program->winNbresPremiers();
+        list.Show();
         list.StaticTextNbNbre1ers.Text = "50 000 000" + Localisation::Txt_NombresPremiers();
         for (const auto& caption :
             {Localisation::Btn_ChoixFich(), Localisation::Btn_ChangFich(), Localisation::Btn_SauvFich()}) {

@@ -51,7 +51,7 @@ class Outputs(ProgramTestCase):
         self.focus("EditFieldBaseOrg")
         self.screen.press("End", "BackSpace")
         self.wait_for_text("TxtAreaDecomp1er", "2")
-        self.program.wait_for(lambda: darkest() < 0.2 and not factors.description, "black factors again")
+        self.program.wait_for(lambda: darkest() < 0.2 and factors.description == "Le nombre comme produit de nombres premiers.", "black factors again")
 
     def test_factors_at_once_or_by_the_button(self):
         self.enter("1000002")
