@@ -117,6 +117,7 @@
         <source>Recherche d'une mise à jour</source>
         <extracomment>For screen readers.</extracomment>
         <translation>Looking for an update</translation>
+    </message>
     <message id="Localisation.BevButtDejDon_HT">
         <source>Cette fenêtre ne s&apos;ouvrira plus d&apos;elle-même.</source>
         <translation>This window won&apos;t open by itself any more.</translation>
@@ -148,8 +149,8 @@
     <message id="Localisation.Btn_ChangFich_HT">
         <source>⇧ clic pour sauvegarder ce fichier
 ⌥ clic pour éditer le fichier texte dans TextEdit</source>
-        <translation>⇧ click to save this file
-⌥ click to edit the file in a text editor</translation>
+        <translation>Shift-click to save this file
+Ctrl-click to edit the file in a text editor</translation>
     </message>
     <message id="Localisation.Btn_ChoixFich">
         <source>Choisir Fichier</source>
@@ -189,7 +190,7 @@
     </message>
     <message id="Localisation.Btn_LireAbout">
         <source>Lire À propos</source>
-        <translation>Read About</translation>
+        <translation>Read “About”</translation>
     </message>
     <message id="Localisation.Btn_NePasEnreg">
         <source>Ne pas enregistrer</source>
@@ -214,8 +215,8 @@
     <message id="Localisation.Btn_SauvFich_HT">
         <source>⇧ clic pour choisir un fichier existant
 ⌥ clic pour éditer le fichier texte dans TextEdit</source>
-        <translation>⇧ click to choose an existing file
-⌥ click to edit the file in a text editor</translation>
+        <translation>Shift-click to choose an existing file
+Ctrl-click to edit the file in a text editor</translation>
     </message>
     <message id="Localisation.Btn_SiteWeb">
         <source>Site Web</source>
@@ -367,7 +368,7 @@ Localisation anglaise : les auteurs de Tessarolyne</source>
  
 ☞ Write the number out in words. The French and English transcriptions are the work of the authors of Tessarolyne (@TESSAROLYNE_SITE@ and @TESSAROLYNE_SITE_2@).
  
-Simply type the currencies into their fields (⌥ click ✎ to restore the default values).
+Simply type the currencies into their fields (Ctrl-click ✎ to restore the default values).
  
 Click the ✎ button to copy the field beside it to the clipboard.
  
@@ -525,7 +526,7 @@ English translation: the authors of Tessarolyne</translation>
     </message>
     <message id="Localisation.TexteInfo_HT">
         <source>Le mode d&apos;emploi en bref, les auteurs et la licence.</source>
-        <translation>How to use the program in short, its authors and its licence.</translation>
+        <translation>How to use the program in short, its authors and its license.</translation>
     </message>
     <message id="Localisation.Txt_AideNonDispo">
         <source>L&apos;aide n&apos;est pas disponible pour ¿%.
@@ -597,7 +598,7 @@ Do you want to save your primes in this file?</translation>
     <message id="Localisation.Txt_EntrerNbreAuDessousDe">
         <source>Vous devez entrer un nombre en dessous d&apos;un billion (mille milliards) !</source>
         <extracomment>Shown in the place of the words: of 1 000 000 000 and above in English.</extracomment>
-        <translation>You must enter a smaller number: this one is too large to be put into words!</translation>
+        <translation>You must enter a number below 1 000 000 000!</translation>
     </message>
     <message id="Localisation.Txt_EntrerUnNbrePositif">
         <source>Vous devez entrer un nombre positif !</source>
@@ -613,8 +614,8 @@ Nombre Décomposé = ¿%
 Nombre Recomposé = ¿% </source>
         <extracomment>Two numbers.</extracomment>
         <translation>There is an error in the factors!
-Number Factored = ¿% 
-Number Recomposed = ¿% </translation>
+Number factored = ¿% 
+Product of the factors = ¿% </translation>
     </message>
     <message id="Localisation.Txt_ErreurEcritFich">
         <source>Il y a eu une erreur pendant l&apos;écriture du fichier.</source>
@@ -698,6 +699,11 @@ Cela peut être long.</source>
         <translation>For large numbers, click Factor.
 This may take a while.</translation>
     </message>
+    <message id="Localisation.Txt_PremsPerdus">
+        <source>Faute de fichier, nouveaux nombres premiers perdus en quittant : ¿%</source>
+        <extracomment>How many, 1 or more.</extracomment>
+        <translation>New primes that are lost when you quit, for want of a file: ¿%</translation>
+    </message>
     <message id="Localisation.Txt_RefusBase">
         <source>Seulement des chiffres de la base ¿%</source>
         <translation>Only digits of base ¿%</translation>
@@ -740,7 +746,7 @@ This may take a while.</translation>
     </message>
     <message id="Localisation.Txt_SiVsVoulezConservNbPrem">
         <source>Si vous souhaitez conserver les nombres premiers calculés, vous devrez sélectionner un fichier depuis la fenêtre Liste des Nombres Premiers.</source>
-        <translation>If you want to keep the primes that have been calculated, you need to select a file in the List of Primes window.</translation>
+        <translation>If you want to keep the primes that have been calculated, you need to select a file in the Prime List window.</translation>
     </message>
     <message id="Localisation.Txt_Ver_a_jour">
         <source>Cette version est à jour.</source>
@@ -748,7 +754,7 @@ This may take a while.</translation>
     </message>
     <message id="Localisation.Txt_Ver_MaJ_impo">
         <source>Impossible de vérifier les mises à jour pour le moment, veuillez vérifier votre connexion internet ou réessayer plus tard.</source>
-        <translation>Updates cannot be checked for at the moment. Please check your internet connection or try again later.</translation>
+        <translation>Cannot check for updates at the moment. Please check your internet connection or try again later.</translation>
     </message>
     <message id="Localisation.Txt_Ver_Nouv">
         <source>Une nouvelle mise à jour est disponible.</source>
@@ -773,7 +779,7 @@ This may take a while.</translation>
     <message id="Localisation.WinNbresTitre">
         <source>Liste des Nombres Premiers</source>
         <extracomment>Also the name that is proposed for the file of primes.</extracomment>
-        <translation>List of Primes</translation>
+        <translation>Prime List</translation>
     </message>
     <message id="Localisation.WinPref_Title">
         <source>Préférences</source>

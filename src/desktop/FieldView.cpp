@@ -54,6 +54,16 @@ protected:
             QLineEdit::keyPressEvent(event);
         }
     }
+    // Qt's words end at the point of a number.
+    void mouseDoubleClickEvent(QMouseEvent* event) override {
+        QLineEdit::mouseDoubleClickEvent(event);
+        if (event->button() == Qt::LeftButton && hasSelectedText()) {
+            const QString all = text();
+            const qsizetype start = all.lastIndexOf(u' ', selectionStart() - all.size()) + 1;
+            const qsizetype end = all.indexOf(u' ', start);
+            setSelection(static_cast<int>(start), static_cast<int>((end < 0 ? all.size() : end) - start));
+        }
+    }
     // The menu bar only borrows the focus, like a popup: what its commands act on stays selected.
     void focusOutEvent(QFocusEvent* event) override {
         QFocusEvent borrowed(QEvent::FocusOut, Qt::PopupFocusReason);
@@ -87,6 +97,8 @@ void FieldView::Read() {
     ReadText();
     if (model_.HasFocus()) {
         ReadSelection();
+    } else if (edit_->cursorPosition() != 0) {
+        edit_->setCursorPosition(0); // a long text is read from its beginning
     }
 }
 
@@ -115,7 +127,6 @@ void FieldView::ReadText() {
     }
     if (!correcting_) {
         edit_->setText(text);
-        edit_->setCursorPosition(0); // a long text is read from its beginning
         return;
     }
     const Replacement change = FindReplacement(shown, text, text.size(), text.size());

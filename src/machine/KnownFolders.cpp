@@ -22,20 +22,11 @@ std::optional<std::string> PathVariable(const char* name) {
     return value != nullptr && value[0] == '/' ? std::optional<std::string>(value) : std::nullopt;
 }
 
-std::optional<std::string> Home() {
-    if (auto home = PathVariable("HOME")) {
-        return home;
-    }
-    const passwd* user = ::getpwuid(::getuid());
-    return user != nullptr && user->pw_dir[0] == '/' ? std::optional<std::string>(user->pw_dir)
-                                                     : std::nullopt;
-}
-
 std::optional<std::string> ConfigurationPath() {
     if (auto path = PathVariable("XDG_CONFIG_HOME")) {
         return path;
     }
-    const auto home = Home();
+    const auto home = HomeFolder();
     return home ? std::optional(*home + "/.config") : std::nullopt;
 }
 
@@ -55,6 +46,15 @@ void MakeFolders(const fs::path& folder) {
 }
 
 } // namespace
+
+std::optional<std::string> HomeFolder() {
+    if (auto home = PathVariable("HOME")) {
+        return home;
+    }
+    const passwd* user = ::getpwuid(::getuid());
+    return user != nullptr && user->pw_dir[0] == '/' ? std::optional<std::string>(user->pw_dir)
+                                                     : std::nullopt;
+}
 
 std::optional<std::string> PreferencesFolder() {
     const auto path = ConfigurationPath();
@@ -94,7 +94,7 @@ std::optional<std::string> DocumentsFolderOfLine(const std::string& line, const 
 }
 
 std::optional<std::string> DocumentsFolder() {
-    const auto home = Home();
+    const auto home = HomeFolder();
     const auto configuration = ConfigurationPath();
     if (!home || !configuration) {
         return std::nullopt;

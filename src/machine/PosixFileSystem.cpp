@@ -174,6 +174,8 @@ std::optional<std::string> PosixFileSystem::VolumeNameAt(const std::string& path
 
 std::optional<std::string> PosixFileSystem::Find(KnownFolder folder) {
     switch (folder) {
+    case KnownFolder::Home:
+        return HomeFolder();
     case KnownFolder::Preferences:
         return PreferencesFolder();
     case KnownFolder::Documents:

@@ -18,7 +18,7 @@ enum class FileKind { None, Regular, Folder, Link, Other, Unknown };
 // What a save does with a link: keep it and replace the file it leads to, or put a file in the link's place.
 enum class LinkPolicy { ReplaceTarget, ReplaceLink };
 
-enum class KnownFolder { Preferences, Documents, Application };
+enum class KnownFolder { Home, Preferences, Documents, Application };
 
 // A mounted file system, by the name that the user sees and the folder under which it stands.
 struct Volume {

@@ -86,6 +86,9 @@ void WinMain::DecompPremFin(std::uint64_t n) {
         text = Localisation::Txt_PourLesGdsNbres();
         PushButtDecomposer.Enabled = true;
         TellWhyRunEnded();
+        if (BevelButtonListe.Value) {
+            program.winNbresPremiers().ShowBinding();
+        }
     } else {
         text = FactorsText(CheckBoxFormatAuto.Value);
         const std::uint64_t product = std::accumulate(

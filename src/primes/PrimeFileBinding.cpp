@@ -1,6 +1,7 @@
 // Which text file is bound to the table of primes: how the user binds, replaces, opens and releases it.
 
 #include "app/Program.h"
+#include "conversion/NumberFormat.h"
 #include "conversion/WinMain.h"
 #include "platform/Desktop.h"
 #include "platform/MenuBar.h"
@@ -11,7 +12,17 @@
 #include "ui/FileTypes.h"
 #include "ui/Localisation.h"
 
+#include <algorithm>
+#include <cstdint>
+
 namespace tessarolyne {
+
+namespace {
+
+// With which every table begins.
+constexpr std::int64_t firstPrimes = 4;
+
+} // namespace
 
 bool WinMain::FichChoixFichNbP_Action() {
     if (app.GetMenuBar()->Find("FichChoixFichNbP")->Enabled) {
@@ -118,14 +129,28 @@ void WinNbresPremiers::AskToKeepFile() {
     }
 }
 
+// A further line, if a quit would drop primes that are in no file, as it does without asking.
+std::string WinNbresPremiers::TextOfUnkeptPrimes() {
+    const WinMain& main = program.winMain();
+    const std::int64_t inFile = app.FichNbPrems ? 0 : std::int64_t{main.Nb_NbrePcharg}; // a bound one is gone
+    const std::int64_t unkept =
+        main.Nbres_Premiers.UpperBound() + 1 - std::max(std::int64_t{firstPrimes}, inFile);
+    if (unkept <= 0) {
+        return {};
+    }
+    const std::string text = Localisation::Txt_PremsPerdus();
+    return "\r" + fncts.FracTexte(text, 1) + FormatWhole(static_cast<std::uint64_t>(unkept), true) +
+           fncts.FracTexte(text, 2);
+}
+
 void WinNbresPremiers::ShowBinding() {
     if (PasNil_Existe_Alias(app.FichNbPrems, true)) {
         PushButtonFichier.Caption = Localisation::Btn_ChangFich();
         PushButtonFichier.HelpTag = Localisation::Btn_ChangFich_HT();
-        StaticTextNbNbre1ers.HelpTag = AbsPath_f(*app.FichNbPrems, true);
+        StaticTextNbNbre1ers.HelpTag = ShownPath(*app.FichNbPrems);
     } else {
         PushButtonFichier.Caption = Localisation::Btn_SauvFich();
-        PushButtonFichier.HelpTag = Localisation::Btn_SauvFich_HT();
+        PushButtonFichier.HelpTag = Localisation::Btn_SauvFich_HT() + TextOfUnkeptPrimes();
         StaticTextNbNbre1ers.HelpTag = Localisation::Txt_PasDeFichNbPremSelect();
     }
 }

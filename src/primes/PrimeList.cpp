@@ -60,6 +60,7 @@ void WinNbresPremiers::FaireListe(bool forcer, bool garderDebut) {
     EditFieldAffAu.Text = Str(slice.fin + 1);
     const std::string text =
         ListText(static_cast<std::int32_t>(slice.debut), static_cast<std::int32_t>(slice.fin));
+    ShowBinding();
     StaticTextNbNbre1ers.Text =
         FormatWhole(static_cast<std::uint64_t>(Ind_DerPrem) + 1, main.CheckBoxFormatAuto.Value) +
         Localisation::Txt_NombresPremiers();
@@ -120,6 +121,7 @@ void WinNbresPremiers::ButtCalcPremsFin() {
     WinMain& main = program.winMain();
     if (fncts.ArretUrg) {
         Ind_DerPrem = main.Nbres_Premiers.UpperBound();
+        ShowBinding();
         EditFieldFin.Text = FormatWhole(main.Nbres_Premiers.Back(), false);
     } else {
         EditFieldAffAu.Text = "0";

@@ -61,6 +61,8 @@ public:
     void KeepSettings();
     // Opens, loads or saves the prime file, as the state of the binding and the two keys decide.
     void Btn_Fich(bool fichDispo, bool touchOption, bool touchMaj);
+    // Tells by the button to the file whether there is one, and what the lack of one would cost.
+    void ShowBinding();
 
     void Event_Open() override;
     bool Event_CancelClose(bool appQuitting) override;
@@ -82,7 +84,7 @@ private:
     std::optional<FolderItem> ChooseAndSave();
     bool CanBeKept(const FolderItem& item);
     void AskToKeepFile();
-    void ShowBinding();
+    std::string TextOfUnkeptPrimes();
 
     NumberField finField_{EditFieldFin, fncts};
     NumberField affDuField_{EditFieldAffDu, fncts};

@@ -51,6 +51,12 @@ std::string AbsPath_f(const FolderItem& item, bool marquerDossier) {
     return chemin;
 }
 
+std::string ShownPath(const FolderItem& item) {
+    const std::string& path = item.NativePath();
+    const std::string home = item.Files().Find(KnownFolder::Home).value_or("");
+    return !home.empty() && path.starts_with(home + '/') ? "~" + path.substr(home.size()) : path;
+}
+
 std::optional<FolderItem> GetFitemAbsPath(FileSystem& files, std::string_view chemin, bool vraiItem) {
     const auto names = Names(chemin);
     if (names.front().empty()) {

@@ -14,6 +14,9 @@ namespace tessarolyne {
 // The colon path of an item. `marquerDossier` appends ":" to a folder.
 std::string AbsPath_f(const FolderItem& item, bool marquerDossier);
 
+// The item's place as the desktop writes it: "~" for the user's own folder.
+std::string ShownPath(const FolderItem& item);
+
 // The item of a colon path, an alias at its end as itself if `vraiItem`, else its target. Of several volumes
 // of that name the one that has the item wins, else the first that has its folder. Nil if there is none.
 std::optional<FolderItem> GetFitemAbsPath(FileSystem& files, std::string_view chemin, bool vraiItem);

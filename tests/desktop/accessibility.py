@@ -59,6 +59,11 @@ class Control:
         _, start, end = Atspi.Text.get_attribute_run(self._accessible, offset, False)
         return start, end
 
+    @property
+    def caret(self):
+        """Before which character of the text the caret stands."""
+        return Atspi.Text.get_caret_offset(self._accessible)
+
     def set_text(self, text):
         """Replaces the text without a key, as dictation does."""
         Atspi.EditableText.set_text_contents(self._accessible, text)

@@ -22,12 +22,13 @@ class Entry(ProgramTestCase):
 
     def test_a_paste_is_taken_whole_or_not_at_all(self):
         self.clear("EditFieldNbre")
+        explained = self.control("EditFieldNbre").description
         for pasted in ("1e6", "1/2", "-5", "1234567890123"):
             self.paste("1 234,50 €\n")
             self.wait_for_text("EditFieldNbre", "1234.50")
             self.screen.press("ctrl+a")
             self.paste(pasted)
-            self.program.wait_for(lambda: self.control("EditFieldNbre").description, "a refusal")
+            self.program.wait_for(lambda: self.control("EditFieldNbre").description != explained, "a refusal")
             self.wait_for_text("EditFieldNbre", "1234.50")
             self.screen.press("Delete")  # the selection has stayed, too
             self.wait_for_text("EditFieldNbre", "")
@@ -46,6 +47,21 @@ class Entry(ProgramTestCase):
         self.clear("EditFieldMonnaie")
         self.paste("livre\nsterling\n")
         self.wait_for_text("EditFieldMonnaie", "livre sterling")
+
+    def test_a_double_click_takes_a_number_whole_and_a_word_that_is_left_shows_its_beginning(self):
+        self.clear("EditFieldNbre")
+        self.screen.type("1234.56")
+        x, y = self.control("EditFieldNbre").centre
+        _, _, width, _ = self.control("EditFieldNbre").bounds
+        self.screen.run("xdotool", "mousemove", str(x + width // 2 - 12), str(y), "click", "--repeat", "2", "1")
+        self.screen.type("7")
+        self.wait_for_text("EditFieldNbre", "7")
+        self.clear("EditFieldMonnaies")
+        self.screen.type("francs suisses de Berne")
+        currency = self.control("EditFieldMonnaies")
+        self.program.wait_for(lambda: currency.caret == 23, "the caret at the end")
+        self.focus("EditFieldNbre")
+        self.program.wait_for(lambda: currency.caret == 0, lambda: f"the beginning, not from {currency.caret}")
 
     def test_keys_with_alt_or_super_are_no_text(self):
         for name in ("EditFieldNbre", "EditFieldBaseOrg", "EditFieldCentime"):

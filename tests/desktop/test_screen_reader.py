@@ -117,8 +117,8 @@ class English(ScreenReaderTestCase):
                 "Calculation finished: ",
                 "168 primes",
                 "Help is not available for Tessarolyne.",
-                "Read About",
-                "List of Primes",
+                "Read “About”",
+                "Prime List",
                 "Prime List",
                 ("Rank of the first prime shown", "Rank of the last prime shown"),
             )
