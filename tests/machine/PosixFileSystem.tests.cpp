@@ -138,6 +138,29 @@ TEST_CASE("A file is kept apart from itself, open to no more people, and never l
     CHECK(ReadFile(bad) == "only");
 }
 
+TEST_CASE(
+    "The user's folders are the configured ones, made for the user alone, else the usual ones or none") {
+    Disk disk;
+    CHECK(disk.Find(KnownFolder::Preferences, disk / "home", disk / "a/b") == disk.Canonical("a/b"));
+    CHECK(fs::status(disk / "a/b").permissions() == fs::perms::owner_all);
+    CHECK(disk.Find(KnownFolder::Preferences, disk / "home", "a/b") == disk.Canonical("home/.config"));
+    WriteFile(disk / "file", "");
+    CHECK_FALSE(disk.Find(KnownFolder::Preferences, disk / "home", disk / "file/x").has_value());
+    const auto documents = [&] { return disk.Find(KnownFolder::Documents, disk.Path(), disk / "c"); };
+    CHECK_FALSE(documents().has_value());
+    for (const char* name : {"Documents", "Mes \"écrits\"", "c"}) {
+        fs::create_directories(disk / name);
+    }
+    CHECK(documents() == disk.Canonical("Documents"));
+    WriteFile(disk / "c/user-dirs.dirs", "# comment\nXDG_MUSIC_DIR=\"$HOME/M\"\n"
+                                         "XDG_DOCUMENTS_DIR=\"$HOME/Mes \\\"écrits\\\"\"\n");
+    CHECK(documents() == disk.Canonical("Mes \"écrits\""));
+    for (const char* bad : {"", "XDG_DOCUMENTS_DIR=/x", "XDG_DOCUMENTS_DIR=\"x\"", "XDG_DOCUMENTS_DIR"}) {
+        CHECK_FALSE(DocumentsFolderOfLine(bad, "/h").has_value());
+    }
+    CHECK(NamesIn(disk.files.Find(KnownFolder::Application).value()).contains("machine.tests"));
+}
+
 TEST_CASE("Volumes are the root and what is mounted where desktops mount sticks") {
     std::istringstream table("22 1 8:1 / / rw,relatime shared:1 - ext4 /dev/sda1 rw\n"
                              "23 22 0:20 / /proc rw - proc proc rw\n"
@@ -145,41 +168,10 @@ TEST_CASE("Volumes are the root and what is mounted where desktops mount sticks"
                              "41 22 8:33 / /run/media/u/A:B rw - vfat /dev/sdc1 rw\n"
                              "42 22 8:34 / /mnt/disk rw - ext4 /dev/sdc2 rw\n"
                              "43 42 8:35 / /mnt/disk rw - ext4 /dev/sdc3 rw\n"
-                             "\n"
                              "45 22\n");
     CHECK(MountedVolumes(table) == std::vector<Volume>{{"Root", "/"}, {"My Stick", "/media/u/My Stick"},
                                        {"A:B", "/run/media/u/A:B"}, {"disk", "/mnt/disk"}});
-    PosixFileSystem files;
-    CHECK(files.VolumeNameAt("/") == "Root");
-    CHECK_FALSE(files.VolumeNameAt("/mnt/there is none of this name").has_value());
-}
-
-TEST_CASE("The preferences folder is the configured one, made for the user alone, else the one at home") {
-    Disk disk;
-    CHECK(disk.Find(KnownFolder::Preferences, disk / "home", disk / "a/b") == disk.Canonical("a/b"));
-    CHECK(fs::status(disk / "a/b").permissions() == fs::perms::owner_all);
-    CHECK(disk.Find(KnownFolder::Preferences, disk / "home", "a/b") == disk.Canonical("home/.config"));
-    WriteFile(disk / "file", "");
-    CHECK_FALSE(disk.Find(KnownFolder::Preferences, disk / "home", disk / "file/x").has_value());
-}
-
-TEST_CASE("The documents folder is the one that the desktop's file names, else the usual one, else none") {
-    Disk disk;
-    const auto found = [&] { return disk.Find(KnownFolder::Documents, disk.Path(), disk / "c"); };
-    CHECK_FALSE(found().has_value());
-    for (const char* name : {"Documents", "Mes \"écrits\"", "c"}) {
-        fs::create_directories(disk / name);
-    }
-    CHECK(found() == disk.Canonical("Documents"));
-    WriteFile(disk / "c/user-dirs.dirs", "# comment\nXDG_MUSIC_DIR=\"$HOME/M\"\n"
-                                         "XDG_DOCUMENTS_DIR=\"$HOME/Mes \\\"écrits\\\"\"\n");
-    CHECK(found() == disk.Canonical("Mes \"écrits\""));
-    CHECK(DocumentsFolderOfLine("  XDG_DOCUMENTS_DIR=\"/data\"", "/h") == "/data");
-    for (const char* bad : {"", "XDG_DOCUMENTS_DIR=/x", "XDG_DOCUMENTS_DIR=\"x\"", "XDG_DOCUMENTS_DIR"}) {
-        CHECK_FALSE(DocumentsFolderOfLine(bad, "/h").has_value());
-    }
-    const auto own = disk.files.Find(KnownFolder::Application);
-    CHECK(NamesIn(own.value()).contains("machine.tests"));
+    CHECK(PosixFileSystem().VolumeNameAt("/") == "Root");
 }
 
 TEST_CASE("The package question is asked of the system's library in its own order, and false without it") {

@@ -5,22 +5,24 @@
 
 using namespace tessarolyne;
 
-TEST_CASE("A native path is taken without empty parts, and only if it is absolute and plain") {
+TEST_CASE(
+    "A path is absolute and plain, a name is any that a file can bear, a volume has a name and no parent") {
     MemoryFileSystem files;
     CHECK(files.At("/").NativePath() == "/");
     CHECK(files.At("//a///b/./c/").NativePath() == "/a/b/c");
     for (const std::string_view path : {std::string_view("a/b"), {"/a/../b"}, {"/a\0b", 4}}) {
         CHECK_FALSE(FolderItem::FromNativePath(files, path).has_value());
     }
-}
-
-TEST_CASE("A folder has children by every name that a file can bear and no other") {
-    MemoryFileSystem disk;
-    CHECK(disk.At("/").TrueChild("a:b\n%")->NativePath() == "/a:b\n%");
+    CHECK(files.At("/").TrueChild("a:b\n%")->NativePath() == "/a:b\n%");
     for (const std::string_view name : {std::string_view(""), {"."}, {".."}, {"a/b"}, {"a\0b", 3}}) {
-        CHECK_FALSE(disk.At("/x").TrueChild(name).has_value());
-        CHECK_FALSE(disk.At("/x").Child(name).has_value());
+        CHECK_FALSE(files.At("/x").TrueChild(name).has_value());
+        CHECK_FALSE(files.At("/x").Child(name).has_value());
     }
+    files.volumes.push_back({"Stick", "/media/u/Stick"});
+    CHECK_FALSE(files.At("/").Parent().has_value());
+    CHECK(files.At("/a").Parent()->Name() == "Root");
+    CHECK(files.At("/media/u/Stick/x").Parent()->Name() == "Stick");
+    CHECK_FALSE(files.At("/media/u/Stick").Parent().has_value());
 }
 
 TEST_CASE("An alias is itself for TrueChild and its target for Child, and dangling it exists") {
@@ -40,16 +42,6 @@ TEST_CASE("An alias is itself for TrueChild and its target for Child, and dangli
     disk.AddLink("/f/toFolder", "/f");
     CHECK_FALSE(folder.TrueChild("toFolder")->Directory());
     CHECK(folder.Child("toFolder")->Directory());
-}
-
-TEST_CASE("The root of a volume has the volume's name and no parent") {
-    MemoryFileSystem disk;
-    disk.volumes.push_back({"Stick", "/media/u/Stick"});
-    CHECK(disk.At("/").Name() == "Root");
-    CHECK_FALSE(disk.At("/").Parent().has_value());
-    CHECK(disk.At("/a").Parent() == disk.At("/"));
-    CHECK(disk.At("/media/u/Stick/x").Parent()->Name() == "Stick");
-    CHECK_FALSE(disk.At("/media/u/Stick").Parent().has_value());
 }
 
 TEST_CASE("A URL brings back every path, and others are refused") {

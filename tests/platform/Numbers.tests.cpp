@@ -21,8 +21,6 @@ constexpr const char* plainCents = "-#################0.00";
 
 struct CommaAsPoint final : std::numpunct<char> {
     char do_decimal_point() const override { return ','; }
-    char do_thousands_sep() const override { return '.'; }
-    std::string do_grouping() const override { return "\3"; }
 };
 
 struct ValueOfText {
@@ -51,34 +49,27 @@ TEST_CASE("A number has a sign, digits around at most one point, and blanks anyw
     CHECK_FALSE(IsNumeric(std::string_view("1\0", 2)));
 }
 
-TEST_CASE("A value too large for a double is the largest one, a value too small is 0") {
+TEST_CASE("Val reads the number at the start; too large a one is the largest double, too small a one 0") {
     const std::string zeros(5000, '0');
-    const std::string widest = std::to_string(std::numeric_limits<std::int64_t>::max());
+    const std::string widest(23, '9');
     CHECK(CDbl("-1" + zeros) == -DBL_MAX);
     CHECK(CDbl("0." + zeros + "1") == 0);
-    for (const std::string& text :
-        {std::string("1e309"), "0." + zeros + "1e9000", "1" + zeros, std::string("1e99999999999999999999999"),
-            "1e" + widest, "1" + zeros + "e-4000", std::string("17976931348623159e292")}) {
-        CAPTURE(text);
-        CHECK(Val(text) == DBL_MAX);
-        CHECK(Val("-" + text) == -DBL_MAX);
+    for (const std::string& large : {std::string("1e309"), "0." + zeros + "1e9000", "1" + zeros,
+             "1e" + widest, "1" + zeros + "e-4000", std::string("17976931348623159e292")}) {
+        CHECK(Val(large) == DBL_MAX);
+        CHECK(Val("-" + large) == -DBL_MAX);
     }
-    for (const std::string& text :
-        {std::string("1e-400"), "0." + zeros + "1", std::string("0e99999999999999999999"),
-            std::string("1e-99999999999999999999999"), "1e-" + widest, "1" + zeros + "e-9000", "0" + zeros}) {
-        CAPTURE(text);
-        CHECK(Val(text) == 0);
+    for (const std::string& small : {std::string("1e-400"), "0." + zeros + "1", "0e" + widest, "1e-" + widest,
+             "1" + zeros + "e-9000", "0" + zeros}) {
+        CHECK(Val(small) == 0);
     }
-    CHECK(Val("1" + zeros + "e-5000") == 1);
-    CHECK(Val("0." + zeros + "1e5001") == 1);
-}
-
-TEST_CASE("Val reads the number at the start and lets the rest go") {
     for (const auto& [text, value] : std::initializer_list<ValueOfText>{{"  12.5 euros", 12.5}, {"1 234", 1},
-             {"1e2x", 100}, {"", 0}, {" ", 0}, {"a1", 0}, {".", 0}, {"-", 0}, {"\t1", 0}, {"e5", 0}}) {
+             {"1e2x", 100}, {"", 0}, {"a1", 0}, {".", 0}, {"-", 0}, {"\t1", 0}, {"e5", 0},
+             {"1" + zeros + "e-5000", 1}}) { // what follows the number is let go
         CAPTURE(text);
         CHECK(Val(text) == value);
     }
+    CHECK(Val("0." + zeros + "1e5001") == 1);
 }
 
 TEST_CASE(
@@ -93,7 +84,6 @@ TEST_CASE(
         {-1234, grouped, "    -1 234"},
         {-0.5, plain, "-1"},
         {0, "###", ""},
-        {12345, "###", "12345"},
         {-7, "0.00", "7.00"},
         {3, "[\\#0\\0]€", "[#30]€"},
         {-0.5, "-#.00", "-.50"},
@@ -102,10 +92,8 @@ TEST_CASE(
         {1e23, plain, "99999999999999991611392"},
         {-infinity, plainCents, "-" + Format(DBL_MAX, plain) + ".00"},
         {notANumber, plain, "0"},
-        {0.125, plainCents, "0.13"},
         {1.005, plainCents, "1.00"}, // the double is a little below
         {8.345, plainCents, "8.35"}, // this one a little above
-        {999.995, plainCents, "1000.00"},
         {-0.004, plainCents, "0.00"},
         {5e-324, plainCents, "0.00"},
     };

@@ -1,4 +1,3 @@
-#include "platform/MenuBar.h"
 #include "primes/WinNbresPremiers.h"
 #include "support/TestWorld.h"
 #include "ui/Localisation.h"
@@ -62,8 +61,12 @@ TEST_CASE("The binding, Option and Shift decide what a click does") {
 }
 
 TEST_CASE("A cancelled chooser asks what becomes of a bound file, and is silent without one") {
-    Binding unbound(false);
-    unbound.Click(false, false, std::nullopt);
+    Binding unbound(true);
+    unbound.files.entries.erase(path); // as good as none
+    unbound.Click(false, false, unbound.files.At(path));
+    CHECK(unbound.files.entries.at(path).content.starts_with("Nombre de Nombres Premiers : 4\n"));
+    unbound.Bound().reset();
+    unbound.Click(false, true, std::nullopt);
     CHECK(unbound.dialogs.asked.empty());
 
     for (const DialogButton answer : {DialogButton::Action, DialogButton::Cancel, DialogButton::None}) {
@@ -84,7 +87,11 @@ TEST_CASE(
     locked.Click(false, false, locked.files.At(path));
     CHECK(locked.dialogs.asked.at(0).message == "Remplacement impossible !");
     CHECK_FALSE(locked.Bound().has_value());
-    CHECK(locked.files.entries.at(path).content == sixPrimes);
+    Binding fewer(true); // never read, and holds six primes to the table's four
+    fewer.dialogs.Expect(DialogButton::Action);
+    fewer.Click(false, true, fewer.files.At(path));
+    CHECK(fewer.dialogs.asked.at(0).message == Localisation::Txt_FichAPlusDeNb1ers());
+    CHECK(fewer.files.entries.at(path).content == sixPrimes);
 
     for (const bool load : {false, true}) {
         for (const char* name :
@@ -121,7 +128,7 @@ TEST_CASE(
     list.EditFieldFin.Text = "8000";
     list.PushButtonCalcPrems.UserPressed();
     world.Settle();
-    CHECK(list.PushButtonFichier.HelpTag() == unbound + lost + "1 004");
+    CHECK(list.PushButtonFichier.HelpTag() == unbound + lost + "1 003");
     world.files.known[KnownFolder::Home] = "/home/user";
     world.Click(false, false, world.files.At("/home/user/new.txt"));
     CHECK(list.PushButtonFichier.HelpTag() == Localisation::Btn_ChangFich_HT());
@@ -129,29 +136,4 @@ TEST_CASE(
     world.dialogs.Expect(DialogButton::Cancel); // let go of, but still there
     world.Click(false, false, std::nullopt);
     CHECK(list.PushButtonFichier.HelpTag() == unbound);
-}
-
-TEST_CASE("A bound file that has vanished counts as none, and a click offers to save") {
-    Binding world(true);
-    world.files.entries.erase(path);
-    world.Click(false, false, world.files.At(path));
-    CHECK(world.files.entries.at(path).content.starts_with("Nombre de Nombres Premiers : 4\n"));
-}
-
-TEST_CASE("The menu commands open the list and work with a file bound and without") {
-    for (const bool bound : {false, true}) {
-        Binding world(bound);
-        world.Main().BevelButtonListe.UserPressed();
-        world.loop.Advance(1);
-        const MenuBar& menus = *world.program->app.GetMenuBar();
-        world.dialogs.ExpectFile(world.files.At(path));
-        menus.Find("FichChoixFichNbP")->UserChose(world.program->app);
-        CHECK(world.Main().BevelButtonListe.Value());
-        CHECK(world.Main().Nbres_Premiers.Back() == 13);
-        world.files.AddFile("/home/user/other.txt", sixPrimes + "17\n");
-        world.dialogs.ExpectFile(world.files.At("/home/user/other.txt"));
-        menus.Find("FichSauvFichNbP")->UserChose(world.program->app);
-        CHECK(world.files.entries.at("/home/user/other.txt").content ==
-              "Nombre de Nombres Premiers : 6\n2\t3\t5\t7\t11\t13\n");
-    }
 }

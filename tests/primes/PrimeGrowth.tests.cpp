@@ -90,7 +90,11 @@ TEST_CASE("Twenty million numbers are decided as by the plain sieve") {
     RunFixture run;
     CHECK(NbresPremCalc(table, 20'000'000, run.untimed) == primes.back());
     CHECK(Entries(table) == primes);
+    for (std::size_t rank = 0; rank < primes.size(); ++rank) {
+        REQUIRE(table[static_cast<std::int32_t>(rank)] == primes[rank]);
+    }
     CHECK(table.IsConsecutive());
+    CHECK(table.Bytes() < primes.size() + 150'000); // a byte each, and the chunk that is begun
 }
 
 TEST_CASE("Round 2^32, and where the ranks end, the primes are right") {
@@ -169,22 +173,16 @@ TEST_CASE("A stop at any look leaves a valid shorter table, from which the next 
             NbresPremCalc(table, limit, again.untimed);
             CHECK(Entries(table) == expected);
         }
-    }
-}
-
-TEST_CASE("With the stop flag raised before, nothing is added unless no division comes first") {
-    std::vector<Numbers> tables = oddTables;
-    tables.push_back(firstFour);
-    for (const Numbers& start : tables) {
-        for (const std::uint64_t limit : {0U, 100U, 5'000'000U}) {
-            Numbers expected = start;
-            std::int64_t divisions = 0;
-            Reference::NbresPremCalc(expected, limit, divisions);
+        for (const std::uint64_t unreached :
+            {0U, 100U, 5'000'000U}) { // raised before: no division comes first
+            Numbers undivided = start;
+            std::int64_t none = 0;
+            Reference::NbresPremCalc(undivided, unreached, none);
             TableOf table(start);
             RunFixture run;
             run.ArretUrg = true;
-            CHECK(NbresPremCalc(table, limit, run.untimed) == expected.back());
-            CHECK(Entries(table) == expected);
+            CHECK(NbresPremCalc(table, unreached, run.untimed) == undivided.back());
+            CHECK(Entries(table) == undivided);
             CHECK((start != firstFour || run.untimed.End() == RunEnd::Stopped));
         }
     }

@@ -31,75 +31,67 @@ struct OpenList {
 
 } // namespace
 
-TEST_CASE("Six primes stand on each line, bare, with their count and the last of all") {
-    OpenList few(7);
-    WinNbresPremiers& list = few.List();
-    CHECK(list.TxtAreaListeNbres1ers.Text() == "\t2\t3\t5\t7");
-    CHECK(few.Range() == "1-4");
-    CHECK(list.EditFieldFin.Text() == "7");
-    CHECK(list.EditFieldFin.SelLength() == 1);
-    CHECK_FALSE(list.ProgressWheel2.Visible());
-    CHECK(few.Show("9", "9", true) == "1-4");
-    OpenList many(10000);
-    CHECK(many.Show("1219", "0", false) == "1219-1229");
-    CHECK(many.List().TxtAreaListeNbres1ers.Text() ==
-          "\t9883\t9887\t9901\t9907\t9923\t9929\n\t9931\t9941\t9949\t9967\t9973");
-    CHECK(many.List().StaticTextNbNbre1ers.Text() == "1 229 nombres premiers");
-}
-
 TEST_CASE("A range is cut to 2000 primes at the end that the Return key chooses, and to the table") {
     OpenList open(104729); // 10,000 primes
     CHECK(open.Range() == "1-2000");
-    CHECK_FALSE(open.List().EditFieldAffDu.UserPressedKey("5"));
-    struct Case {
+    const struct {
         const char* first;
         const char* last;
         bool returnInFirst;
         const char* shown;
-    };
-    for (const Case& entered : {Case{"5000", "1", true, "5000-6999"}, {"1", "9000", false, "7001-9000"},
-             {"1", "9000", true, "1-2000"}, {"20000", "1", true, "8001-10000"},
-             {"1", "0", false, "8001-10000"}, {"1", "", false, "8001-10000"},
-             {"9500", "99999", true, "9500-10000"}, {"10000000000000000000", "1e30", true, "8001-10000"},
-             {"-5", "-9223372036854775809", true, "1-2000"}, {"3 000", "3 010", true, "3000-3010"}}) {
+    } rows[] = {{"5000", "1", true, "5000-6999"}, {"1", "9000", false, "7001-9000"},
+        {"1", "9000", true, "1-2000"}, {"20000", "1", true, "8001-10000"}, {"1", "", false, "8001-10000"},
+        {"9500", "99999", true, "9500-10000"}, {"10000000000000000000", "1e30", true, "8001-10000"},
+        {"-5", "-9223372036854775809", true, "1-2000"}, {"3 000", "3 010", true, "3000-3010"}};
+    for (const auto& entered : rows) {
         CHECK(open.Show(entered.first, entered.last, entered.returnInFirst) == entered.shown);
     }
+    OpenList many(10000);
+    CHECK(many.Show("1219", "0", false) == "1219-1229");
+    CHECK(many.List().TxtAreaListeNbres1ers.Text() ==
+          "\t9883\t9887\t9901\t9907\t9923\t9929\n\t9931\t9941\t9949\t9967\t9973");
 }
 
 TEST_CASE("A run extends the table to the limit and shows its end; an empty limit adds one prime") {
     OpenList open(7);
     WinNbresPremiers& list = open.List();
-    list.EditFieldFin.Text = "20 000";
-    CHECK(list.EditFieldFin.UserPressedKey(Chr(3)));
-    CHECK(list.ProgressWheel2.Visible());
-    CHECK_FALSE(list.PushButtonCalcPrems.Enabled());
-    CHECK_FALSE(open.world.Main().PopupMenuLg.Enabled());
-    open.world.Settle();
-    CHECK(list.EditFieldFin.Text() == "19997"); // 20001 is the last number tested
+    const auto calculate = [&](const char* limit) {
+        list.EditFieldFin.Text = limit;
+        list.PushButtonCalcPrems.UserPressed();
+        open.world.Settle();
+        return list.EditFieldFin.Text();
+    };
+    CHECK(calculate("1000000000000") == "Nb Max = 999 999 999 999");
+    CHECK(calculate("20 000") == "19997"); // 20001 is the last number tested
     CHECK(open.Range() == "263-2262");
-    CHECK_FALSE(list.ProgressWheel2.Visible());
-    CHECK(open.world.program->fncts.DrapMenu);
-    list.EditFieldFin.Text = "";
-    list.PushButtonCalcPrems.UserPressed();
-    open.world.Settle();
-    CHECK(list.EditFieldFin.Text() == "20011");
+    CHECK(calculate("") == "20011");
     CHECK(list.StaticTextNbNbre1ers.Text() == "2 263 nombres premiers");
-}
-
-TEST_CASE("A limit above the largest number is refused in place, and a click during a run beeps") {
-    OpenList open(7);
-    WinNbresPremiers& list = open.List();
     const int beeps = open.world.sounds.beeps;
-    list.EditFieldFin.Text = "1000000000000";
-    list.PushButtonCalcPrems.UserPressed();
-    CHECK(list.EditFieldFin.Text() == "Nb Max = 999 999 999 999");
-    CHECK_FALSE(open.world.Main().CalculEnCours);
-    open.world.Main().CalculEnCours = true;
+    open.world.Main().CalculEnCours = true; // a click during a run beeps
     list.PushButtonCalcPrems.Push();
     open.world.Main().PushButtDecomposer_Action(open.world.Main().PushButtDecomposer);
-    CHECK(open.world.sounds.beeps == beeps + 3);
+    CHECK(open.world.sounds.beeps == beeps + 2);
     CHECK(list.ThreadCalcPrems.State() == Thread::notRunning);
     open.world.Main().CalculEnCours = false;
+}
+
+TEST_CASE(
+    "Closing takes over the place, if whole on the screen, and mends 0 primes per line with a message") {
+    TestWorld world;
+    const std::array<std::array<std::int16_t, 4>, 2> rows = {{{761, 38, 520, 400}, {100, 38, 520, 400}}};
+    for (const auto& stored : rows) {
+        world.program->app.WinNBP = stored;
+        world.Main().BevelButtonListe.UserPressed();
+        WinNbresPremiers& list = world.program->winNbresPremiers();
+        CHECK(list.Left == (stored[0] == 761 ? 1280 - 510 : 100));
+        list.UserMoved(120, 90);
+        world.Type(list.EditFieldNbNbresLigne, "0");
+        world.dialogs.Expect(DialogButton::Action);
+        list.UserClosed();
+        world.loop.Advance(1);
+        CHECK(world.Main().NbreNbPparLigne == 10);
+        CHECK(world.program->app.WinNBP[0] == 120);
+    }
 }
 
 TEST_CASE("A stopped run leaves the list as it was; the next prime brings it up to date") {
@@ -108,16 +100,13 @@ TEST_CASE("A stopped run leaves the list as it was; the next prime brings it up 
     list.EditFieldFin.Text = "999999999999";
     open.world.memory.available = std::uint64_t{1} << 40;
     list.PushButtonCalcPrems.UserPressed();
-    open.world.loop.Advance(250);
-    CHECK_FALSE(list.ProgressWheel2.HelpTag().empty());
-    CHECK(list.ProgressWheel2.Maximum == 999999999999);
+    CHECK_FALSE(open.world.Main().PopupMenuLg.Enabled());
     CHECK(list.UserPressedKey(Chr(27)));
-    CHECK_FALSE(list.UserPressedKey(Chr(9)));
     open.world.Settle();
     WinMain& window = open.world.Main();
     CHECK(list.TxtAreaListeNbres1ers.Text() == "\t2\t3\t5\t7");
     CHECK(list.EditFieldFin.Text() == std::to_string(window.Nbres_Premiers.Back()));
-    CHECK(list.ProgressWheel2.HelpTag().empty());
+    CHECK(open.world.program->fncts.DrapMenu);
     CHECK(list.Ind_DerPrem == window.Nbres_Premiers.UpperBound());
     list.FaireListe(false, false);
     CHECK(list.StaticTextNbNbre1ers.Text() == "4 nombres premiers");
@@ -136,39 +125,4 @@ TEST_CASE("A factorisation that found primes brings the open list up to date onc
     open.world.Type(open.world.Main().EditFieldNbre, "999999999989"); // gives up
     CHECK(open.world.Main().Nbres_Premiers.UpperBound() > 5);
     CHECK(open.List().StaticTextNbNbre1ers.Text() == "5 nombres premiers");
-}
-
-TEST_CASE("The window comes to its stored place if that is whole on the screen, else to the right edge") {
-    TestWorld world;
-    const auto place = [&](std::array<std::int16_t, 4> stored) {
-        world.program->app.WinNBP = stored;
-        world.Main().BevelButtonListe.UserPressed();
-        WinNbresPremiers& list = world.program->winNbresPremiers();
-        const std::array<int, 4> placed = {list.Left, list.Top, list.Width, list.Height};
-        world.Main().BevelButtonListe.UserPressed();
-        world.loop.Advance(1);
-        return placed;
-    };
-    CHECK(place({100, 38, 520, 400}) == std::array{100, 38, 520, 400});
-    const std::array byDefault{1280 - 510, 50, 520, 540};
-    CHECK(place({-1, -1, 500, 540}) == byDefault);
-    CHECK(place({100, 37, 520, 400}) == byDefault);
-    CHECK(place({100, 38, 519, 400}) == byDefault);
-    CHECK(place({761, 38, 520, 400}) == byDefault);
-    CHECK(place({100, 38, 520, 987}) == byDefault);
-}
-
-TEST_CASE("Closing takes over the place and the primes per line; 0 of them is mended with a message") {
-    TestWorld world;
-    world.Main().BevelButtonListe.UserPressed();
-    WinNbresPremiers& list = world.program->winNbresPremiers();
-    list.UserMoved(120, 90);
-    list.UserResized(520, 700);
-    CHECK(list.TxtAreaListeNbres1ers.Height() == 456 + 700 - 585);
-    CHECK(list.PushButtonFichier.Top() == 550 + 700 - 585);
-    world.Type(list.EditFieldNbNbresLigne, "0");
-    world.dialogs.Expect(DialogButton::Action);
-    list.UserClosed();
-    CHECK(world.Main().NbreNbPparLigne == 10);
-    CHECK(world.program->app.WinNBP == std::array<std::int16_t, 4>{120, 90, 520, 700});
 }

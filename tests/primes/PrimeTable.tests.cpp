@@ -54,31 +54,6 @@ TEST_CASE("A table gives back any sequence, by rank and in passing, also after i
     }
 }
 
-TEST_CASE("Primes that come by their gaps stand as if they had come one by one") {
-    const auto primes = Reference::Primes(2'000'000);
-    std::vector<std::uint8_t> halfGaps;
-    for (std::size_t i = 4; i < primes.size(); ++i) {
-        halfGaps.push_back(static_cast<std::uint8_t>((primes[i] - primes[i - 1]) / 2));
-    }
-    std::mt19937_64 random(2);
-    for (const std::uint64_t largestPortion : {3U, 300U, 200'000U}) {
-        PrimeTable table;
-        for (const std::uint64_t first : {2U, 3U, 5U, 7U}) {
-            REQUIRE(table.AppendNextPrime(first));
-        }
-        std::span<const std::uint8_t> left = halfGaps;
-        while (!left.empty()) {
-            const auto portion = std::min<std::size_t>(left.size(), random() % largestPortion);
-            REQUIRE(table.AppendNextPrimes(left.first(portion)) == static_cast<std::int32_t>(portion));
-            left = left.subspan(portion);
-        }
-        CheckSame(table, primes);
-        CHECK(table.IsConsecutive());
-        CHECK(table.ConsecutiveBack() == primes.back());
-        CHECK(table.Bytes() < primes.size() + 150'000); // a byte each, and the chunk that is begun
-    }
-}
-
 TEST_CASE("Entries that a file gave are not taken for primes until they have been compared") {
     TableOf table;
     CHECK_FALSE(table.IsConsecutive());
