@@ -555,6 +555,10 @@ This version was built for ¿%.</translation>
         <source>…</source>
         <translation>…</translation>
     </message>
+    <message id="Localisation.Txt_Avancement">
+        <source>¿% % · Échap pour arrêter</source>
+        <translation>¿%% · Esc to stop</translation>
+    </message>
     <message id="Localisation.Txt_CalculArrete">
         <source>Calcul arrêté</source>
         <translation>Calculation stopped</translation>
@@ -589,6 +593,10 @@ Do you want to save your primes in this file?</translation>
         <source>Copié : ¿%</source>
         <extracomment>For screen readers, with what is on the clipboard.</extracomment>
         <translation>Copied: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_EchapStoppe">
+        <source>Échap pour arrêter</source>
+        <translation>Esc to stop</translation>
     </message>
     <message id="Localisation.Txt_EnBase">
         <source>en base </source>
@@ -673,6 +681,10 @@ from base ¿% = ¿% </translation>
         <source>Nombre de Nombres Premiers</source>
         <extracomment>The first line of a prime file; &quot; : &quot; and a number follow.</extracomment>
         <translation>Number of Primes</translation>
+    </message>
+    <message id="Localisation.Txt_NbreEnAttente">
+        <source>Le nombre saisi attend la fin du calcul.</source>
+        <translation>The number typed waits for the run to end.</translation>
     </message>
     <message id="Localisation.Txt_NbrePrecedent">
         <source>Correspond au nombre précédent.</source>

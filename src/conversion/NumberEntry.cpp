@@ -8,6 +8,12 @@
 
 namespace tessarolyne {
 
+namespace {
+
+constexpr int waitToBeSeen = 500; // milliseconds
+
+} // namespace
+
 // Whether a field shows one of the two texts that stand for a number there is none of.
 bool WinMain::IsErrorText(std::string_view text) const {
     return text == Localisation::Txt_ErrNbre() || text == Localisation::Txt_ErrBase();
@@ -91,12 +97,18 @@ void WinMain::TimerTempo_Action(Timer& timer) {
     // A dialog counts too: a calculation that began under a file chooser would race the load behind it.
     if (CalculEnCours || app.HasModalStep()) {
         timer.Mode = 1;
+        if (CalculEnCours && ++turnsWaited_ * timer.Period >= waitToBeSeen && !StaticTextEnAttente.Visible) {
+            StaticTextEnAttente.Visible = true;
+            fncts.Announce(StaticTextEnAttente.Text);
+        }
         return;
     }
     ChangeNbre();
 }
 
 void WinMain::ChangeNbre() {
+    turnsWaited_ = 0;
+    StaticTextEnAttente.Visible = false;
     ConvNbreBaseD();
     const std::string decimal = WithoutBlanks(EditFieldNbre.Text());
     if (!decimal.empty() && !IsNumeric(decimal)) {

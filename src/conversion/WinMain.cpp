@@ -23,7 +23,8 @@ WinMain::WinMain(Program& owner)
     : ProgramWindow(owner, "Tessarolyne", 550, 594, WindowFrame{}),
       TimerTempo(owner.services.loop, recalculationDelay), TimerQuit(owner.services.loop, quitPeriod),
       TimerThr(owner.services.loop, handOverPeriod), TimerVerMaJ(owner.services.loop, handOverPeriod),
-      SocketVerMaJ(owner.services.http), Progress(owner.services.loop, Nbres_Premiers, CheckBoxFormatAuto),
+      SocketVerMaJ(owner.services.http),
+      Progress(owner.services.loop, owner.services.desktop, Nbres_Premiers, CheckBoxFormatAuto),
       typingPause_(owner.services.loop, typingPause), slowCheck_(owner.services.loop, moment),
       ThreadDecPrems(owner.services.loop) {
     SetInitialState();
@@ -66,6 +67,11 @@ void WinMain::SetInitialState() {
     PushButtDecomposer.Caption = Localisation::Btn_Decomposer();
     PushButtDecomposer.Enabled = false;
     ProgressWheel1.Visible = false;
+    StaticTextAvance.Visible = false;
+    StaticTextAvance.TextAlignment = Alignment::Right;
+    StaticTextEnAttente.Visible = false;
+    StaticTextEnAttente.Text = Localisation::Txt_NbreEnAttente();
+    StaticTextEnAttente.TextAlignment = Alignment::Right;
     for (const char* code : {"en", "fr", "ch be"}) {
         PopupMenuLg.AddRow(code);
     }

@@ -92,6 +92,9 @@ public:
     Label StaticTextEnBase10{*this, "StaticTextEnBase10", {368, 15, 104, 20}, lockLeftTop, TabStop(12)};
     CheckBox CheckBoxFormatAuto{*this, "CheckBoxFormatAuto", {366, 34, 128, 20}, lockLeftTop, NoTabStop(13)};
     ProgressWheel ProgressWheel1{*this, "ProgressWheel1", {514, 14, 16, 16}, lockTopRight, NoTabStop(16)};
+    // How far a calculation is, above the wheel; and below the number that one typed waits for its end.
+    Label StaticTextAvance{*this, "StaticTextAvance", {300, 0, 230, 14}, lockTopRight, NoTabStop(16)};
+    Label StaticTextEnAttente{*this, "StaticTextEnAttente", {36, 36, 320, 18}, lockLeftTop, NoTabStop(16)};
     BlockingOverlay LabBlockUI{*this, fncts, TabStop(17)};
 
     Timer TimerTempo;
@@ -293,6 +296,7 @@ private:
     bool startIsOver_ = false; // there are settings to save; unlike App.initProg it stays up
     bool calculationHoldsMenu_ = false;
     bool quitQuestionIsUp_ = false;
+    int turnsWaited_ = 0;           // of TimerTempo, by a number for the end of a calculation
     bool recalculationDue_ = false; // a change of the number that a quit under way has put off
     // ProgressWheel1 turns as long as either holds.
     bool factorsTakeTime_ = false;

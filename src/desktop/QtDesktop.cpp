@@ -3,6 +3,7 @@
 #include "desktop/QtText.h"
 #include "platform/EventLoop.h"
 
+#include <QApplication>
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QElapsedTimer>
@@ -87,6 +88,12 @@ void QtDesktop::OpenAddress(const std::string& address, std::function<void()> re
 bool QtDesktop::OpenFile(const FolderItem& item) {
     const QString path = QFile::decodeName(QByteArray::fromStdString(item.NativePath()));
     return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
+void QtDesktop::AskForAttention() {
+    if (QApplication::activeWindow() == nullptr) {
+        QApplication::alert(nullptr); // all windows: a taskbar shows them as one or each
+    }
 }
 
 } // namespace tessarolyne

@@ -18,6 +18,7 @@ public:
     // Web and mail addresses only.
     void OpenAddress(const std::string& address, std::function<void()> refused) override;
     bool OpenFile(const FolderItem& item) override;
+    void AskForAttention() override;
 
 private:
     EventLoop& loop_;

@@ -24,6 +24,10 @@ public:
     virtual void OpenAddress(const std::string& address, std::function<void()> refused) = 0;
     // The same for a file. False if nothing takes it.
     virtual bool OpenFile(const FolderItem& item) = 0;
+
+    // Has the desktop point at the program, in the taskbar or the dock, until the user comes back to it.
+    // Nothing if the user is there.
+    virtual void AskForAttention() = 0;
 };
 
 } // namespace tessarolyne

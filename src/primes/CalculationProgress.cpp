@@ -2,9 +2,14 @@
 
 #include "conversion/NumberFormat.h"
 #include "platform/CheckBox.h"
+#include "platform/Desktop.h"
+#include "platform/EventLoop.h"
+#include "platform/Label.h"
 #include "platform/ProgressWheel.h"
 #include "platform/Text.h"
 #include "primes/PrimeTable.h"
+#include "ui/FracTexte.h"
+#include "ui/Localisation.h"
 
 #include <algorithm>
 #include <string>
@@ -15,18 +20,23 @@ namespace {
 
 constexpr int lookPeriod = 250;      // milliseconds
 constexpr int looksBetweenWords = 4; // speech takes its time
+constexpr int looksInASecond = 1000 / lookPeriod;
+constexpr int longRun = 10'000; // milliseconds; the user may have gone on to something else
 constexpr const char* noBreakSpace = "\u00A0";
 
 } // namespace
 
-CalculationProgress::CalculationProgress(EventLoop& loop, const PrimeTable& table, const CheckBox& formatAuto)
-    : table_(table), formatAuto_(formatAuto), timer_(loop, lookPeriod) {
+CalculationProgress::CalculationProgress(
+    EventLoop& loop, Desktop& desktop, const PrimeTable& table, const CheckBox& formatAuto)
+    : loop_(loop), desktop_(desktop), table_(table), formatAuto_(formatAuto), timer_(loop, lookPeriod) {
     timer_.Action = [this] { Tell(); };
 }
 
-void CalculationProgress::Follow(ProgressWheel& wheel, std::uint64_t goal) {
+void CalculationProgress::Follow(ProgressWheel& wheel, Label& label, std::uint64_t goal) {
     End();
     wheel_ = &wheel;
+    label_ = &label;
+    begun_ = loop_.Milliseconds();
     Goal = goal;
     looks_ = 0;
     timer_.Mode = 2;
@@ -41,7 +51,20 @@ void CalculationProgress::End() {
         wheel_->Value = 0;
         wheel_->Maximum = 0;
         wheel_ = nullptr;
+        label_->Visible = false;
+        if (loop_.Milliseconds() - begun_ > longRun) {
+            desktop_.AskForAttention();
+        }
     }
+}
+
+// In whole per cents; a hundred is the end's alone.
+void CalculationProgress::TellBeside(std::uint64_t reached, std::uint64_t goal) {
+    constexpr std::uint64_t most = 99;
+    label_->Text = goal == 0 ? Localisation::Txt_EchapStoppe()
+                             : ReplaceAll(Localisation::Txt_Avancement(), placeForValue,
+                                   std::to_string(std::min(reached * 100 / goal, most)));
+    label_->Visible = true;
 }
 
 void CalculationProgress::Tell() {
@@ -57,6 +80,9 @@ void CalculationProgress::Tell() {
     if (looks_++ % looksBetweenWords == 0) {
         wheel_->Spoken = words;
         wheel_->Value = goal == 0 ? 0 : static_cast<std::int64_t>(reached);
+    }
+    if (looks_ >= looksInASecond) {
+        TellBeside(reached, goal);
     }
 }
 

@@ -50,7 +50,7 @@ void WinMain::RunFactorsOnThread(std::uint64_t n, bool isAskedFor) {
     Write(factors_, Localisation::Txt_Attente());
     HoldMenuForCalculation(true);
     ThrPn1 = n;
-    Progress.Follow(ProgressWheel1, 0);
+    Progress.Follow(ProgressWheel1, StaticTextAvance, 0);
     ThreadDecPrems.Start();
 }
 

@@ -105,7 +105,7 @@ void WinNbresPremiers::PushButtonCalcPrems_Action(PushButton&) {
     ProgressWheel2.Visible = true;
     main.HoldMenuForCalculation(true);
     main.ThrPn1 = limit;
-    main.Progress.Follow(ProgressWheel2, limit);
+    main.Progress.Follow(ProgressWheel2, StaticTextAvance, limit);
     main.NoteRunBegins(true);
     ThreadCalcPrems.Start();
 }

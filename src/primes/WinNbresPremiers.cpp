@@ -53,6 +53,8 @@ void WinNbresPremiers::SetInitialState() {
     StaticTextAffAu.Text = Localisation::StTextAffAu();
     StaticTextAffAu.TextAlignment = Alignment::Center;
     StaticTextEme.Text = Localisation::StTextEme();
+    StaticTextAvance.Visible = false;
+    StaticTextAvance.TextAlignment = Alignment::Right;
     StaticTextNbNbre1ers.Text = "… Nombres Premiers …";
     TxtAreaListeNbres1ers.ReadOnly = true;
     TxtAreaListeNbres1ers.TextSize = 12;

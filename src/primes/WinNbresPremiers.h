@@ -38,6 +38,8 @@ public:
         *this, "EditFieldNbNbresLigne", {313, 549, 45, 22}, lockRightBottom, TabStop(10)};
     PushButton PushButtonFichier{
         *this, "PushButtonFichier", {370, 550, 130, 20}, lockRightBottom, TabStop(11)};
+    // How far a run is, above the wheel.
+    Label StaticTextAvance{*this, "StaticTextAvance", {270, 0, 230, 14}, lockTopRight, NoTabStop(12)};
     BlockingOverlay LabBlockUI{*this, fncts, NoTabStop(12)};
 
     Thread ThreadCalcPrems;

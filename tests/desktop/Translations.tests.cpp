@@ -208,6 +208,7 @@ TEST_CASE(
         }
         WinNbresPremiers& list = world.program->winNbresPremiers();
         list.Show();
+        list.StaticTextAvance.Text = "9" + Localisation::Txt_Avancement();
         list.StaticTextNbNbre1ers.Text = "50 000 000" + Localisation::Txt_NombresPremiers();
         for (const auto& caption :
             {Localisation::Btn_ChoixFich(), Localisation::Btn_ChangFich(), Localisation::Btn_SauvFich()}) {

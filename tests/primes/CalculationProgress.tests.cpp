@@ -21,13 +21,17 @@ TEST_CASE("A run's wheel tells its last prime four times a second to the eye, on
             list.push_back(now);
         }
     };
+    Label& label = window.StaticTextAvance;
+    std::vector<std::string> beside{""};
+    const Connection besideIt =
+        label.Changed.Connect([&] { note(beside, label.Visible ? label.Text() : std::string()); });
     const Connection connection = wheel.Changed.Connect([&] {
         note(seen, wheel.HelpTag());
         note(heard, wheel.Spoken());
         note(values, wheel.Value());
     });
 
-    window.Progress.Follow(wheel, 1200);
+    window.Progress.Follow(wheel, label, 1200);
     for (const std::uint64_t limit : {100U, 1000U, 1100U, 1150U, 2000U, 2100U}) {
         world.loop.Advance(249);
         window.NbresPremCalc(limit, false);
@@ -45,4 +49,39 @@ TEST_CASE("A run's wheel tells its last prime four times a second to the eye, on
     CHECK(heard == std::vector<std::string>{"", upTo + "101" + of, upTo + "1 200" + of, ""});
     CHECK(values == std::vector<std::int64_t>{0, 101, 1200, 0}); // never beyond the goal
     CHECK(wheel.Maximum == 0);
+    const std::string escape = " % · Échap pour arrêter";
+    CHECK(beside == std::vector<std::string>{"", "95" + escape, "99" + escape, ""});
+    CHECK(world.desktop.askedForAttention == 0);
+}
+
+TEST_CASE("After ten seconds the end calls the user back, whether or not it could be told how far it was") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    for (const int milliseconds : {10'000, 10'001}) {
+        window.Progress.Follow(window.ProgressWheel1, window.StaticTextAvance, 0);
+        world.loop.Advance(milliseconds);
+        CHECK(window.StaticTextAvance.Visible);
+        CHECK(window.StaticTextAvance.Text == "Échap pour arrêter");
+        CHECK(world.desktop.askedForAttention == 0);
+        window.Progress.End();
+        CHECK_FALSE(window.StaticTextAvance.Visible);
+    }
+    CHECK(world.desktop.askedForAttention == 1);
+}
+
+TEST_CASE("A number typed during a run says after half a second that it waits, and then is dealt with") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    window.CalculEnCours = true;
+    window.EditFieldNbre.UserFocused();
+    window.EditFieldNbre.UserTyped("7");
+    world.loop.Advance(499);
+    CHECK_FALSE(window.StaticTextEnAttente.Visible);
+    world.loop.Advance(1);
+    CHECK(window.StaticTextEnAttente.Visible);
+    CHECK(world.announcer.said == std::vector<std::string>{"Le nombre saisi attend la fin du calcul."});
+    window.CalculEnCours = false;
+    world.loop.Advance(20);
+    CHECK_FALSE(window.StaticTextEnAttente.Visible);
+    CHECK(window.TxtAreaLettres.Text().starts_with("sept"));
 }

@@ -135,7 +135,9 @@ public:
         opened.push_back(item.NativePath());
         return true;
     }
+    void AskForAttention() override { ++askedForAttention; }
 
+    int askedForAttention = 0;
     std::string clipboard;
     std::vector<std::string> opened;
     bool option = false;
