@@ -118,6 +118,134 @@
         <extracomment>For screen readers.</extracomment>
         <translation>Looking for an update</translation>
     </message>
+    <message id="Localisation.Alt_BevelButtListe">
+        <source>L</source>
+        <translation>L</translation>
+    </message>
+    <message id="Localisation.Alt_Btn_Annuler">
+        <source>A</source>
+        <translation>C</translation>
+    </message>
+    <message id="Localisation.Alt_Btn_CalcPrems">
+        <source>C</source>
+        <translation>C</translation>
+    </message>
+    <message id="Localisation.Alt_Btn_Decomposer">
+        <source>D</source>
+        <translation>C</translation>
+    </message>
+    <message id="Localisation.Alt_Btn_DejDon">
+        <source>J</source>
+        <translation>I</translation>
+    </message>
+    <message id="Localisation.Alt_Btn_FaireDon">
+        <source>F</source>
+        <translation>M</translation>
+    </message>
+    <message id="Localisation.Alt_Btn_Fich">
+        <source>F</source>
+        <translation>F</translation>
+    </message>
+    <message id="Localisation.Alt_Btn_Ok">
+        <source>O</source>
+        <translation>O</translation>
+    </message>
+    <message id="Localisation.Alt_ChBoxFormatAuto">
+        <source>O</source>
+        <translation>A</translation>
+    </message>
+    <message id="Localisation.Alt_ChBoxMajusc">
+        <source>M</source>
+        <translation>S</translation>
+    </message>
+    <message id="Localisation.Alt_GpBox1">
+        <source>B</source>
+        <translation>B</translation>
+    </message>
+    <message id="Localisation.Alt_GpBox2">
+        <source>P</source>
+        <translation>P</translation>
+    </message>
+    <message id="Localisation.Alt_GpBox3">
+        <source>C</source>
+        <translation>W</translation>
+    </message>
+    <message id="Localisation.Alt_Menu_Aide">
+        <source>A</source>
+        <translation>H</translation>
+    </message>
+    <message id="Localisation.Alt_Menu_AideAide">
+        <source>A</source>
+        <translation>H</translation>
+    </message>
+    <message id="Localisation.Alt_Menu_AppleApropos">
+        <source>P</source>
+        <translation>B</translation>
+    </message>
+    <message id="Localisation.Alt_Menu_AppleVMaJ">
+        <source>V</source>
+        <translation>U</translation>
+    </message>
+    <message id="Localisation.Alt_Menu_ChoiFichNbP">
+        <source>C</source>
+        <translation>C</translation>
+    </message>
+    <message id="Localisation.Alt_Menu_Edit">
+        <source>I</source>
+        <translation>E</translation>
+    </message>
+    <message id="Localisation.Alt_Menu_EditClear">
+        <source>E</source>
+        <translation>L</translation>
+    </message>
+    <message id="Localisation.Alt_Menu_EditCopy">
+        <source>O</source>
+        <translation>C</translation>
+    </message>
+    <message id="Localisation.Alt_Menu_EditCut">
+        <source>C</source>
+        <translation>T</translation>
+    </message>
+    <message id="Localisation.Alt_Menu_EditPaste">
+        <source>L</source>
+        <translation>P</translation>
+    </message>
+    <message id="Localisation.Alt_Menu_EditSelectAll">
+        <source>T</source>
+        <translation>A</translation>
+    </message>
+    <message id="Localisation.Alt_Menu_Fichier">
+        <source>F</source>
+        <translation>F</translation>
+    </message>
+    <message id="Localisation.Alt_Menu_Preferences">
+        <source>R</source>
+        <translation>E</translation>
+    </message>
+    <message id="Localisation.Alt_Menu_SauvFichNbP">
+        <source>E</source>
+        <translation>S</translation>
+    </message>
+    <message id="Localisation.Alt_Pref_ChBoxAnnonces">
+        <source>F</source>
+        <translation>A</translation>
+    </message>
+    <message id="Localisation.Alt_Pref_ChBoxAutoUpdt">
+        <source>V</source>
+        <translation>U</translation>
+    </message>
+    <message id="Localisation.Alt_StTextAffAu">
+        <source>U</source>
+        <translation>T</translation>
+    </message>
+    <message id="Localisation.Alt_StTextAffDu">
+        <source>A</source>
+        <translation>S</translation>
+    </message>
+    <message id="Localisation.Alt_Txt_EnBase">
+        <source>E</source>
+        <translation>I</translation>
+    </message>
     <message id="Localisation.BevButtDejDon_HT">
         <source>Cette fenêtre ne s&apos;ouvrira plus d&apos;elle-même.</source>
         <translation>This window won&apos;t open by itself any more.</translation>
@@ -281,6 +409,10 @@ Ctrl-click to edit the file in a text editor</translation>
     <message id="Localisation.EditFieldCentimes_HT">
         <source>Le centième de la devise au pluriel, à partir de 2 : son singulier est à droite.</source>
         <translation>The hundredth of the currency in the plural, for 2 and more: its singular is on the right.</translation>
+    </message>
+    <message id="Localisation.EditFieldChercher_HT">
+        <source>Entrée montre le nombre et son rang, ou ses voisins.</source>
+        <translation>Return shows the number and its rank, or its neighbours.</translation>
     </message>
     <message id="Localisation.EditFieldFin_HT">
         <source>Limite du calcul, et au repos le dernier nombre premier connu.</source>
@@ -528,6 +660,18 @@ English translation: the authors of Tessarolyne</translation>
         <source>Le mode d&apos;emploi en bref, les auteurs et la licence.</source>
         <translation>How to use the program in short, its authors and its license.</translation>
     </message>
+    <message id="Localisation.Touche_Ctrl">
+        <source>Ctrl+</source>
+        <translation>Ctrl+</translation>
+    </message>
+    <message id="Localisation.Touches_Liste">
+        <source>Ctrl+F cherche un nombre.</source>
+        <translation>Ctrl+F finds a number.</translation>
+    </message>
+    <message id="Localisation.Touches_Zones">
+        <source>F6 va d&apos;une commande à l&apos;autre, ↑ et ↓ aux nombres précédents.</source>
+        <translation>F6 goes from control to control, ↑ and ↓ to earlier numbers.</translation>
+    </message>
     <message id="Localisation.Txt_AideNonDispo">
         <source>L&apos;aide n&apos;est pas disponible pour ¿%.
 Veuillez lire “¿%”.
@@ -555,9 +699,17 @@ This version was built for ¿%.</translation>
         <source>…</source>
         <translation>…</translation>
     </message>
+    <message id="Localisation.Txt_AuDela">
+        <source>Au-delà de la liste, qui va jusqu&apos;à ¿%</source>
+        <translation>Beyond the list, which goes up to ¿%</translation>
+    </message>
     <message id="Localisation.Txt_Avancement">
         <source>¿% % · Échap pour arrêter</source>
         <translation>¿%% · Esc to stop</translation>
+    </message>
+    <message id="Localisation.Txt_AvecRang">
+        <source>¿% (n° ¿%)</source>
+        <translation>¿% (no. ¿%)</translation>
     </message>
     <message id="Localisation.Txt_CalculArrete">
         <source>Calcul arrêté</source>
@@ -589,10 +741,22 @@ Do you want to save your primes in this file?</translation>
         <source>centimes</source>
         <translation>cents</translation>
     </message>
+    <message id="Localisation.Txt_Chercher">
+        <source>Nombre à chercher dans la liste</source>
+        <translation>Number to find in the list</translation>
+    </message>
     <message id="Localisation.Txt_Copie">
         <source>Copié : ¿%</source>
         <extracomment>For screen readers, with what is on the clipboard.</extracomment>
         <translation>Copied: ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_CopierForme">
+        <source>Copier ¿%</source>
+        <translation>Copy ¿%</translation>
+    </message>
+    <message id="Localisation.Txt_CopierSansEsp">
+        <source>Copier sans espaces</source>
+        <translation>Copy without blanks</translation>
     </message>
     <message id="Localisation.Txt_EchapStoppe">
         <source>Échap pour arrêter</source>
@@ -695,6 +859,10 @@ from base ¿% = ¿% </translation>
         <source> nombres premiers</source>
         <extracomment>A number stands before it, 4 or more.</extracomment>
         <translation> primes</translation>
+    </message>
+    <message id="Localisation.Txt_NonPremier">
+        <source>¿% n&apos;est pas premier. Voisins : ¿%</source>
+        <translation>¿% is not prime. Neighbours: ¿%</translation>
     </message>
     <message id="Localisation.Txt_PasDeFichNbPremSelect">
         <source>Pas de fichier de nombres premiers sélectionné</source>

@@ -1,13 +1,18 @@
 // Menus, buttons and keys of the main window, and the one rule for what may be used when.
 
 #include "app/Program.h"
+#include "conversion/BaseDigits.h"
 #include "conversion/WinMain.h"
+#include "platform/Ascii.h"
 #include "platform/MenuBar.h"
+#include "platform/Numbers.h"
 #include "platform/Text.h"
 #include "primes/WinNbresPremiers.h"
 #include "ui/Localisation.h"
 
+#include <algorithm>
 #include <array>
+#include <utility>
 
 namespace tessarolyne {
 
@@ -16,6 +21,11 @@ namespace {
 // The menu items whose state the program decides.
 constexpr std::array commandItems = {
     "FichChoixFichNbP", "FichSauvFichNbP", "AppleAPropos", "AppleVMaJ", "AppleDon", "ApplePrefs", "AideAide"};
+
+// The factors' "x" among them, but no sign that errors and hints have.
+bool StandsInNumber(char c) {
+    return IsDigit(c) || IsLetter(c) || c == '.';
+}
 
 } // namespace
 
@@ -84,6 +94,50 @@ void WinMain::PushButtonPressPapBDest_Action(PushButton&) {
 
 void WinMain::PushButtonPressPapPrem_Action(PushButton&) {
     CopyToClipboard(TxtAreaDecomp1er.Text);
+}
+
+// In the order of sight. Ctrl, which is down then, must not pass for the key that resets the currencies.
+void WinMain::AddCopyShortcuts() {
+    const std::array<std::pair<PushButton*, TextControl*>, 4> copies = {
+        {{&PushButtonPressPapBOrg, &EditFieldBaseOrg}, {&PushButtonPressPapBDest, &EditFieldBaseDest},
+            {&PushButtonPressPapPrem, &TxtAreaDecomp1er}, {&PushButtonPressPapLettr, &TxtAreaLettres}}};
+    for (std::size_t i = 0; i < copies.size(); ++i) {
+        const auto [button, source] = copies[i];
+        const std::string digit = Str(static_cast<int>(i) + 1);
+        button->KeyTag = Localisation::Touche_Ctrl() + digit;
+        AddShortcut("Cmd+" + digit, [this, button = button, source = source] {
+            if (button->Enabled()) {
+                CopyToClipboard(source->Text);
+            }
+        });
+    }
+}
+
+// What fields with groups offer besides copying what is shown: the number without the blanks between its
+// groups and, in the bases that programs write with a prefix, with that.
+void WinMain::OfferCopies(TextControl& source, PopupMenu* baseMenu) {
+    source.ContextCommands = [this, &source, baseMenu] {
+        std::vector<TextControl::Command> commands;
+        const std::string bare = WithoutBlanks(source.Text());
+        if (bare.empty() || !std::all_of(bare.begin(), bare.end(), StandsInNumber)) {
+            return commands;
+        }
+        const auto offer = [&](const std::string& caption, const std::string& text) {
+            commands.push_back({caption, [this, text] { CopyToClipboard(text); }});
+        };
+        offer(Localisation::Txt_CopierSansEsp(), bare);
+        if (baseMenu == nullptr || !RadioButton09AZ[0].Value()) {
+            return commands;
+        }
+        const std::array<std::pair<int, const char*>, 3> prefixes = {{{16, "0x"}, {8, "0o"}, {2, "0b"}}};
+        for (const auto& [base, prefix] : prefixes) {
+            if (baseMenu->ListIndex == base - 2) {
+                const std::string text = prefix + BareDigits(bare, base, Alphabet());
+                offer(fncts.FracTexte(Localisation::Txt_CopierForme(), 1) + text, text);
+            }
+        }
+        return commands;
+    };
 }
 
 void WinMain::PushButtDecomposer_Action(PushButton&) {

@@ -79,14 +79,14 @@ void WinMain::EditFieldBaseOrg_TextChange(TextField&, ChangedBy who) {
     TakeAsSource(false, who);
 }
 
-bool WinMain::EditFieldNbre_KeyDown(TextField&, const std::string& key) {
+bool WinMain::EditFieldNbre_KeyDown(TextField& champ, const std::string& key) {
     StopOnEscape(key);
-    return false;
+    return RecallNumber(champ, key);
 }
 
-bool WinMain::EditFieldBaseOrg_KeyDown(TextField&, const std::string& key) {
+bool WinMain::EditFieldBaseOrg_KeyDown(TextField& champ, const std::string& key) {
     StopOnEscape(key);
-    return false;
+    return RecallNumber(champ, key);
 }
 
 void WinMain::TimerTempo_Action(Timer& timer) {

@@ -30,6 +30,7 @@ WinMain::WinMain(Program& owner)
     SetInitialState();
     NameForScreenReaders();
     ExplainControls(*this);
+    GiveAltKeys();
     BindEvents();
     BindCommandEvents();
     BindAnnouncements();
@@ -40,6 +41,8 @@ WinMain::WinMain(Program& owner)
 void WinMain::SetInitialState() {
     EditFieldNbre.Mask = "999999999999.99";
     EditFieldBaseOrg.TakeEdit = [this](TextEdit& edit) { return TakeBaseEdit(edit); };
+    FollowEdits(EditFieldNbre);
+    FollowEdits(EditFieldBaseOrg);
     EditFieldBaseDest.ReadOnly = true;
     EditFieldBaseOrg.ShowsAll = true;
     EditFieldBaseDest.ShowsAll = true;
@@ -82,6 +85,25 @@ void WinMain::SetInitialState() {
     }
 }
 
+// The captions without words are alike in all languages.
+void WinMain::GiveAltKeys() {
+    GroupBox1.AltKey = Localisation::Alt_GpBox1();
+    GroupBox1.AltTarget = &EditFieldBaseOrg;
+    GroupBox2.AltKey = Localisation::Alt_GpBox2();
+    GroupBox2.AltTarget = &TxtAreaDecomp1er;
+    GroupBoxLettre.AltKey = Localisation::Alt_GpBox3();
+    GroupBoxLettre.AltTarget = &TxtAreaLettres;
+    StaticTextEnBase10.AltKey = Localisation::Alt_Txt_EnBase();
+    StaticTextEnBase10.AltTarget = &EditFieldNbre;
+    CheckBoxFormatAuto.AltKey = Localisation::Alt_ChBoxFormatAuto();
+    CheckBoxMajusc.AltKey = Localisation::Alt_ChBoxMajusc();
+    CheckBoxTrUnion.AltKey = "-";
+    RadioButton09AZ[0].AltKey = "0";
+    RadioButton09AZ[1].AltKey = "Z";
+    BevelButtonListe.AltKey = Localisation::Alt_BevelButtListe();
+    PushButtDecomposer.AltKey = Localisation::Alt_Btn_Decomposer();
+}
+
 // Only for those that have no caption, or share one with another control of the window.
 void WinMain::NameForScreenReaders() {
     EditFieldNbre.AccessibleName = Localisation::Acc_Nombre() + Localisation::Txt_EnBase() + "10";
@@ -109,18 +131,27 @@ void WinMain::BindEvents() {
         numberField_.Forget();
         EditFieldNbre_GotFocus(EditFieldNbre);
     };
-    EditFieldNbre.LostFocus = [this] { EditFieldNbre_LostFocus(EditFieldNbre); };
+    EditFieldNbre.LostFocus = [this] {
+        NoteNumber(EditFieldNbre);
+        EditFieldNbre_LostFocus(EditFieldNbre);
+    };
     EditFieldNbre.TextChange = [this](ChangedBy who) { EditFieldNbre_TextChange(EditFieldNbre, who); };
     EditFieldNbre.KeyDown = [this](
                                 const std::string& key) { return EditFieldNbre_KeyDown(EditFieldNbre, key); };
     EditFieldBaseOrg.GotFocus = [this] { EditFieldBaseOrg_GotFocus(EditFieldBaseOrg); };
-    EditFieldBaseOrg.LostFocus = [this] { EditFieldBaseOrg_LostFocus(EditFieldBaseOrg); };
+    EditFieldBaseOrg.LostFocus = [this] {
+        NoteNumber(EditFieldBaseOrg);
+        EditFieldBaseOrg_LostFocus(EditFieldBaseOrg);
+    };
     EditFieldBaseOrg.TextChange = [this](
                                       ChangedBy who) { EditFieldBaseOrg_TextChange(EditFieldBaseOrg, who); };
     EditFieldBaseOrg.KeyDown = [this](const std::string& key) {
         return EditFieldBaseOrg_KeyDown(EditFieldBaseOrg, key);
     };
     PopupMenuBaseOrg.Change = [this] { PopupMenuBaseOrg_Change(PopupMenuBaseOrg); };
+    for (PopupMenu* menu : {&PopupMenuBaseOrg, &PopupMenuBaseDest}) {
+        menu->KeyDown = [this, menu](const std::string& key) { return PopupMenuBase_KeyDown(*menu, key); };
+    }
     PopupMenuBaseDest.Change = [this] { PopupMenuBaseDest_Change(PopupMenuBaseDest); };
     RadioButton09AZ[0].Action = [this] { RadioButton09AZ_Action(RadioButton09AZ[0], 0); };
     RadioButton09AZ[1].Action = [this] { RadioButton09AZ_Action(RadioButton09AZ[1], 1); };
@@ -146,6 +177,12 @@ void WinMain::BindCommandEvents() {
     PushButtonPressPapLettr.Action = [this] { PushButtonPressPapLettr_Action(PushButtonPressPapLettr); };
     BevelButtonListe.Action = [this] { BevelButtonListe_Action(BevelButtonListe); };
     PushButtDecomposer.Action = [this] { PushButtDecomposer_Action(PushButtDecomposer); };
+    AddCopyShortcuts();
+    OfferCopies(EditFieldNbre);
+    OfferCopies(EditFieldBaseOrg, &PopupMenuBaseOrg);
+    OfferCopies(EditFieldBaseDest, &PopupMenuBaseDest);
+    OfferCopies(TxtAreaDecomp1er);
+    EditFieldNbre.KeyTag = Localisation::Touches_Zones();
 }
 
 } // namespace tessarolyne

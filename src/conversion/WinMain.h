@@ -1,6 +1,8 @@
 #pragma once
 
 #include "conversion/NumberField.h"
+#include "conversion/NumberHistory.h"
+#include "conversion/TypedBase.h"
 #include "platform/BevelButton.h"
 #include "platform/CheckBox.h"
 #include "platform/GroupBox.h"
@@ -23,6 +25,7 @@
 
 #include <array>
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -162,6 +165,11 @@ public:
     bool CalculationHoldsMenu() const { return calculationHoldsMenu_; }
     // Takes DrapMenu down for a calculation on a thread; `false` gives it back.
     void HoldMenuForCalculation(bool hold);
+    // Puts the text on the clipboard, with the sound and the announcement that say so.
+    void CopyToClipboard(const std::string& texte);
+    // Adds the other ways to copy a number to the control's context menu; those of its base only with the
+    // menu that chooses one.
+    void OfferCopies(TextControl& source, PopupMenu* baseMenu = nullptr);
     // Stops a running calculation if the key is Escape, with the sound that says so.
     void StopOnEscape(const std::string& key);
     // A fixed diagnostic after a run that memory, or a failure, ended; nothing after any other.
@@ -192,6 +200,7 @@ public:
     void EditFieldBaseOrg_LostFocus(TextField& champ);
     void EditFieldBaseOrg_TextChange(TextField& champ, ChangedBy who);
     bool EditFieldBaseOrg_KeyDown(TextField& champ, const std::string& key);
+    bool PopupMenuBase_KeyDown(PopupMenu& menu, const std::string& key);
     void PopupMenuBaseOrg_Change(PopupMenu& menu);
     void PopupMenuBaseDest_Change(PopupMenu& menu);
     void RadioButton09AZ_Action(RadioButton& bouton, int index);
@@ -244,6 +253,7 @@ private:
     void BindUpdateCheck();
     void SetInitialState();
     void NameForScreenReaders();
+    void GiveAltKeys();
     void AddMenuHandlers();
     void AddHelpMenuHandlers();
     bool MenuItemIsEnabled(const char* name) const;
@@ -268,6 +278,11 @@ private:
     std::string_view Alphabet() const;
     std::string SourceDigits() const;
     bool TakeBaseEdit(TextEdit& edit);
+    std::string NumberIn(const TextField& champ);
+    void FollowEdits(TextField& champ);
+    void NoteNumber(const TextField& champ);
+    std::optional<std::string> NumberToRecall(const TextField& champ, bool earlier);
+    bool RecallNumber(TextField& champ, const std::string& key);
 
     void RunFactorsOnThread(std::uint64_t n, bool isAskedFor);
     void ReportFactorMismatch(std::uint64_t product, std::uint64_t n);
@@ -281,7 +296,7 @@ private:
 
     void RecomputeWords();
     void ResetCurrencies();
-    void CopyToClipboard(const std::string& texte);
+    void AddCopyShortcuts();
 
     NumberField numberField_{EditFieldNbre, fncts};
     void BindAnnouncements();
@@ -293,6 +308,11 @@ private:
     TextControl* outputOfInterest_ = &TxtAreaLettres;
     bool runIsAskedFor_ = false;
     std::int64_t runBegan_ = 0;
+    NumberHistory history_;
+    bool recalling_ = false;     // the edit under way brings an earlier number back
+    bool deleting_ = false;      // so did the user at the last edit
+    std::string beforeDeletion_; // the number that stood there before
+    TypedBase typedBase_;
     bool startIsOver_ = false; // there are settings to save; unlike App.initProg it stays up
     bool calculationHoldsMenu_ = false;
     bool quitQuestionIsUp_ = false;

@@ -1,5 +1,6 @@
 #include "desktop/AreaView.h"
 
+#include "desktop/ContextMenu.h"
 #include "desktop/FittingFont.h"
 #include "desktop/PlainEdit.h"
 #include "desktop/QtText.h"
@@ -30,6 +31,8 @@ AreaView::AreaView(TextArea& model, QWidget* parent)
     : ControlView(model, new PlainEdit(parent)), model_(model), edit_(static_cast<PlainEdit*>(Widget())) {
     edit_->setFocusPolicy(Qt::StrongFocus);
     edit_->setTabChangesFocus(true);
+    edit_->onMenu = [&model](
+                        QMenu* menu, const QContextMenuEvent& event) { OpenContextMenu(menu, model, event); };
     edit_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     edit_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     edit_->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);

@@ -71,7 +71,7 @@ ButtonView::ButtonView(Control& control, QAbstractButton* button, std::function<
 }
 
 void ButtonView::ShowCaption(const std::string& caption, int padding, int pixels) {
-    const QString text = LiteralCaption(caption);
+    const QString text = WithAltKey(caption, Model().AltKey);
     if (button_->text() != text) {
         button_->setText(text);
     }

@@ -83,6 +83,11 @@ void ControlView::ReadEnabled() {
     }
 }
 
+std::string ControlView::WithKeys(const std::string& text) const {
+    const std::string keys = control_.KeyTag;
+    return text.empty() || keys.empty() ? text + keys : text + "\r" + keys;
+}
+
 void ControlView::ReadCommon() {
     const Control* parent = control_.Parent();
     const QRect place(control_.Left - (parent == nullptr ? 0 : parent->Left()),
@@ -94,11 +99,12 @@ void ControlView::ReadCommon() {
     if (widget_->isHidden() == control_.Visible()) {
         widget_->setVisible(control_.Visible());
     }
-    const QString tip = PlainToolTip(control_.Explanation());
+    const QString tip = PlainToolTip(WithKeys(control_.Explanation()));
     if (widget_->toolTip() != tip) {
         widget_->setToolTip(tip);
     }
-    const QString description = WithLineFeeds(control_.Notice().empty() ? Description() : control_.Notice());
+    const QString description =
+        WithLineFeeds(control_.Notice().empty() ? WithKeys(Description()) : control_.Notice());
     if (widget_->accessibleDescription() != description) {
         widget_->setAccessibleDescription(description);
     }

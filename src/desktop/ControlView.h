@@ -28,6 +28,8 @@ public:
     // Reads the whole state from the model.
     void Update();
 
+    // Of a control with an AltTarget: its widget, to which Alt with the letter brings the keyboard.
+    virtual void LeadTo(QWidget*) {}
     // Where Tab or F6 arrives by keyboard: what is selected then.
     virtual void AboutToFocusByKey() {}
     // A key that the model left alone and that means more here than to Qt. True: used.
@@ -48,6 +50,7 @@ protected:
 private:
     void ReadCommon();
     void ReadEnabled();
+    std::string WithKeys(const std::string& text) const;
 
     Control& control_;
     QWidget* const widget_;

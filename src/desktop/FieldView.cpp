@@ -1,5 +1,6 @@
 #include "desktop/FieldView.h"
 
+#include "desktop/ContextMenu.h"
 #include "desktop/Dimmable.h"
 #include "desktop/FittingFont.h"
 #include "desktop/KeyText.h"
@@ -8,10 +9,12 @@
 #include "desktop/Replacement.h"
 
 #include <QClipboard>
+#include <QContextMenuEvent>
 #include <QFocusEvent>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
+#include <QMenu>
 
 #include <functional>
 #include <limits>
@@ -38,8 +41,14 @@ public:
     using Dimmable::Dimmable;
 
     std::function<bool(const QString&)> onInsert;
+    std::function<void(QMenu*, const QContextMenuEvent&)> onMenu;
 
 protected:
+    void contextMenuEvent(QContextMenuEvent* event) override {
+        if (QMenu* const menu = createStandardContextMenu()) {
+            onMenu(menu, *event);
+        }
+    }
     void keyPressEvent(QKeyEvent* event) override {
         if (IsCommandKey(*event)) {
             event->ignore();
@@ -78,6 +87,9 @@ FieldView::FieldView(TextField& model, QWidget* parent)
     TellLinesWhole();
     edit_->setFocusPolicy(Qt::StrongFocus);
     static_cast<LineEdit*>(edit_)->onInsert = [this](const QString& text) { return Inserted(text); };
+    static_cast<LineEdit*>(edit_)->onMenu = [&model](QMenu* menu, const QContextMenuEvent& event) {
+        OpenContextMenu(menu, model, event);
+    };
     QObject::connect(edit_, &QLineEdit::textChanged, edit_, [this] { Edited(); });
     QObject::connect(edit_, &QLineEdit::cursorPositionChanged, edit_, [this] { Selected(); });
     QObject::connect(edit_, &QLineEdit::selectionChanged, edit_, [this] { Selected(); });

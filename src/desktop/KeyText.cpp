@@ -6,6 +6,25 @@
 
 namespace tessarolyne {
 
+namespace {
+
+std::string MovingKey(int key) {
+    switch (key) {
+    case Qt::Key_PageUp:
+        return "\x0B";
+    case Qt::Key_PageDown:
+        return "\x0C";
+    case Qt::Key_Up:
+        return "\x1E";
+    case Qt::Key_Down:
+        return "\x1F";
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
 bool IsCommandKey(const QKeyEvent& event) {
 #ifdef Q_OS_MACOS
     constexpr auto commands =
@@ -29,6 +48,10 @@ std::string KeyText(const QKeyEvent& event) {
         return "\t";
     default:
         break;
+    }
+    const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    if (modifiers == Qt::NoModifier && !MovingKey(event.key()).empty()) {
+        return MovingKey(event.key());
     }
     // AltGr may come with Ctrl, from a remote desktop, and then types a character that can be seen. Ctrl with
     // a letter types a control character, which must not pass for Enter or Return.

@@ -34,8 +34,19 @@ int HeightOf(const QString& text, const QFont& font) {
     return text.isEmpty() ? 0 : QFontMetrics(font).boundingRect(space, flags, text).height();
 }
 
-QString WithoutMnemonic(const std::string& caption) {
-    return VisibleText(caption).replace(u'\n', u' ').replace(u'&', QLatin1String("&&"));
+// The caption with the first of its letters that no button before it has, to be pressed with Alt. Which
+// captions meet in a dialog is only known when it comes up.
+QString WithFreeLetter(const std::string& caption, QString& taken) {
+    const QString text = VisibleText(caption).replace(u'\n', u' ');
+    QString letter;
+    for (const QChar c : text) {
+        if (c.isLetter() && !taken.contains(c, Qt::CaseInsensitive)) {
+            letter = c;
+            break;
+        }
+    }
+    taken += letter;
+    return WithAltKey(FromQt(text), FromQt(letter));
 }
 
 } // namespace
@@ -95,9 +106,10 @@ QPlainTextEdit* MessageView::MakeText(const MessageDialog& dialog) {
 
 QWidget* MessageView::MakeButtons(const MessageDialog& dialog) {
     auto* const box = new QDialogButtonBox(this);
+    QString taken;
     const auto add = [&](const std::string& caption, QDialogButtonBox::ButtonRole role, DialogButton answer,
                          const std::string& helpTag) {
-        auto* const button = box->addButton(WithoutMnemonic(caption), role);
+        auto* const button = box->addButton(WithFreeLetter(caption, taken), role);
         button->setAutoDefault(false); // Return belongs to the action button alone
         const QString tag = VisibleText(helpTag);
         button->setToolTip(PlainToolTip(FromQt(tag)));

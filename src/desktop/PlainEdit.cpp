@@ -1,6 +1,9 @@
 #include "desktop/PlainEdit.h"
 
+#include <QContextMenuEvent>
+#include <QEvent>
 #include <QGuiApplication>
+#include <QMenu>
 #include <QMimeData>
 #include <QMouseEvent>
 #include <QTextDocumentFragment>
@@ -11,6 +14,14 @@ QMimeData* PlainEdit::createMimeDataFromSelection() const {
     auto* copied = new QMimeData;
     copied->setText(textCursor().selection().toPlainText());
     return copied;
+}
+
+void PlainEdit::contextMenuEvent(QContextMenuEvent* event) {
+    if (!onMenu) {
+        QPlainTextEdit::contextMenuEvent(event);
+    } else if (QMenu* const menu = createStandardContextMenu(event->pos())) {
+        onMenu(menu, *event);
+    }
 }
 
 // A whole drag may have gone by inside, and with it the button's release, which ends the scrolling that else

@@ -4,6 +4,8 @@
 
 #include <QPlainTextEdit>
 
+#include <functional>
+
 namespace tessarolyne {
 
 // A text of several lines whose copies hold the text alone, without the styles of the screen. Qt's own never
@@ -12,7 +14,11 @@ class PlainEdit final : public Dimmable<QPlainTextEdit> {
 public:
     using Dimmable::Dimmable;
 
+    // Shows the menu, which it takes, for a context menu's event; without it the menu is Qt's own.
+    std::function<void(QMenu*, const QContextMenuEvent&)> onMenu;
+
 protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
     QMimeData* createMimeDataFromSelection() const override;
     void mouseMoveEvent(QMouseEvent* event) override;
 };

@@ -1,13 +1,17 @@
 #include "desktop/PopupMenuView.h"
 
 #include "desktop/FittingFont.h"
+#include "desktop/KeyText.h"
 #include "desktop/QtText.h"
 
 #include <QAbstractItemView>
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QWheelEvent>
+
+#include <functional>
 
 namespace tessarolyne {
 
@@ -19,6 +23,14 @@ constexpr int boxPadding = 30;
 class ComboBox final : public QComboBox {
 public:
     using QComboBox::QComboBox;
+
+    // A key in the list that is open. True: used.
+    std::function<bool(const QKeyEvent&)> onListKey;
+
+    bool eventFilter(QObject* watched, QEvent* event) override {
+        return (event->type() == QEvent::KeyPress && onListKey(*static_cast<QKeyEvent*>(event))) ||
+               QComboBox::eventFilter(watched, event);
+    }
 
 protected:
     void wheelEvent(QWheelEvent* event) override {
@@ -85,6 +97,11 @@ PopupMenuView::PopupMenuView(PopupMenu& model, QWidget* parent)
     : ControlView(model, new ComboBox(parent)), model_(model), box_(static_cast<QComboBox*>(Widget())) {
     QAccessible::installFactory(MakeAccess); // once, however often it is called
     box_->setMaxVisibleItems(20);
+    static_cast<ComboBox*>(box_)->onListKey = [&model](const QKeyEvent& event) {
+        const std::string key = KeyText(event);
+        return !key.empty() && model.UserPressedKey(key);
+    };
+    box_->view()->installEventFilter(box_);
     QObject::connect(box_, &QComboBox::activated, box_,
         [this](int index) { TellModel([&] { model_.UserChose(index); }); });
     QObject::connect(box_, &QComboBox::currentIndexChanged, box_, [this] { TellRowChanged(box_); });
@@ -106,6 +123,9 @@ void PopupMenuView::Read() {
     }
     if (box_->currentIndex() != model_.ListIndex()) {
         box_->setCurrentIndex(model_.ListIndex());
+        if (box_->view()->isVisible()) {
+            box_->view()->setCurrentIndex(box_->model()->index(model_.ListIndex(), box_->modelColumn()));
+        }
     }
     const QFont font = FittingFont(*box_, box_->currentText(), model_.Width - boxPadding);
     if (box_->font() != font) {

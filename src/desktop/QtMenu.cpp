@@ -44,8 +44,9 @@ QAction::MenuRole QtRole(MenuRole role) {
 }
 
 // "&" marks the mnemonic only where a caption begins with it; elsewhere it is a character.
-QString MenuCaption(const std::string& caption) {
-    return caption.starts_with('&') ? ToQt(caption) : LiteralCaption(caption);
+QString MenuCaption(const MenuItem& item) {
+    const std::string& caption = item.Caption();
+    return caption.starts_with('&') ? ToQt(caption) : WithAltKey(caption, item.AltKey);
 }
 
 // Where the edit commands act: the control with the program's focus, though the menu has Qt's.
@@ -62,12 +63,12 @@ QtMenu::QtMenu(Application& application, MenuBar& menus) : application_(applicat
 QMenuBar* QtMenu::AddBar(WindowView& window) {
     bar_ = new QMenuBar(&window);
     for (const auto& model : menus_.Menus()) {
-        QMenu* const menu = bar_->addMenu(MenuCaption(model->Caption));
+        QMenu* const menu = bar_->addMenu(MenuCaption(*model));
         Fill(*menu, *model);
         connect(menu, &QMenu::aboutToShow, this, [this] { AboutToShow(); });
         connect(menu, &QMenu::aboutToHide, this, [this] { AboutToHide(); });
-        connections_.push_back(model->Changed.Connect(
-            [menu, item = model.get()] { menu->setTitle(MenuCaption(item->Caption)); }));
+        connections_.push_back(
+            model->Changed.Connect([menu, item = model.get()] { menu->setTitle(MenuCaption(*item)); }));
     }
     auto* const open = new QAction(bar_);
     open->setShortcut(QKeySequence(Qt::Key_F10));
@@ -103,7 +104,7 @@ QAction* QtMenu::Make(MenuItem& item, QObject& owner) {
 }
 
 void QtMenu::ReadCaption(const MenuItem& item, QAction& action) {
-    const QString caption = MenuCaption(item.Caption);
+    const QString caption = MenuCaption(item);
     if (action.text() != caption) {
         action.setText(caption);
     }

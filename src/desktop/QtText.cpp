@@ -75,6 +75,23 @@ QString LiteralCaption(const std::string& caption) {
     return ToQt(caption).replace(u'&', QLatin1String("&&"));
 }
 
+QString WithAltKey(const std::string& caption, const std::string& letter) {
+    const QString whole = ToQt(caption);
+    const QString key = ToQt(letter);
+    qsizetype found = -1;
+    for (qsizetype at = 0; !key.isEmpty() && (at = whole.indexOf(key, at, Qt::CaseInsensitive)) >= 0; ++at) {
+        const bool beginsWord = at == 0 || !whole.at(at - 1).isLetterOrNumber();
+        if (beginsWord || found < 0) {
+            found = at;
+        }
+        if (beginsWord) {
+            break;
+        }
+    }
+    const auto literal = [](QString part) { return part.replace(u'&', QLatin1String("&&")); };
+    return found < 0 ? literal(whole) : literal(whole.left(found)) + u'&' + literal(whole.mid(found));
+}
+
 QString PlainToolTip(const std::string& text) {
     if (text.empty()) {
         return QString();

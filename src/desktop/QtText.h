@@ -23,6 +23,10 @@ int CharacterOfUnit(const std::string& text, int unit);
 // A caption in which "&" is only a character.
 QString LiteralCaption(const std::string& caption);
 
+// The same with the letter marked that works with Alt: where a word begins with it, else where it comes
+// first.
+QString WithAltKey(const std::string& caption, const std::string& letter);
+
 // A text as a tool tip that is never taken for markup.
 QString PlainToolTip(const std::string& text);
 

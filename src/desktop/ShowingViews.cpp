@@ -43,6 +43,23 @@ protected:
     }
 };
 
+// Its letter leads to the control that the program says; Qt would take the first that was made.
+class GroupBoxWidget final : public QGroupBox {
+public:
+    using QGroupBox::QGroupBox;
+
+    QWidget* target = nullptr;
+
+protected:
+    bool event(QEvent* event) override {
+        if (event->type() != QEvent::Shortcut || target == nullptr) {
+            return QGroupBox::event(event);
+        }
+        target->setFocus(Qt::ShortcutFocusReason);
+        return true;
+    }
+};
+
 // A link as a screen reader meets it: called one, and with a press that needs neither mouse nor keyboard.
 class LinkAccess final : public QAccessibleWidget {
 public:
@@ -87,8 +104,9 @@ LabelView::LabelView(Label& model, QWidget* parent)
 
 void LabelView::Read() {
     label_->setAlignment(QtAlignment(model_.TextAlignment));
-    const QString text = WithLineFeeds(model_.Text);
-    QFont font = FittingFont(*label_, text, model_.Width);
+    const QString plain = WithLineFeeds(model_.Text);
+    const QString text = label_->buddy() == nullptr ? plain : WithAltKey(model_.Text, model_.AltKey);
+    QFont font = FittingFont(*label_, plain, model_.Width);
     font.setUnderline(model_.IsLink);
     if (label_->font() != font) {
         label_->setFont(font);
@@ -102,11 +120,21 @@ void LabelView::Read() {
     }
 }
 
+void LabelView::LeadTo(QWidget* target) {
+    label_->setBuddy(target);
+    Update();
+}
+
 GroupBoxView::GroupBoxView(GroupBox& model, QWidget* parent)
-    : ControlView(model, new QGroupBox(parent)), model_(model), box_(static_cast<QGroupBox*>(Widget())) {}
+    : ControlView(model, new GroupBoxWidget(parent)), model_(model), box_(static_cast<QGroupBox*>(Widget())) {
+}
+
+void GroupBoxView::LeadTo(QWidget* target) {
+    static_cast<GroupBoxWidget*>(box_)->target = target;
+}
 
 void GroupBoxView::Read() {
-    const QString caption = LiteralCaption(model_.Caption);
+    const QString caption = WithAltKey(model_.Caption, model_.AltKey);
     if (box_->title() != caption) {
         box_->setTitle(caption);
     }

@@ -19,6 +19,8 @@ class LabelView final : public ControlView {
 public:
     LabelView(Label& model, QWidget* parent);
 
+    void LeadTo(QWidget* target) override;
+
 protected:
     void Read() override;
     std::string OwnName() const override { return model_.Text; }
@@ -31,6 +33,8 @@ private:
 class GroupBoxView final : public ControlView {
 public:
     GroupBoxView(GroupBox& model, QWidget* parent);
+
+    void LeadTo(QWidget* target) override;
 
 protected:
     void Read() override;

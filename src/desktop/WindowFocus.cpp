@@ -209,7 +209,7 @@ bool WindowFocus::ButtonKey(int key) {
 }
 
 void WindowFocus::Step(bool stopsOnly, bool forward) {
-    const auto order = window_.TabOrder(false);
+    const auto order = stopsOnly ? window_.TabOrder(false) : window_.SightOrder();
     const auto count = order.size();
     const auto focus = std::find(order.begin(), order.end(), window_.Focus());
     // With no focus yet, the first step arrives at the first control, or backwards at the last.

@@ -18,7 +18,8 @@ class Window;
 
 // The keys and the focus of one window. The model says which control has the focus, and Qt follows: a control
 // that is disabled keeps the program's focus though Qt must take it away for the time, and a menu, a popup or
-// another window in front leaves it alone. Tab goes to the stops, F6 to every control that can be used.
+// another window in front leaves it alone. Tab goes to the stops, F6 to every control that can be used, in
+// the order of sight.
 class WindowFocus final : public QObject {
 public:
     using FindView = std::function<ControlView*(const Control*)>;

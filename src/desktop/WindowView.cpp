@@ -10,6 +10,7 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QAction>
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
@@ -59,9 +60,28 @@ WindowView::WindowView(Window& window, QtMenu* menu, bool withBar)
         bar_ = withBar ? menu->AddBar(*this) : nullptr;
         menu->AddShortcuts(*this);
     }
+    AddShortcuts();
     AddViews();
     Observe();
     Read();
+}
+
+// Of the digits, French and Belgian keyboards give the key's own sign as long as Shift isn't held.
+void WindowView::AddShortcuts() {
+    static const QString digits = QStringLiteral("1234");
+    static const QString signs = QStringLiteral("&É\"'");
+    for (const Window::Shortcut& shortcut : window_.Shortcuts()) {
+        const QString keys = ToQt(shortcut.Keys).replace(u"Cmd"_qs, u"Ctrl"_qs);
+        auto* const action = new QAction(this);
+        QList<QKeySequence> sequences{QKeySequence(keys)};
+        if (const qsizetype digit = digits.indexOf(keys.back()); digit >= 0) {
+            sequences += QKeySequence(keys.chopped(1) + signs.at(digit));
+        }
+        action->setShortcuts(sequences);
+        connect(
+            action, &QAction::triggered, this, [this, &shortcut] { window_.UserPressedShortcut(shortcut); });
+        addAction(action);
+    }
 }
 
 WindowView::~WindowView() {
@@ -100,6 +120,11 @@ void WindowView::AddViews() {
             }
         }));
         views_.push_back(std::move(view));
+    }
+    for (const auto& view : views_) {
+        if (const ControlView* target = Find(view->Model().AltTarget)) {
+            view->LeadTo(target->Widget());
+        }
     }
 }
 

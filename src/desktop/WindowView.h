@@ -37,6 +37,7 @@ protected:
     bool focusNextPrevChild(bool) override { return false; } // WindowFocus has Tab
 
 private:
+    void AddShortcuts();
     void Observe();
     void AddViews();
     ControlView* Find(const Control* control) const;

@@ -83,6 +83,12 @@ public:
     Property<std::string> HelpTag{*this};
     // What a pointer at rest and a screen reader are told beside the name and the content.
     virtual std::string Explanation() const { return HelpTag; }
+    // The letter, as its caption has it, that with Alt presses the control or brings the keyboard to
+    // AltTarget.
+    Property<std::string> AltKey{*this};
+    Control* AltTarget = nullptr;
+    // The keys that do here what the mouse does, for the help tag's end.
+    Property<std::string> KeyTag{*this};
     // What a screen reader calls the control where it has no caption of its own.
     Property<std::string> AccessibleName{*this};
     // What Notify said last; empty once the user goes on or away. A screen reader adds it to the name.

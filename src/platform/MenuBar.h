@@ -49,6 +49,7 @@ public:
     const bool AutoEnable;
     const MenuRole Role;
     Property<std::string> Caption;
+    Property<std::string> AltKey{*this}; // the letter of the caption that chooses it while its menu is open
     Property<bool> Enabled{*this, true};
 
     Event<bool()> Action;

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 namespace tessarolyne {
 
@@ -54,6 +55,18 @@ public:
     // Looks at what the user is about to do, and may change it. False refuses it: the text stands. Without
     // it the control's own kind decides.
     std::function<bool(TextEdit& edit)> TakeEdit;
+
+    // What its context menu offers besides the edit commands; asked for each time that it opens.
+    struct Command {
+        std::string Caption;
+        std::function<void()> Action;
+    };
+    std::function<std::vector<Command>()> ContextCommands;
+    void UserChoseCommand(const Command& command) {
+        if (TakesInput()) {
+            command.Action();
+        }
+    }
 
 protected:
     void PropertyChanged(const void* property) override;

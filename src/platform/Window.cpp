@@ -64,6 +64,12 @@ bool Window::UserPressedKey(const std::string& key) {
     return application_.LetsUserInto(*this) && Event_KeyDown(key);
 }
 
+void Window::UserPressedShortcut(const Shortcut& shortcut) {
+    if (application_.LetsUserInto(*this)) {
+        shortcut.Action();
+    }
+}
+
 void Window::UserMoved(int left, int top) {
     Left = left;
     Top = top;
@@ -106,6 +112,22 @@ std::vector<Control*> Window::TabOrder(bool stopsOnly) const {
     });
     std::stable_sort(order.begin(), order.end(),
         [&](const Control* left, const Control* right) { return rank(left) < rank(right); });
+    return order;
+}
+
+std::vector<Control*> Window::SightOrder() const {
+    constexpr int lineHeight = 10; // tops within it stand on one line
+    std::vector<Control*> order = TabOrder(false);
+    std::stable_sort(order.begin(), order.end(),
+        [](const Control* left, const Control* right) { return left->Top() < right->Top(); });
+    for (auto line = order.begin(); line != order.end();) {
+        const int bottom = (*line)->Top() + lineHeight;
+        const auto next =
+            std::find_if(line, order.end(), [&](const Control* control) { return control->Top() >= bottom; });
+        std::stable_sort(line, next,
+            [](const Control* left, const Control* right) { return left->Left() < right->Left(); });
+        line = next;
+    }
     return order;
 }
 

@@ -4,7 +4,9 @@
 #include "platform/Property.h"
 #include "platform/Signal.h"
 
+#include <functional>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace tessarolyne {
@@ -63,6 +65,15 @@ public:
     // A key that no control took. True: the window took it.
     bool UserPressedKey(const std::string& key);
 
+    // Keys that work wherever the focus is in the window, as "Cmd+1", and that menus don't have; added before
+    // the window is shown.
+    struct Shortcut {
+        std::string Keys;
+        std::function<void()> Action;
+    };
+    const std::vector<Shortcut>& Shortcuts() const { return shortcuts_; }
+    void UserPressedShortcut(const Shortcut& shortcut);
+
     // What the window's class answers: when it is whole, once, to whoever made it; before it closes (true
     // keeps it open); before menus are shown; and for a key that no control took (true: it has no further
     // effect).
@@ -76,6 +87,8 @@ public:
     // The controls that can take the focus, in the order in which Tab visits them: by the parents' indexes,
     // then by their own. With `stopsOnly` those that Tab stops at, else all.
     std::vector<Control*> TabOrder(bool stopsOnly) const;
+    // The controls that can take the focus as the eye meets them: line by line, each from left to right.
+    std::vector<Control*> SightOrder() const;
 
     // The control with the focus, or null. A move gives LostFocus, then GotFocus.
     Control* Focus() const { return focus_; }
@@ -99,6 +112,11 @@ public:
     // Given by Refresh: draw what is pending now.
     Signal<> DrawNow;
 
+protected:
+    void AddShortcut(std::string keys, std::function<void()> action) {
+        shortcuts_.push_back({std::move(keys), std::move(action)});
+    }
+
 private:
     friend class Control;
     void Add(Control& control) { controls_.push_back(&control); }
@@ -107,6 +125,7 @@ private:
 
     Application& application_;
     std::vector<Control*> controls_;
+    std::vector<Shortcut> shortcuts_;
     Control* focus_ = nullptr;
     bool closed_ = false;
     bool closeIsDue_ = false;

@@ -56,10 +56,11 @@ void WinNbresPremiers::FaireListe(bool forcer, bool garderDebut) {
     Ind_DerPrem = last;
     const Slice slice = CutToTable({EnteredRank(EditFieldAffDu.Text()), EnteredRank(EditFieldAffAu.Text())},
         last, garderDebut, largestSlice);
+    debut_ = static_cast<std::int32_t>(slice.debut);
+    fin_ = static_cast<std::int32_t>(slice.fin);
     EditFieldAffDu.Text = Str(slice.debut + 1);
     EditFieldAffAu.Text = Str(slice.fin + 1);
-    const std::string text =
-        ListText(static_cast<std::int32_t>(slice.debut), static_cast<std::int32_t>(slice.fin));
+    const std::string text = ListText(debut_, fin_);
     ShowBinding();
     StaticTextNbNbre1ers.Text =
         FormatWhole(static_cast<std::uint64_t>(Ind_DerPrem) + 1, main.CheckBoxFormatAuto.Value) +

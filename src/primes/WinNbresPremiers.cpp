@@ -43,6 +43,8 @@ void WinNbresPremiers::SetInitialState() {
     EditFieldFin.Mask = "999999999999";
     EditFieldAffDu.Mask = "999999999";
     EditFieldAffAu.Mask = "999999999";
+    EditFieldChercher.Mask = "999999999999";
+    EditFieldChercher.Visible = false;
     EditFieldNbNbresLigne.Mask = "999";
     EditFieldNbNbresLigne.Format = "###";
     for (TextField* field : {&EditFieldFin, &EditFieldAffDu, &EditFieldAffAu, &EditFieldNbNbresLigne}) {
@@ -67,6 +69,15 @@ void WinNbresPremiers::SetInitialState() {
     ProgressWheel2.AccessibleName = Localisation::Acc_Calcul();
     TxtAreaListeNbres1ers.AccessibleName = Localisation::Acc_ListeNbres();
     EditFieldNbNbresLigne.AccessibleName = Localisation::Acc_ParLigne();
+    PushButtonCalcPrems.AltKey = Localisation::Alt_Btn_CalcPrems();
+    StaticTextAffDu.AltKey = Localisation::Alt_StTextAffDu();
+    StaticTextAffDu.AltTarget = &EditFieldAffDu;
+    StaticTextAffAu.AltKey = Localisation::Alt_StTextAffAu();
+    StaticTextAffAu.AltTarget = &EditFieldAffAu;
+    PushButtonFichier.AltKey = Localisation::Alt_Btn_Fich();
+
+    EditFieldChercher.AccessibleName = Localisation::Txt_Chercher();
+    TxtAreaListeNbres1ers.KeyTag = Localisation::Touches_Liste();
 }
 
 void WinNbresPremiers::BindEvents() {
@@ -77,6 +88,17 @@ void WinNbresPremiers::BindEvents() {
     EditFieldAffAu.KeyDown = [this](const std::string& key) {
         return EditFieldAffAu_KeyDown(EditFieldAffAu, key);
     };
+    EditFieldChercher.KeyDown = [this](const std::string& key) {
+        return EditFieldChercher_KeyDown(EditFieldChercher, key);
+    };
+    EditFieldChercher.LostFocus = [this] { EditFieldChercher_LostFocus(EditFieldChercher); };
+    TxtAreaListeNbres1ers.KeyDown = [this](const std::string& key) {
+        return TxtAreaListeNbres1ers_KeyDown(TxtAreaListeNbres1ers, key);
+    };
+    AddShortcut("Cmd+F", [this] { AskForValue(); });
+    for (TextField* field : {&EditFieldFin, &EditFieldAffDu, &EditFieldAffAu, &EditFieldChercher}) {
+        program.winMain().OfferCopies(*field);
+    }
     PushButtonCalcPrems.Action = [this] { PushButtonCalcPrems_Action(PushButtonCalcPrems); };
     PushButtonFichier.Action = [this] { PushButtonFichier_Action(PushButtonFichier); };
     ThreadCalcPrems.Run = [this] { ThreadCalcPrems_Run(ThreadCalcPrems); };

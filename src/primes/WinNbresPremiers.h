@@ -40,6 +40,8 @@ public:
         *this, "PushButtonFichier", {370, 550, 130, 20}, lockRightBottom, TabStop(11)};
     // How far a run is, above the wheel.
     Label StaticTextAvance{*this, "StaticTextAvance", {270, 0, 230, 14}, lockTopRight, NoTabStop(12)};
+    // In the place of StaticTextNbNbre1ers, for as long as a value is looked for.
+    TextField EditFieldChercher{*this, "EditFieldChercher", {20, 549, 261, 22}, lockLeftBottom, NoTabStop(9)};
     BlockingOverlay LabBlockUI{*this, fncts, NoTabStop(12)};
 
     Thread ThreadCalcPrems;
@@ -72,6 +74,9 @@ public:
     bool EditFieldFin_KeyDown(TextField& champ, const std::string& key);
     bool EditFieldAffDu_KeyDown(TextField& champ, const std::string& key);
     bool EditFieldAffAu_KeyDown(TextField& champ, const std::string& key);
+    bool EditFieldChercher_KeyDown(TextField& champ, const std::string& key);
+    void EditFieldChercher_LostFocus(TextField& champ);
+    bool TxtAreaListeNbres1ers_KeyDown(TextArea& zone, const std::string& key);
     void PushButtonCalcPrems_Action(PushButton& bouton);
     void PushButtonFichier_Action(PushButton& bouton);
     void ThreadCalcPrems_Run(Thread& thread);
@@ -80,6 +85,12 @@ private:
     void SetInitialState();
     void BindEvents();
     void PlaceWindow();
+    void AskForValue();
+    void GoToValue(std::uint64_t value);
+    void ShowRank(std::int32_t rank);
+    std::string WithRank(std::int32_t rank) const;
+    std::string Shown(std::uint64_t value) const;
+    void ShowRanks(std::int64_t debut, std::int64_t fin);
     std::string ListText(std::int32_t debut, std::int32_t fin) const;
     void OpenBoundFile(bool fichDispo);
     std::optional<FolderItem> ChooseAndLoad();
@@ -88,10 +99,15 @@ private:
     void AskToKeepFile();
     std::string TextOfUnkeptPrimes();
 
+    // The ranks in the list, counted from 0; what the two fields say may be typed since.
+    std::int32_t debut_ = 0;
+    std::int32_t fin_ = -1;
+
     NumberField finField_{EditFieldFin, fncts};
     NumberField affDuField_{EditFieldAffDu, fncts};
     NumberField affAuField_{EditFieldAffAu, fncts};
     NumberField nbNbresLigneField_{EditFieldNbNbresLigne, fncts};
+    NumberField chercherField_{EditFieldChercher, fncts};
 };
 
 } // namespace tessarolyne

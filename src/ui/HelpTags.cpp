@@ -47,6 +47,7 @@ constexpr Row rows[] = {
     {"EditFieldFin", &Localisation::EditFieldFin_HT},
     {"EditFieldAffDu", &Localisation::EditFieldAffDu_HT},
     {"EditFieldAffAu", &Localisation::EditFieldAffAu_HT},
+    {"EditFieldChercher", &Localisation::EditFieldChercher_HT},
     {"TxtAreaListeNbres1ers", &Localisation::TxtAreaListeNbres1ers_HT},
     {"EditFieldNbNbresLigne", &Localisation::EdFieldNbNbresLigne_HT},
     {"ProgressBarNb1ers", &Localisation::ProgressBarNb1ers_HT},

@@ -60,12 +60,15 @@ void WinInfos::SetInitialState() {
     Web1.Visible = false;
     Email1.Visible = false;
     BevButtDon.Caption = Localisation::Btn_FaireDon();
+    BevButtDon.AltKey = Localisation::Alt_Btn_FaireDon();
     BevButtDon.HelpTag = donationAddress;
     BevButtDejDon.Caption = Localisation::Btn_DejDon();
+    BevButtDejDon.AltKey = Localisation::Alt_Btn_DejDon();
     BevButtDejDon.Visible = false;
     CanvDevLogo.HelpTag = buildToolSite;
     CanvDevLogo.AccessibleName = buildToolSite;
     BoutonOk.Caption = Localisation::Btn_Ok();
+    BoutonOk.AltKey = Localisation::Alt_Btn_Ok();
     BoutonOk.Default = true;
 }
 

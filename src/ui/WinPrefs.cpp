@@ -27,12 +27,16 @@ WindowFrame PreferencesFrame() {
 WinPrefs::WinPrefs(Program& owner)
     : ModalWindow(owner, Localisation::WinPref_Title(), 400, 99, PreferencesFrame()) {
     CheckBoxAutoUpdt.Caption = Localisation::Pref_ChBoxAutoUpdt();
+    CheckBoxAutoUpdt.AltKey = Localisation::Alt_Pref_ChBoxAutoUpdt();
     CheckBoxAnnonces.Caption = Localisation::Pref_ChBoxAnnonces();
     ExplainControls(*this);
+    CheckBoxAnnonces.AltKey = Localisation::Alt_Pref_ChBoxAnnonces();
     PushButtAnnuler.Caption = Localisation::Btn_Annuler();
+    PushButtAnnuler.AltKey = Localisation::Alt_Btn_Annuler();
     PushButtAnnuler.Cancel = true;
     PushButtAnnuler.Action = [this] { PushButtAnnuler_Action(PushButtAnnuler); };
     PushButtOk.Caption = Localisation::Btn_Ok();
+    PushButtOk.AltKey = Localisation::Alt_Btn_Ok();
     PushButtOk.Default = true;
     PushButtOk.Action = [this] { PushButtOk_Action(PushButtOk); };
 }

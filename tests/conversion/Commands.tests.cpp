@@ -82,3 +82,44 @@ TEST_CASE(
     CHECK(world.announcer.said.size() == 4);
     CHECK(world.sounds.played == std::vector<std::string>(5, "Bip.wav"));
 }
+
+TEST_CASE("Shortcuts copy in the order of sight, and a field's menu offers its number in other forms") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    world.Type(window.EditFieldNbre, "4660");
+    world.desktop.option = true; // Ctrl serves as Option, and must not reset the currencies
+    std::vector<std::string> copied;
+    for (const Window::Shortcut& shortcut : window.Shortcuts()) {
+        window.UserPressedShortcut(shortcut);
+        copied.push_back(shortcut.Keys + " " + world.desktop.clipboard);
+    }
+    CHECK(copied == std::vector<std::string>{"Cmd+1 12 34", "Cmd+2 1 0010 0011 0100", "Cmd+3 2 x 2 x 5 x 233",
+                        "Cmd+4 quatre mille six cent soixante euros zéro centime"});
+    window.PushButtonPressPapBOrg.Enabled = false;
+    window.UserPressedShortcut(window.Shortcuts().front());
+    CHECK(world.desktop.clipboard.starts_with("quatre"));
+
+    const auto offered = [&](TextControl& field) {
+        std::string all;
+        for (const TextControl::Command& command : field.ContextCommands()) {
+            field.UserChoseCommand(command);
+            all += command.Caption + "=" + world.desktop.clipboard + ";";
+        }
+        return all;
+    };
+    window.BevelButtonListe.UserPressed();
+    window.EditFieldMonnaie.UserFocused();
+    CHECK(offered(window.EditFieldNbre) == "Copier sans espaces=4660;");
+    CHECK(offered(window.EditFieldBaseOrg) == "Copier sans espaces=1234;Copier 0x1234=0x1234;");
+    CHECK(offered(window.EditFieldBaseDest) ==
+          "Copier sans espaces=1001000110100;Copier 0b1001000110100=0b1001000110100;");
+    window.PopupMenuBaseDest.UserChose(8 - 2);
+    CHECK(offered(window.EditFieldBaseDest) == "Copier sans espaces=11064;Copier 0o11064=0o11064;");
+    CHECK(offered(window.TxtAreaDecomp1er) == "Copier sans espaces=2x2x5x233;");
+    world.program->winNbresPremiers().EditFieldAffAu.Text = "2 000";
+    CHECK(offered(world.program->winNbresPremiers().EditFieldAffAu) == "Copier sans espaces=2000;");
+    window.RadioButton09AZ[1].UserPressed();
+    CHECK(offered(window.EditFieldBaseOrg) == "Copier sans espaces=BCDE;");
+    world.Type(window.EditFieldBaseOrg, "!");
+    CHECK(offered(window.EditFieldNbre).empty());
+}

@@ -1,3 +1,4 @@
+#include "platform/Text.h"
 #include "primes/WinNbresPremiers.h"
 #include "support/TestWorld.h"
 
@@ -258,6 +259,59 @@ TEST_CASE("Digits in the base field may be written as programs write them, and a
     world.Settle();
     window.PopupMenuBaseOrg.UserChose(8);
     CHECK(window.EditFieldNbre.Text() == errNbre);
+}
+
+TEST_CASE("Up and Down go through the numbers of this run in both fields, and back to what was being typed") {
+    TestWorld world;
+    WinMain& window = world.Main();
+    TextField& decimal = window.EditFieldNbre;
+    TextField& digits = window.EditFieldBaseOrg;
+    const auto steps = [&](TextField& field, const std::string& keys) {
+        std::string shown;
+        for (const char key : keys) {
+            CHECK(field.UserPressedKey(Chr(key == '^' ? 30 : 31)));
+            shown += (shown.empty() ? "" : " ") + field.Text();
+        }
+        world.Settle();
+        return shown;
+    };
+    CHECK(steps(decimal, "^v").empty());
+    world.Type(decimal, "255");
+    decimal.UserReplaced(2, 1, ""); // corrected on the way, and then deleted key by key
+    decimal.UserReplaced(1, 1, "");
+    decimal.UserReplaced(0, 1, "");
+    world.Type(decimal, "12.5");
+    decimal.UserReplaced(0, 4, "4660"); // pasted over it
+    world.Settle();
+    world.Type(digits, "A");
+    CHECK(steps(digits, "^") == "1234");
+    CHECK(decimal.Text() == "4 660");
+    CHECK(window.TxtAreaDecomp1er.Text() == "2 x 2 x 5 x 233");
+    CHECK(steps(digits, "^^vvv") == "FF FF 1234 A A"); // no cents in a base
+    window.EditFieldNbre.UserFocused();
+    CHECK(steps(decimal, "^^^^") == "4660 12.50 255 255");
+    CHECK(window.DrapTimerNbre);
+    decimal.UserTyped("7");
+    CHECK(steps(decimal, "^") == "10"); // where Up began is a number too
+    CHECK(steps(decimal, "v") == "2557");
+}
+
+TEST_CASE("Digits typed in a menu of bases choose the base, two together if they come within a second") {
+    TestWorld world;
+    PopupMenu& menu = world.Main().PopupMenuBaseDest;
+    world.Type(world.Main().EditFieldNbre, "255");
+    const struct {
+        char key;
+        int after, base;
+    } rows[] = {{'1', 0, 2}, {'6', 1000, 16}, {'1', 100, 16}, {'8', 1001, 8}, {'3', 2000, 3}, {'6', 900, 36},
+        {'2', 100, 2}, {'0', 100, 20}, {'4', 100, 4}, {'0', 100, 4}, {'9', 100, 9}};
+    for (const auto& row : rows) {
+        world.loop.Advance(row.after);
+        CHECK(menu.UserPressedKey(std::string(1, row.key)));
+        CHECK(menu.ListIndex == row.base - 2);
+    }
+    CHECK(world.Main().EditFieldBaseDest.Text() == "313");
+    CHECK_FALSE(menu.UserPressedKey("b"));
 }
 
 TEST_CASE("A field of one line takes no line ends and controls") {

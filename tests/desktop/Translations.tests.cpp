@@ -1,5 +1,6 @@
 #include "app/Version.h"
 #include "conversion/WinMain.h"
+#include "desktop/QtMenu.h"
 #include "desktop/QtText.h"
 #include "desktop/QtTranslations.h"
 #include "desktop/WindowView.h"
@@ -10,12 +11,15 @@
 #include "ui/WinInfos.h"
 #include "ui/WinPrefs.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFontInfo>
 #include <QGroupBox>
+#include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
 #include <QXmlStreamReader>
 
 #include <doctest/doctest.h>
@@ -112,6 +116,42 @@ void UseQt() {
     QApplication::setFont(font);
 }
 
+// The letters that work with Alt in the view, with the names of what has them, as Qt shows and presses them.
+void CheckAltLetters(const QWidget& view) {
+    std::map<QString, QString> taken;
+    const auto take = [&](const QString& caption, const QString& name) {
+        const QString letter = QKeySequence::mnemonic(caption).toString();
+        CHECK_MESSAGE(!letter.isEmpty(), name.toStdString() << " has none");
+        CHECK_MESSAGE(
+            taken.emplace(letter, name).second, letter.toStdString() << " for " << name.toStdString());
+    };
+    for (const QWidget* widget : view.findChildren<QWidget*>()) {
+        const auto* button = qobject_cast<const QAbstractButton*>(widget);
+        const auto* box = qobject_cast<const QGroupBox*>(widget);
+        const auto* label = qobject_cast<const QLabel*>(widget);
+        const QString caption = button != nullptr                               ? button->text()
+                                : box != nullptr                                ? box->title()
+                                : label != nullptr && label->buddy() != nullptr ? label->text()
+                                                                                : QString();
+        if (!caption.isEmpty() && caption != u"✎"_qs) {
+            take(caption, widget->objectName());
+            CHECK(!widget->accessibleName().contains(u'&'));
+        }
+    }
+    for (const QMenu* menu : view.findChildren<QMenu*>()) {
+        if (menu->title().isEmpty()) {
+            continue; // the bar's own, for what has no room in it
+        }
+        take(menu->title(), menu->title());
+        std::map<QString, QString> items;
+        for (const QAction* item : menu->actions()) {
+            CHECK((item->isSeparator() ||
+                   items.emplace(QKeySequence::mnemonic(item->text()).toString(), item->text()).second));
+        }
+        CHECK(items.count(QString()) == 0);
+    }
+}
+
 // Every text of the window in its place: the views make a caption smaller that is too wide, so none may be.
 // And what the user can go to has a help tag, which fits on a screen.
 void CheckWidths(Window& window) {
@@ -119,6 +159,7 @@ void CheckWidths(Window& window) {
     constexpr int frame = 8;
     constexpr int smallScreen = 800;
     const WindowView view(window, nullptr, false);
+    CheckAltLetters(view);
     const QFontMetrics metrics(QApplication::font());
     const auto fits = [&](const QString& text, int room) {
         CHECK_MESSAGE(metrics.horizontalAdvance(text) <= room, text.toStdString());
@@ -193,8 +234,8 @@ TEST_CASE("A text comes from the region's catalogue, else the language's, else i
     }
 }
 
-TEST_CASE(
-    "Every text of every language fits into its place at the pinned font, and every control is explained") {
+TEST_CASE("Every text of every language fits at the pinned font, every control is explained, no Alt letter "
+          "is there twice") {
     UseQt();
     const QStringList languages = Languages() + QStringList(u"fr"_qs);
     for (const QString& language : languages) {
@@ -202,6 +243,8 @@ TEST_CASE(
         const Speaking speaking({FromQt(language)});
         tests::TestWorld world;
         WinMain& main = world.Main();
+        QtMenu menus(world.program->app, *world.program->app.GetMenuBar());
+        CheckAltLetters(WindowView(main, &menus, true));
         for (const char* digits : {"FF", "FFFFFFFFFFF", "!"}) {
             world.Type(main.EditFieldBaseOrg, digits);
             CheckWidths(main);

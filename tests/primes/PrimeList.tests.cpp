@@ -126,3 +126,61 @@ TEST_CASE("A factorisation that found primes brings the open list up to date onc
     CHECK(open.world.Main().Nbres_Premiers.UpperBound() > 5);
     CHECK(open.List().StaticTextNbNbre1ers.Text() == "5 nombres premiers");
 }
+
+TEST_CASE(
+    "Ctrl+F goes to a value and tells its rank or its neighbours, on the screen and to screen readers") {
+    OpenList open(104729);
+    WinNbresPremiers& list = open.List();
+    const struct {
+        const char* value;
+        const char* selected;
+        const char* label;
+        const char* said;
+        const char* range;
+    } rows[] = {
+        {"7919", "7919", "7 919 (n° 1 000)", "7 919 (n° 1 000)", "1-2000"},
+        {"104723", "104723", "104 723 (n° 9 999)", "104 723 (n° 9 999)", "8999-10000"},
+        {"90000", "90001", "89 989 (n° 8 713) < 90 000 < 90 001 (n° 8 714)",
+            "90 000 n'est pas premier. Voisins : 89 989 (n° 8 713), 90 001 (n° 8 714)", "7714-9713"},
+        {"0", "2", "0 < 2 (n° 1)", "0 n'est pas premier. Voisins : 2 (n° 1)", "1-2000"},
+        {"104730", "2", "0 < 2 (n° 1)", "Au-delà de la liste, qui va jusqu'à 104 729", "1-2000"},
+    };
+    for (const auto& row : rows) {
+        CAPTURE(row.value);
+        list.UserPressedShortcut(list.Shortcuts().front());
+        CHECK(list.EditFieldChercher.HasFocus());
+        open.world.Type(list.EditFieldChercher, row.value);
+        CHECK(list.EditFieldChercher.UserPressedKey(Chr(13)));
+        const TextArea& area = list.TxtAreaListeNbres1ers;
+        CHECK(Mid(area.Text, area.SelStart + 1, area.SelLength) == row.selected);
+        CHECK(list.StaticTextNbNbre1ers.Text() == row.label);
+        CHECK(open.world.announcer.said.back() == row.said);
+        CHECK(open.Range() == row.range);
+        CHECK(list.EditFieldChercher.Visible() == !list.StaticTextNbNbre1ers.Visible());
+    }
+    CHECK(list.EditFieldChercher.UserPressedKey(Chr(27)));
+    CHECK(list.TxtAreaListeNbres1ers.HasFocus());
+    CHECK_FALSE(list.EditFieldChercher.Visible());
+    open.world.program->fncts.DrapMenu = false;
+    list.UserPressedShortcut(list.Shortcuts().front());
+    CHECK_FALSE(list.EditFieldChercher.Visible());
+}
+
+TEST_CASE("Page Down goes on behind the last line of the list, Page Up before its first") {
+    OpenList open(30000); // 3245 primes
+    TextArea& area = open.List().TxtAreaListeNbres1ers;
+    const auto page = [&](int key, const char* caret) {
+        area.UserSelected(*caret == '<' ? 2 : static_cast<int>(Len(area.Text())) - 2, 0);
+        const bool taken = area.UserPressedKey(Chr(key));
+        return open.Range() + (taken ? area.SelStart() == 0 ? " at 0" : " at end" : "");
+    };
+    CHECK(page(12, "<") == "1-2000");
+    CHECK(page(11, "<") == "1-2000");
+    open.List().EditFieldAffDu.Text = "77"; // typed, and not entered
+    CHECK(page(12, ">") == "2001-3245 at 0");
+    CHECK(page(12, ">") == "2001-3245");
+    CHECK(page(11, ">") == "2001-3245");
+    CHECK(page(11, "<") == "1-2000 at end");
+    CHECK(open.Show("1500", "1600", true) == "1500-1600");
+    CHECK(page(11, "<") == "1-1499 at end");
+}
