@@ -46,11 +46,12 @@ TEST_CASE("A value with a line end, or too long, is written empty, so that no fi
 }
 
 TEST_CASE("Lines count in any order, the later of two wins, and what isn't known says nothing") {
-    const After after({"Base Dest :@: 3", "Unknown :@: 1", "", " :@: True", "Base Org:@: 9",
-        " Base Org :@: 9", "Base Dest :@: 4", "Majuscule :@: True", "majuscule :@: TRUE",
-        "Format Auto :@: yes", "Trait d'union :@: True ", "Monnaie :@: caf\xE9", "Centime :@: cen\vtime\t",
-        "Fichier Nbres 1ers :@: Root:caf\xE9", "Nbre Nb Prem par Lignes :@:   -3.9 x",
-        "Fenetre WinNbres_1ers :@: 1,,99999", "Fenetre WinMain :@: 4294967296,-4294967296,7,8"});
+    const After after(
+        {"Base Dest :@: 3", "Unknown :@: 1", "", " :@: True", "Base Org:@: 9", " Base Org :@: 9",
+            "Base Dest :@: 4", "Majuscule :@: True", "majuscule :@: TRUE", "Format Auto :@: yes",
+            "Trait d'union :@: True ", "Monnaie :@: caf\xE9", "Centime :@: cen\vtime\t\x1B\u2028",
+            "Fichier Nbres 1ers :@: Root:caf\xE9", "Nbre Nb Prem par Lignes :@:   -3.9 x",
+            "Fenetre WinNbres_1ers :@: 1,,99999", "Fenetre WinMain :@: 4294967296,-4294967296,7,8"});
     Preferences expected;
     expected.baseDest = 4;
     expected.majuscule = true;

@@ -12,12 +12,12 @@ using namespace tessarolyne::tests;
 
 namespace {
 
-const std::string preferencesFile = "/home/user/.config/Tessarolyne Prefs.txt";
+const std::string primes = "/home/user/primes.txt";
 
 // Binds a prime file to a table that holds more than it.
 void BindFileWithNewPrimes(TestWorld& world) {
-    world.files.AddFile("/home/user/primes.txt", "2\t3\t5\t7\n");
-    world.program->app.FichNbPrems = FolderItem::FromNativePath(world.files, "/home/user/primes.txt");
+    world.files.AddFile(primes, "2\t3\t5\t7\n");
+    world.program->app.FichNbPrems = world.files.At(primes);
     world.Main().Nb_NbrePcharg = 4;
     world.Main().NbresPremCalc(10000, false);
 }
@@ -44,34 +44,25 @@ void StartLongRun(TestWorld& world) {
 } // namespace
 
 TEST_CASE("New primes are offered to a bound file: save, drop, or stay") {
-    TestWorld world;
-    BindFileWithNewPrimes(world);
-    const std::string before = world.files.entries.at("/home/user/primes.txt").content;
-    const auto saved = [&] { return world.files.entries.at("/home/user/primes.txt").content; };
-    SUBCASE("save") {
-        world.dialogs.Expect(DialogButton::Action);
-        world.Main().UserClosed();
-        CHECK(Ended(world));
-        CHECK(saved().starts_with("Nombre de Nombres Premiers : 1229\n2\t3\t5"));
+    for (const DialogButton answer :
+        {DialogButton::Action, DialogButton::Cancel, DialogButton::Alternate, DialogButton::None}) {
+        CAPTURE(answer);
+        TestWorld world;
+        BindFileWithNewPrimes(world);
+        const std::string before = world.files.entries.at(primes).content;
+        world.dialogs.Expect(answer);
+        const bool quits = answer == DialogButton::Action || answer == DialogButton::Cancel;
+        quits ? world.Main().UserClosed() : world.program->app.RequestQuit();
+        CHECK(Ended(world) == quits);
+        CHECK(world.program->fncts.DrapMenu == !quits);
+        CHECK((quits || world.Main().TimerQuit.Mode == 0));
+        const std::string& after = world.files.entries.at(primes).content;
+        CHECK(
+            (answer == DialogButton::Action ? after.starts_with("Nombre de Nombres Premiers : 1229\n2\t3\t5")
+                                            : after == before));
+        CHECK(world.dialogs.asked.at(0).message ==
+              "Il y a 1 225 nouveaux nombres premiers, souhaitez vous les enregistrer ?");
     }
-    SUBCASE("drop") {
-        world.dialogs.Expect(DialogButton::Cancel);
-        world.Main().UserClosed();
-        CHECK(Ended(world));
-        CHECK(saved() == before);
-    }
-    SUBCASE("stay, or no answer") {
-        for (const DialogButton answer : {DialogButton::Alternate, DialogButton::None}) {
-            world.dialogs.Expect(answer);
-            world.program->app.RequestQuit();
-            CHECK_FALSE(Ended(world));
-            CHECK(world.program->fncts.DrapMenu);
-            CHECK(world.Main().TimerQuit.Mode == 0);
-            CHECK(saved() == before);
-        }
-    }
-    CHECK(world.dialogs.asked.at(0).message ==
-          "Il y a 1 225 nouveaux nombres premiers, souhaitez vous les enregistrer ?");
 }
 
 TEST_CASE("A change of the number under a quit that is then refused is dealt with afterwards") {
@@ -89,17 +80,30 @@ TEST_CASE("A change of the number under a quit that is then refused is dealt wit
     CHECK(window.EditFieldBaseOrg.Text() == "FF");
 }
 
-TEST_CASE("A close during a calculation asks, and the answer to stop it quits") {
-    TestWorld world;
-    StartLongRun(world);
-    const int beeps = world.sounds.beeps;
-    world.dialogs.Expect(DialogButton::Action);
-    world.Main().UserClosed();
-    CHECK(world.sounds.played == std::vector<std::string>{"Zoum.wav"});
-    world.loop.Until([] { return false; });
-    CHECK(world.loop.ExitCode() == 0);
-    CHECK(world.sounds.beeps == beeps + 1);
-    CHECK(world.dialogs.asked.at(0).message == "Des calculs sont en cours, souhaitez-vous les stopper ?");
+TEST_CASE("A close during a calculation asks, a request to quit only with the list open, else it waits") {
+    enum { Close, Request, RequestWithList };
+    for (const int way : {Close, Request, RequestWithList}) {
+        CAPTURE(way);
+        TestWorld world;
+        if (way == RequestWithList) {
+            world.Main().BevelButtonListe.UserPressed();
+        }
+        StartLongRun(world);
+        const int beeps = world.sounds.beeps;
+        if (way == Request) {
+            world.program->app.RequestQuit();
+            CHECK_FALSE(Ended(world));
+            world.program->fncts.ArretUrg = true;
+        } else {
+            world.dialogs.Expect(DialogButton::Action);
+            way == Close ? world.Main().UserClosed() : world.program->app.RequestQuit();
+        }
+        world.loop.Until([] { return false; });
+        CHECK(world.loop.ExitCode() == 0);
+        CHECK(world.sounds.beeps == beeps + (way == Request ? 0 : 1));
+        CHECK(world.sounds.played == std::vector<std::string>(way == Request ? 0 : 1, "Zoum.wav"));
+        CHECK(world.HasSaved("Liste Nb1ers Visible :@: True") == (way == RequestWithList));
+    }
 }
 
 TEST_CASE(
@@ -151,40 +155,19 @@ TEST_CASE("A quit declined under a modal window leaves that in charge") {
     CHECK(world.program->fncts.DrapMenu);
 }
 
-TEST_CASE("A request to quit waits for a calculation without a word, and the list window asks") {
-    TestWorld world;
-    SUBCASE("main window alone") {
-        StartLongRun(world);
-        world.program->app.RequestQuit();
-        CHECK_FALSE(Ended(world));
-        world.program->fncts.ArretUrg = true;
-        world.loop.Until([] { return false; });
-    }
-    SUBCASE("list open") {
-        world.Main().BevelButtonListe.UserPressed();
-        StartLongRun(world);
-        world.dialogs.Expect(DialogButton::Action);
-        world.program->app.RequestQuit();
-        world.loop.Until([] { return false; });
-        CHECK(world.files.entries.at(preferencesFile).content.find("Liste Nb1ers Visible :@: True") !=
-              std::string::npos);
-    }
-    CHECK(world.loop.ExitCode() == 0);
-}
-
 TEST_CASE("A signal saves what there is and asks nothing, even if nothing can be saved") {
     TestWorld world;
     BindFileWithNewPrimes(world);
     StartLongRun(world);
     SUBCASE("all is well") {
         world.program->EndWithoutAsking();
-        CHECK(world.files.entries.at("/home/user/primes.txt").content.find(" : 1229\n") != std::string::npos);
-        CHECK(world.files.entries.at(preferencesFile).content.find("Base Org :@: 14") != std::string::npos);
+        CHECK(world.files.entries.at(primes).content.find(" : 1229\n") != std::string::npos);
+        CHECK(world.HasSaved("Base Org :@: 14"));
     }
     SUBCASE("no place to save to") {
-        world.files.unwritable = {preferencesFile, "/home/user/primes.txt"};
+        world.files.unwritable = {world.preferencesFile, primes};
         world.program->EndWithoutAsking();
-        CHECK(world.files.entries.at("/home/user/primes.txt").content == "2\t3\t5\t7\n");
+        CHECK(world.files.entries.at(primes).content == "2\t3\t5\t7\n");
     }
     CHECK(world.loop.IsQuitting());
     CHECK(world.program->fncts.ArretUrg);

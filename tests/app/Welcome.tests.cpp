@@ -17,17 +17,16 @@ const std::string donationPage = DONATION_PAGE; // of the build's setting
 struct Prompted : TestWorld {
     explicit Prompted(const std::function<void(Prompted&, WinInfos&)>& meanwhile)
         : TestWorld(Launch::NotYet) {
-        files.AddFile(preferences, "Date Launch :@: 2026-11-21 12:00:00\nAuto Check Update :@: True\n");
+        files.AddFile(preferencesFile, "Date Launch :@: 2026-11-21 12:00:00\nAuto Check Update :@: True\n");
         loop.WhileModal([this, meanwhile] { meanwhile(*this, program->winInfos()); });
         program->Start();
     }
-    // The settings that the next start finds.
-    std::string Saved() {
+    // Whether the next start finds these settings.
+    bool Saves(const std::string& settings) {
         program->app.RequestQuit();
         loop.Advance(100);
-        return files.entries[preferences].content;
+        return HasSaved(settings);
     }
-    const std::string preferences = "/home/user/.config/Tessarolyne Prefs.txt";
 };
 
 } // namespace
@@ -52,19 +51,16 @@ TEST_CASE("Until the user has given, each start asks for a donation with a title
     Prompted world([](Prompted& self, WinInfos& about) {
         const std::string title = "Faire un don…";
         CHECK(about.TexteInfo.Text() == title + "\n\n" + Localisation::Infos_Text_Don());
-        REQUIRE(about.TexteInfo.Styles().size() == 1);
-        const TextStyle& style = about.TexteInfo.Styles()[0];
-        CHECK(std::pair(style.Start, style.Length) == std::pair(0, 13));
-        CHECK(style.Bold);
+        const TextStyle& style = about.TexteInfo.Styles().at(0);
+        CHECK((style.Start == 0 && style.Length == 13 && style.Bold));
         CHECK(style.TextSize == about.TexteInfo.TextSize() + 2);
         CHECK_FALSE(self.program->app.initProg);
         about.BoutonOk.UserPressed();
     });
     CHECK(world.program->fncts.DrapMenu);
     CHECK(world.http.requests.size() == 1);
-    const std::string saved = world.Saved();
-    CHECK(saved.starts_with("Date Launch :@: 2026-11-22 12:00:00\n")); // this launch, not the one before
-    CHECK(saved.find("Don 03 :@: False") != std::string::npos);
+    // This launch, not the one before.
+    CHECK(world.Saves("Date Launch :@: 2026-11-22 12:00:00\nDeja Envoye Don 03 :@: False\n"));
 }
 
 TEST_CASE("Who has given, or says so, isn't asked again, whatever the browser does") {
@@ -83,7 +79,7 @@ TEST_CASE("Who has given, or says so, isn't asked again, whatever the browser do
             world.program->app.GetMenuBar()->Find("AppleDon")->UserChose(world.program->app);
         }
         CHECK(world.dialogs.told == std::vector<std::string>(how == Says ? 0 : 1, donationPage));
-        CHECK(world.Saved().find("Don 03 :@: True") != std::string::npos);
+        CHECK(world.Saves("Don 03 :@: True"));
     }
 }
 

@@ -6,43 +6,30 @@
 using namespace tessarolyne;
 using namespace tessarolyne::tests;
 
-TEST_CASE("The switch brings what is on the screen into line, in both directions, but for the edited field") {
-    TestWorld world;
-    WinMain& window = world.Main();
-    world.Type(window.EditFieldNbre, "1234567");
-    const std::string words = window.TxtAreaLettres.Text;
-    CHECK(window.EditFieldBaseOrg.Text() == "12 D6 87");
-    window.CheckBoxFormatAuto.UserPressed();
-    world.Settle();
-    CHECK(window.EditFieldNbre.Text() == "1234567");
-    CHECK(window.EditFieldBaseOrg.Text() == "12D687");
-    CHECK(window.EditFieldBaseDest.Text() == "100101101011010000111");
-    CHECK(window.TxtAreaDecomp1er.Text() == "127 x 9721");
-    window.CheckBoxFormatAuto.UserPressed();
-    world.Settle();
-    CHECK(window.EditFieldNbre.Text() == "1234567"); // it has the focus
-    CHECK(window.EditFieldBaseOrg.Text() == "12 D6 87");
-    window.CheckBoxFormatAuto.UserPressed();
-    world.Settle();
-    window.EditFieldMonnaie.UserFocused();
-    CHECK(window.EditFieldNbre.Text() == "1234567");
-    window.CheckBoxFormatAuto.UserPressed();
-    world.Settle();
-    CHECK(window.EditFieldNbre.Text() == "1 234 567");
-    CHECK(window.EditFieldBaseOrg.Text() == "12 D6 87");
-    CHECK(window.EditFieldBaseDest.Text() == "1 0010 1101 0110 1000 0111");
-    CHECK(window.TxtAreaDecomp1er.Text() == "127 x 9 721");
-    CHECK(window.TxtAreaLettres.Text() == words);
-}
-
-TEST_CASE("The switch leaves errors and empty fields alone") {
+TEST_CASE("The switch brings what is shown into line both ways, but for the edited field and for errors") {
     TestWorld world;
     WinMain& window = world.Main();
     window.CheckBoxFormatAuto.UserPressed();
     CHECK(window.EditFieldBaseDest.Text().empty());
+    world.Type(window.EditFieldNbre, "1234567");
+    const std::string words = window.TxtAreaLettres.Text;
+    for (const bool focused : {true, false}) {
+        if (!focused) {
+            window.EditFieldMonnaie.UserFocused();
+        }
+        for (const bool grouped : {true, false}) {
+            window.CheckBoxFormatAuto.UserPressed();
+            world.Settle();
+            CHECK(window.EditFieldNbre.Text() == (grouped && !focused ? "1 234 567" : "1234567"));
+            CHECK(window.EditFieldBaseOrg.Text() == (grouped ? "12 D6 87" : "12D687"));
+            CHECK(window.EditFieldBaseDest.Text() ==
+                  (grouped ? "1 0010 1101 0110 1000 0111" : "100101101011010000111"));
+            CHECK(window.TxtAreaDecomp1er.Text() == (grouped ? "127 x 9 721" : "127 x 9721"));
+        }
+    }
+    CHECK(window.TxtAreaLettres.Text() == words);
     world.Type(window.EditFieldNbre, "1234.5");
     window.EditFieldMonnaie.UserFocused();
-    CHECK(window.EditFieldNbre.Text() == "1234.50");
     window.CheckBoxFormatAuto.UserPressed();
     CHECK(window.EditFieldNbre.Text() == "1 234.50");
     CHECK(window.EditFieldBaseOrg.Text() == "#Erreur Nbre !");

@@ -7,27 +7,24 @@
 
 using namespace tessarolyne;
 
-TEST_CASE("A separator stands between groups counted from the right, never at an end") {
+TEST_CASE("Separators stand between groups from the right, of the size that the base decides") {
     CHECK(FormatString("1234", " ", 0) == "1234");
     CHECK(FormatString("1234", " ", -3) == "1234");
     CHECK(FormatString("123456", " ", 3) == "123 456");
     CHECK(FormatString("aé€😀", "··", 1) == "a··é··€··😀");
+    CHECK(FormatType("10101", 2, true) == "1 0101");
+    CHECK(FormatType("1234567", 8, true) == "1 234 567");
+    CHECK(FormatType("F FFF", 16, true) == "FF FF");
+    CHECK(FormatType("ABCDEF", 36, true) == "A BCDEF");
+    CHECK(FormatType("FF FF", 16, false) == "FFFF");
 }
 
 TEST_CASE("A decimal number is shown in groups or bare, with two decimals if it has any, and no other text") {
-    const struct {
-        std::string text, shown, bare;
-    } rows[] = {
-        {"1 234 567", "1 234 567", "1234567"},
-        {"1234.5", "1 234.50", "1234.50"},
-        {"12.", "12", "12"},
-        {".5", "0.50", "0.50"},
-        {"007.00", "7", "7"},
-        {"-1234", "-1 234", "-1234"},
-    };
-    for (const auto& row : rows) {
-        CHECK(FormatNbre(row.text, true) == row.shown);
-        CHECK(FormatNbre(row.text, false) == row.bare);
+    const char* const rows[][3] = {{"1 234 567", "1 234 567", "1234567"}, {"1234.5", "1 234.50", "1234.50"},
+        {"12.", "12", "12"}, {".5", "0.50", "0.50"}, {"007.00", "7", "7"}, {"-1234", "-1 234", "-1234"}};
+    for (const auto& [text, shown, bare] : rows) {
+        CHECK(FormatNbre(text, true) == shown);
+        CHECK(FormatNbre(text, false) == bare);
     }
     for (const char* text : {"", " ", "#Erreur Nbre !", "1,5", "1\u202F234"}) {
         CHECK(FormatNbre(text, true) == text);
@@ -51,12 +48,4 @@ TEST_CASE("What FormatNbre gives it takes again, and its forms turn into each ot
         REQUIRE(FormatNbre(shown, false) == bare);
         REQUIRE(FormatNbre(bare, true) == shown);
     }
-}
-
-TEST_CASE("The base decides the size of the groups") {
-    CHECK(FormatType("10101", 2, true) == "1 0101");
-    CHECK(FormatType("1234567", 8, true) == "1 234 567");
-    CHECK(FormatType("F FFF", 16, true) == "FF FF");
-    CHECK(FormatType("ABCDEF", 36, true) == "A BCDEF");
-    CHECK(FormatType("FF FF", 16, false) == "FFFF");
 }

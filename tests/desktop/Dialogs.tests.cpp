@@ -30,8 +30,7 @@ TEST_CASE(
     CHECK_FALSE(view.isVisible());
     CHECK(view.Answer() == DialogButton::None);
 
-    TestWorld parts(TestWorld::Launch::NotYet);
-    parts.files.AddFile("/home/user/.config/Tessarolyne Prefs.txt", "Deja Envoye Don 03 :@: True\n");
+    TestWorld parts("");
     SystemClock clock;
     QtServices desktop(parts.files);
     Services services{clock, desktop.loop, desktop.stage, desktop.dialogs, parts.desktop, parts.sounds,

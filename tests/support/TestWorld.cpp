@@ -12,12 +12,20 @@ TestWorld::TestWorld(Launch launch) {
         files.AddFolder(folder);
     }
     if (launch == Launch::Settled) {
-        files.AddFile("/home/user/.config/Tessarolyne Prefs.txt", "Deja Envoye Don 03 :@: True\n");
+        files.AddFile(preferencesFile, "Deja Envoye Don 03 :@: True\n");
     }
     program = std::make_unique<Program>(services);
     if (launch == Launch::Settled) {
         program->Start();
     }
+}
+
+TestWorld::TestWorld(const std::string& settings) : TestWorld(Launch::NotYet) {
+    files.AddFile(preferencesFile, "Deja Envoye Don 03 :@: True\n" + settings);
+}
+
+bool TestWorld::HasSaved(const std::string& text) const {
+    return files.entries.at(preferencesFile).content.find(text) != std::string::npos;
 }
 
 void TestWorld::Type(TextField& field, const std::string& text) {

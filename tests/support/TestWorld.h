@@ -179,13 +179,19 @@ class TestWorld {
 public:
     enum class Launch { Settled, First, NotYet };
     explicit TestWorld(Launch launch = Launch::Settled);
+    // With these lines in the preferences file of a user who has given; not started yet.
+    explicit TestWorld(const std::string& settings);
 
     WinMain& Main() { return program->winMain(); }
     // What the user does: into the field, replacing all of it, key by key; time passes as it does for a
     // typist.
     void Type(TextField& field, const std::string& text);
+    // Whether the preferences file holds the text.
+    bool HasSaved(const std::string& text) const;
     // Lets the recalculation happen and its thread, if it needs one, end.
     void Settle();
+
+    static constexpr const char* preferencesFile = "/home/user/.config/Tessarolyne Prefs.txt";
 
     VirtualLoop loop;
     TestStage stage;
