@@ -704,7 +704,7 @@ This version was built for ¿%.</translation>
         <translation>Beyond the list, which goes up to ¿%</translation>
     </message>
     <message id="Localisation.Txt_Avancement">
-        <source>¿% % · Échap pour arrêter</source>
+        <source>¿% % · Esc : arrêter</source>
         <translation>¿%% · Esc to stop</translation>
     </message>
     <message id="Localisation.Txt_AvecRang">
@@ -759,7 +759,7 @@ Do you want to save your primes in this file?</translation>
         <translation>Copy without blanks</translation>
     </message>
     <message id="Localisation.Txt_EchapStoppe">
-        <source>Échap pour arrêter</source>
+        <source>Esc : arrêter</source>
         <translation>Esc to stop</translation>
     </message>
     <message id="Localisation.Txt_EnBase">

@@ -49,7 +49,7 @@ TEST_CASE("A run's wheel tells its last prime four times a second to the eye, on
     CHECK(heard == std::vector<std::string>{"", upTo + "101" + of, upTo + "1 200" + of, ""});
     CHECK(values == std::vector<std::int64_t>{0, 101, 1200, 0}); // never beyond the goal
     CHECK(wheel.Maximum == 0);
-    const std::string escape = " % · Échap pour arrêter";
+    const std::string escape = " % · Esc : arrêter";
     CHECK(beside == std::vector<std::string>{"", "95" + escape, "99" + escape, ""});
     CHECK(world.desktop.askedForAttention == 0);
 }
@@ -61,7 +61,7 @@ TEST_CASE("After ten seconds the end calls the user back, whether or not it coul
         window.Progress.Follow(window.ProgressWheel1, window.StaticTextAvance, 0);
         world.loop.Advance(milliseconds);
         CHECK(window.StaticTextAvance.Visible);
-        CHECK(window.StaticTextAvance.Text == "Échap pour arrêter");
+        CHECK(window.StaticTextAvance.Text == "Esc : arrêter");
         CHECK(world.desktop.askedForAttention == 0);
         window.Progress.End();
         CHECK_FALSE(window.StaticTextAvance.Visible);
