@@ -51,7 +51,7 @@ TEST_CASE("A check from the menu tells what the server has, and opens only what 
         {File("v.0.1"), isNew, "v.0.1" + news, DialogButton::Cancel},
         {File("v.9.9"), isNew, "v.9.9" + news, None},
         {File(here + " "), isNew, here + " " + news, Action, download}, {File(here), isSame, here, Action},
-        {File(here), isSame, here, DialogButton::Cancel, history},
+        {File(here), isSame, here, DialogButton::Cancel, history}, {File(here), isSame, here, None},
         {File("v.9.9", "https://download.example"), isBad, "", Action},
         {File("v.9.9", user), isNew, "v.9.9" + news, Action, "", user}};
     for (const auto& row : rows) {
