@@ -38,23 +38,6 @@ TEST_CASE("A calculation disables what could disturb it and nothing else, shortc
     CHECK(window.TimerQuit.Mode == 1);
 }
 
-TEST_CASE("What is copied is what is shown, errors and hints included, and announced unless switched off") {
-    TestWorld world;
-    WinMain& window = world.Main();
-    world.Type(window.EditFieldNbre, "999999999989");
-    window.PushButtonPressPapPrem.UserPressed();
-    const std::string hint = "Pour les grands nombres, cliquez Décomposer.\nCela peut être long.";
-    CHECK(world.desktop.clipboard == hint);
-    CHECK(world.announcer.said.back().starts_with("Copié : Pour les grands nombres"));
-    const auto said = world.announcer.said.size();
-    world.program->app.Annonces = false;
-    world.Type(window.EditFieldNbre, "1.5");
-    window.PushButtonPressPapBOrg.UserPressed();
-    CHECK(world.desktop.clipboard == "#Erreur Nbre !");
-    CHECK(world.announcer.said.size() == said);
-    CHECK(world.sounds.played == std::vector<std::string>(2, "Bip.wav"));
-}
-
 TEST_CASE("Shortcuts copy in the order of sight, and a field's menu offers its number in other forms") {
     TestWorld world;
     WinMain& window = world.Main();
@@ -88,8 +71,6 @@ TEST_CASE("Shortcuts copy in the order of sight, and a field's menu offers its n
     window.PopupMenuBaseDest.UserChose(8 - 2);
     CHECK(offered(window.EditFieldBaseDest) == "Copier sans espaces=11064;Copier 0o11064=0o11064;");
     CHECK(offered(window.TxtAreaDecomp1er) == "Copier sans espaces=2x2x5x233;");
-    world.program->winNbresPremiers().EditFieldAffAu.Text = "2 000";
-    CHECK(offered(world.program->winNbresPremiers().EditFieldAffAu) == "Copier sans espaces=2000;");
     window.RadioButton09AZ[1].UserPressed();
     CHECK(offered(window.EditFieldBaseOrg) == "Copier sans espaces=BCDE;");
     world.Type(window.EditFieldBaseOrg, "!");

@@ -66,64 +66,6 @@ TEST_CASE("What isn't a whole number within the limit is refused in place, and t
 }
 
 TEST_CASE(
-    "Errors only for the cents are dimmed and tell the reason until something else is wrong or nothing is") {
-    TestWorld world;
-    WinMain& window = world.Main();
-    const auto remarks = [&] {
-        return std::vector{window.EditFieldBaseOrg.Remark(), window.EditFieldBaseDest.Remark(),
-            window.TxtAreaDecomp1er.Remark(), window.TxtAreaLettres.Remark()};
-    };
-    const std::string why = "Seulement des nombres entiers";
-    const std::vector<std::string> ofCents = {why, why, why, ""};
-    const std::vector<std::string> none(4);
-    world.Type(window.EditFieldNbre, "12.50");
-    CHECK(remarks() == ofCents);
-    window.PopupMenuBaseOrg.UserChose(0);
-    CHECK(remarks() == ofCents);
-    CHECK(window.EditFieldBaseOrg.Explanation() == why);
-    window.EditFieldBaseOrg.UserFocused();
-    window.EditFieldBaseOrg.UserTyped("1");
-    CHECK(window.EditFieldBaseOrg.Remark().empty()); // before the next calculation
-    for (const char* number : {"12.00", "0", "", "999999999999.01"}) {
-        world.Type(window.EditFieldNbre, "12.50");
-        world.Type(window.EditFieldNbre, number);
-        CHECK(remarks() == none);
-    }
-    CHECK(window.EditFieldBaseOrg.Explanation() == window.EditFieldBaseOrg.HelpTag());
-}
-
-TEST_CASE("A field shows the bare number while it is edited and its groups when it is left") {
-    TestWorld world;
-    WinMain& window = world.Main();
-    world.Type(window.EditFieldNbre, "1234567.5");
-    window.EditFieldBaseOrg.UserFocused();
-    CHECK(window.EditFieldNbre.Text() == "1 234 567.50");
-    CHECK(window.EditFieldBaseOrg.Text() == errNbre);
-    CHECK(window.TimerTempo.Mode == 0);
-    window.EditFieldNbre.UserFocused();
-    CHECK(window.EditFieldNbre.Text() == "1234567.50");
-    CHECK(window.EditFieldNbre.SelStart() == 10);
-    CHECK(window.EditFieldBaseOrg.Text() == errNbre);
-}
-
-TEST_CASE("A burst of keys costs one recalculation, and the same text none") {
-    TestWorld world;
-    WinMain& window = world.Main();
-    int conversions = 0;
-    window.EditFieldBaseDest.TextChange = [&](ChangedBy) { ++conversions; };
-    window.EditFieldNbre.UserFocused();
-    for (const char* key : {"1", "2", "3"}) {
-        window.EditFieldNbre.UserTyped(key);
-    }
-    CHECK(window.TimerTempo.Mode == 1);
-    world.Settle();
-    CHECK(conversions == 1);
-    CHECK(window.TimerTempo.Mode == 0);
-    window.EditFieldNbre.UserReplaced(0, 3, "123");
-    CHECK(window.TimerTempo.Mode == 0);
-}
-
-TEST_CASE(
     "Looking at another base or alphabet leaves what was typed last the source, wherever the focus is") {
     TestWorld world;
     WinMain& window = world.Main();
@@ -270,24 +212,6 @@ TEST_CASE("Up and Down go through the numbers of this run in both fields, and ba
     decimal.UserTyped("7");
     CHECK(steps(decimal, "^") == "10"); // where Up began is a number too
     CHECK(steps(decimal, "v") == "2557");
-}
-
-TEST_CASE("Digits typed in a menu of bases choose the base, two together if they come within a second") {
-    TestWorld world;
-    PopupMenu& menu = world.Main().PopupMenuBaseDest;
-    world.Type(world.Main().EditFieldNbre, "255");
-    const struct {
-        char key;
-        int after, base;
-    } rows[] = {{'1', 0, 2}, {'6', 1000, 16}, {'1', 100, 16}, {'8', 1001, 8}, {'3', 2000, 3}, {'6', 900, 36},
-        {'2', 100, 2}, {'0', 100, 20}, {'4', 100, 4}, {'0', 100, 4}, {'9', 100, 9}};
-    for (const auto& row : rows) {
-        world.loop.Advance(row.after);
-        CHECK(menu.UserPressedKey(std::string(1, row.key)));
-        CHECK(menu.ListIndex == row.base - 2);
-    }
-    CHECK(world.Main().EditFieldBaseDest.Text() == "313");
-    CHECK_FALSE(menu.UserPressedKey("b"));
 }
 
 TEST_CASE(

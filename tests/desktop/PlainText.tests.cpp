@@ -7,15 +7,12 @@
 
 using namespace tessarolyne;
 
-TEST_CASE("A dialog's text keeps its lines and shows what would change its layout as escapes") {
+TEST_CASE("A dialog's text keeps its lines, shows what would change its layout as escapes, and is cut") {
     CHECK(VisibleText("a\rb\r\nc\td") == u"a\nb\nc\td"_qs);
     CHECK(VisibleText("x\u202Egnp.exe") == u"x⟨U+202E⟩gnp.exe"_qs);
     CHECK(VisibleText(std::string("\0\x1B\x7F", 3)) == u"⟨U+0000⟩⟨U+001B⟩⟨U+007F⟩"_qs);
     CHECK(VisibleText("\uFEFF\u2066\u200F") == u"⟨U+FEFF⟩⟨U+2066⟩⟨U+200F⟩"_qs);
     CHECK(VisibleText("<b>é 😀</b>") == u"<b>é 😀</b>"_qs);
-}
-
-TEST_CASE("A very long text is cut with an ellipsis") {
     const QString shown = VisibleText(std::string(1'000'000, 'm'));
     CHECK(shown.size() < 20'000);
     CHECK(shown.endsWith(u'…'));

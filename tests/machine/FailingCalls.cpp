@@ -57,17 +57,10 @@ STANDS_FOR(int, open, (const char* a, int b, mode_t c), (a, b, c))
 STANDS_FOR(int, openat, (int a, const char* b, int c, mode_t d), (a, b, c, d))
 STANDS_FOR(ssize_t, read, (int a, void* b, size_t c), (a, b, c))
 STANDS_FOR(ssize_t, readlink, (const char* a, char* b, size_t c), (a, b, c))
+STANDS_FOR(int, renameat, (int a, const char* b, int c, const char* d), (a, b, c, d))
 STANDS_FOR(int, stat, (const char* a, struct stat* b), (a, b))
 STANDS_FOR(int, unlink, (const char* a), (a))
 STANDS_FOR(int, unlinkat, (int a, const char* b, int c), (a, b, c))
-
-int __real_renameat(int from, const char* a, int to, const char* b);
-int __wrap_renameat(int from, const char* a, int to, const char* b) {
-    if (FailingCalls::living != nullptr && FailingCalls::living->unanswered) {
-        __real_renameat(from, a, to, b);
-    }
-    return Fails("renameat") ? -1 : __real_renameat(from, a, to, b);
-}
 
 // In pieces, as the system may.
 ssize_t __real_write(int file, const void* bytes, size_t size);

@@ -20,7 +20,6 @@ public:
     std::map<std::string, int> refused; // calls that always fail, with their errors
     int failing = -1;                   // the number of the one that fails, from 0
     int error = 0;
-    bool unanswered = false; // a rename that fails has come to pass
 
     std::vector<std::string> made; // also those that failed
 

@@ -34,7 +34,6 @@ std::string Megabytes(std::uint64_t count) {
 } // namespace
 
 TEST_CASE("The least of machine and control groups is what is available") {
-    CHECK(FakeRoot({}).Available() == 1024 * megabyte); // nothing known
     const FakeRoot::Files narrow = {{"proc/self/cgroup", "0::/user/app\n"},
         {"sys/fs/cgroup/user/app/memory.max", "max\n"},
         {"sys/fs/cgroup/user/app/memory.current", Megabytes(50)},
@@ -48,31 +47,9 @@ TEST_CASE("The least of machine and control groups is what is available") {
         {exceeded, 0},
         {{{"proc/self/cgroup", "0::/../outside/app\n"}, // in a container only the mounted root exists
              {"sys/fs/cgroup/memory.max", Megabytes(300)}, {"sys/fs/cgroup/memory.current", Megabytes(100)}},
-            200},
-        {{{"proc/self/cgroup", "3:cpu,cpuacct:/app\n2:hugetlb,memory:/app\n0::/\nbroken\n"}, // version 1
-             {"sys/fs/cgroup/memory/app/memory.limit_in_bytes", Megabytes(700)},
-             {"sys/fs/cgroup/memory/app/memory.usage_in_bytes", Megabytes(600)},
-             {"sys/fs/cgroup/memory/app/memory.stat", "total_inactive_file 1048576\n"}},
-            101}};
+            200}};
     for (auto [files, available] : rows) {
         files.push_back({"proc/meminfo", "MemTotal: 9000000 kB\nMemFree: 1 kB\nMemAvailable: 8192000 kB\n"});
         CHECK(FakeRoot(files).Available() == available * megabyte);
     }
-}
-
-TEST_CASE("A limit on the process's data counts, less what the process has") {
-    // So wide that it doesn't disturb the test itself, whatever a sanitizer maps.
-    constexpr std::uint64_t limit = std::uint64_t{1} << 50;
-    const FakeRoot root({{"proc/meminfo", "MemAvailable:    8192000 kB\n"},
-        {"proc/self/status",
-            "VmSize:\t  900000 kB\nVmData:\t  " + std::to_string(limit / 1024 - 1'024'000) + " kB\n"}});
-    rlimit before{};
-    REQUIRE(getrlimit(RLIMIT_DATA, &before) == 0);
-    rlimit narrow = before;
-    narrow.rlim_cur = limit;
-    REQUIRE(setrlimit(RLIMIT_DATA, &narrow) == 0);
-    const std::uint64_t available = root.Available();
-    REQUIRE(setrlimit(RLIMIT_DATA, &before) == 0);
-    CHECK(available == 1000 * megabyte);
-    CHECK(SystemMemory().AvailableBytes() > 0);
 }

@@ -11,9 +11,3 @@ TEST_CASE("A date survives its text form, and only real dates are read") {
         CHECK_FALSE(Date::FromSQLDateTime(bad).has_value());
     }
 }
-
-TEST_CASE("Seconds are counted from 1904 on, so that each calendar day has a number of its own") {
-    CHECK(Date{}.TotalSeconds() == 0);
-    CHECK(Date{2026, 11, 22, 23, 59, 59}.TotalSeconds() + 1 == 44887 * 86400LL);
-    CHECK(Date{2026, 11, 23, 0, 0, 0}.TotalSeconds() == 44887 * 86400LL);
-}

@@ -25,25 +25,6 @@ TEST_CASE(
     CHECK_FALSE(files.At("/media/u/Stick").Parent().has_value());
 }
 
-TEST_CASE("An alias is itself for TrueChild and its target for Child, and dangling it exists") {
-    MemoryFileSystem disk;
-    disk.AddFolder("/f");
-    disk.AddLink("/f/first", "/f/second");
-    disk.AddLink("/f/second", "/target");
-    disk.AddFile("/target");
-    const auto folder = disk.At("/f");
-    CHECK(folder.TrueChild("first")->NativePath() == "/f/first");
-    CHECK(folder.TrueChild("first")->IsAlias());
-    CHECK(folder.Child("first")->NativePath() == "/target");
-    disk.entries.erase("/target");
-    CHECK(folder.Child("first")->NativePath() == "/f/first");
-    CHECK(folder.Child("first")->Exists());
-    CHECK_FALSE(folder.Child("none")->Exists());
-    disk.AddLink("/f/toFolder", "/f");
-    CHECK_FALSE(folder.TrueChild("toFolder")->Directory());
-    CHECK(folder.Child("toFolder")->Directory());
-}
-
 TEST_CASE("A URL brings back every path, and others are refused") {
     MemoryFileSystem disk;
     std::string everyByte = "/";

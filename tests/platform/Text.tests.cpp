@@ -4,7 +4,6 @@
 #include <doctest/doctest.h>
 
 #include <limits>
-#include <random>
 #include <string>
 #include <vector>
 
@@ -14,17 +13,6 @@ namespace {
 
 constexpr auto least = std::numeric_limits<std::int64_t>::min();
 constexpr auto most = std::numeric_limits<std::int64_t>::max();
-
-// Texts that mix every length of sequence with pieces of sequences.
-std::string RandomText(std::mt19937& random) {
-    static const std::vector<std::string> pieces = {"a", "B", " ", "é", "É", "Ÿ", "€", "😀", "\u0301", "\x80",
-        "\xC3", "\xE2\x82", "\xF0\x9F\x98", "\xFF", std::string(1, '\0')};
-    std::string text;
-    for (std::size_t n = random() % 12; n > 0; --n) {
-        text += pieces[random() % pieces.size()];
-    }
-    return text;
-}
 
 } // namespace
 
@@ -51,8 +39,10 @@ TEST_CASE("Characters are code points; a byte of no UTF-8 is one of its own, and
     }
 }
 
-TEST_CASE("Mid and Left count characters and take any position") {
+TEST_CASE("Mid and Left count characters, NthField fields, and all take any position") {
     CHECK(Mid("aé€😀", 2, 2) == "é€");
+    CHECK(NthField("a;;b;", ";", 3) == "b");
+    CHECK(NthField("a;b", ";", 0) == "");
     for (const std::int64_t outside : {std::int64_t{4}, most}) {
         CHECK(Mid("abc", outside) == "");
         CHECK(Mid("abc", 2, outside) == "bc");
@@ -62,24 +52,6 @@ TEST_CASE("Mid and Left count characters and take any position") {
         CHECK(Mid("abc", none) == "abc");
         CHECK(Left("abc", none) == "");
     }
-}
-
-TEST_CASE("Any text is put together again from its parts, byte for byte") {
-    std::mt19937 random(1);
-    for (int round = 0; round < 5000; ++round) {
-        const std::string text = RandomText(random);
-        const std::int64_t cut = static_cast<std::int64_t>(random() % 14);
-        REQUIRE(Left(text, cut) + Mid(text, cut + 1) == text);
-        REQUIRE(ReplaceAll(ReplaceAll(text, "a", "[a]"), "[a]", "a") == text);
-        std::string joined = NthField(text, "B", 1);
-        for (std::int64_t field = 2; field <= CountFields(text, "B"); ++field) {
-            joined += "B" + NthField(text, "B", field);
-        }
-        REQUIRE(joined == text);
-        REQUIRE(Len(Uppercase(text)) == Len(text));
-    }
-    CHECK(NthField("a;;b;", ";", 3) == "b");
-    CHECK(NthField("a;b", ";", 0) == "");
 }
 
 TEST_CASE("Every letter of the Latin blocks that has its capital there gets it") {

@@ -49,16 +49,6 @@ TEST_CASE("Factors and the table's end are those of dividing by entry after entr
     CHECK_FALSE(run.ArretUrg);
 }
 
-TEST_CASE("A loaded table is compared as far as a number needs it") {
-    TableOf table(Reference::Primes(2'000'000));
-    RunFixture run;
-    CHECK(Factor(2 * 97, table, run.timed) == Numbers{2, 97});
-    CHECK(table.ConsecutiveBack() < 2'000'000);
-    CHECK(Factor(1'999'993, table, run.timed) == Numbers{1'999'993});
-    CHECK(Factor(2'000'003, table, run.timed) == Numbers{2'000'003});
-    CHECK(table.Back() == 2'000'003);
-}
-
 TEST_CASE("Without a time limit every number is answered, a far factor by its root") {
     RunFixture run(forEver, 8'000'000);
     TableOf first;

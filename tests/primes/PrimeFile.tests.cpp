@@ -85,43 +85,6 @@ TEST_CASE("A file that others wrote gives the numbers that it holds") {
     }
 }
 
-TEST_CASE("A line or a number of many megabytes is read like a short one") {
-    constexpr std::size_t many = 20'000'000;
-    const auto numbers = [](char repeated, const std::string& end) {
-        return ReadQuickly(std::string(many, repeated) + end, 256 * 1024).numbers;
-    };
-    CHECK(numbers(' ', "2\t3\n") == Numbers{2, 3});
-    CHECK(numbers('7', "\t3\n") == Numbers{UINT64_MAX, 3});
-    CHECK(numbers('7', "e-19999999\t3\n") == Numbers{7, 3});
-    CHECK(numbers('x', "\n3\n") == Numbers{3});
-    // Taken for data until the mark turns up.
-    CHECK(numbers('7', "\t5 : 1\n2\t3\n") == Numbers{2, 3});
-}
-
-TEST_CASE("The indexes that are a multiple of a five hundredth of the count are told") {
-    RecordingProgress progress;
-    TextFile file;
-    PrimeTable table;
-    REQUIRE(AppendAll(table, Primes(10'000))); // 1229 primes: every second one
-    WritePrimeFile(table, "Label", 10, file, progress);
-    CHECK(progress.maximum == 1229);
-    REQUIRE(progress.reached.size() == 614);
-    CHECK(progress.reached.front() == 2);
-    CHECK(progress.reached.back() == 1228);
-    CHECK(ReadQuickly(file.text, 1000).reached.size() == 615);
-
-    PrimeTable small;
-    REQUIRE(AppendAll(small, {2, 3, 5, 7}));
-    WritePrimeFile(small, "Label", 10, file, progress);
-    CHECK(progress.reached == std::vector<std::int64_t>{1, 2, 3});
-    for (const std::string header : {"x : 4", "x : 0", "x : ", "x : -5000", "x : 499"}) {
-        CHECK(ReadQuickly(header + "\n2\t3\t5\t7\n", 4096).reached == std::vector<std::int64_t>{0});
-    }
-    CHECK(ReadQuickly("x : 1000\n2\t3\t5\t7\n", 4096).reached == std::vector<std::int64_t>{0, 2});
-    CHECK(ReadQuickly("x : 1e300\n2\t3\t5\t7\n", 4096).maximum == INT64_MAX);
-    CHECK(ReadQuickly("2\t3\t5\t7\n", 4096).maximum == 200'000);
-}
-
 TEST_CASE("Whatever ends the reading early is reported") {
     RecordingProgress progress;
     BreakingFile breaking;

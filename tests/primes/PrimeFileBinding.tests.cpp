@@ -107,33 +107,3 @@ TEST_CASE(
         }
     }
 }
-
-TEST_CASE("The bound file isn't replaced by fewer primes, though the user chose it again") {
-    Binding world(true);
-    world.dialogs.Expect(DialogButton::Action);
-    world.Click(false, true, world.files.At(path)); // never read, and holds six primes to the table's four
-    CHECK(world.files.entries.at(path).content == sixPrimes);
-    CHECK(world.dialogs.asked.at(0).message == Localisation::Txt_FichAPlusDeNb1ers());
-}
-
-TEST_CASE(
-    "The button tells how many primes a quit would drop for want of a file, and the label where it is") {
-    Binding world(false);
-    WinNbresPremiers& list = world.program->winNbresPremiers();
-    const std::string unbound = Localisation::Btn_SauvFich_HT();
-    const std::string lost = "\rFaute de fichier, nouveaux nombres premiers perdus en quittant : ";
-    CHECK(list.PushButtonFichier.HelpTag() == unbound);
-    world.Type(world.Main().EditFieldNbre, "46"); // 11 to 23
-    CHECK(list.PushButtonFichier.HelpTag() == unbound + lost + "5");
-    list.EditFieldFin.Text = "8000";
-    list.PushButtonCalcPrems.UserPressed();
-    world.Settle();
-    CHECK(list.PushButtonFichier.HelpTag() == unbound + lost + "1 003");
-    world.files.known[KnownFolder::Home] = "/home/user";
-    world.Click(false, false, world.files.At("/home/user/new.txt"));
-    CHECK(list.PushButtonFichier.HelpTag() == Localisation::Btn_ChangFich_HT());
-    CHECK(list.StaticTextNbNbre1ers.HelpTag() == "~/new.txt");
-    world.dialogs.Expect(DialogButton::Cancel); // let go of, but still there
-    world.Click(false, false, std::nullopt);
-    CHECK(list.PushButtonFichier.HelpTag() == unbound);
-}

@@ -36,10 +36,8 @@ const std::vector<Numbers> oddTables = {
     {2, 3, 5, 7, 1'000'003},                   // a gap
     {2, 3, 5, 7, 8},                           // even from here on
     {2, 3, 5, 7, 11, 13, 9},                   // not rising
-    {2, 3, 5, 7, 7, 7},                        // repeated
     {2, 3, 5, 7, 3},                           // begins again below the first division
     {2, 3, 5, 7, 11, 1'000'000'007, 13, 17},   // a large one ends every division
-    {2, 3, 5, 7, 11, 13, 17, 19, 23, 27},      // ends on no prime
     {2, 3, 5, 7, 121, 11, 169, 13},            // composite divisors
     {2, 3, 5, 7, 999'999'999'989},             // divisors run out
     {2, 3, 5, 7, 18'446'744'073'709'551'613U}, // wraps round
@@ -90,9 +88,6 @@ TEST_CASE("Twenty million numbers are decided as by the plain sieve") {
     RunFixture run;
     CHECK(NbresPremCalc(table, 20'000'000, run.untimed) == primes.back());
     CHECK(Entries(table) == primes);
-    for (std::size_t rank = 0; rank < primes.size(); ++rank) {
-        REQUIRE(table[static_cast<std::int32_t>(rank)] == primes[rank]);
-    }
     CHECK(table.IsConsecutive());
     CHECK(table.Bytes() < primes.size() + 150'000); // a byte each, and the chunk that is begun
 }

@@ -66,13 +66,6 @@ TEST_CASE("A run extends the table to the limit and shows its end; an empty limi
     CHECK(open.Range() == "263-2262");
     CHECK(calculate("") == "20011");
     CHECK(list.StaticTextNbNbre1ers.Text() == "2 263 nombres premiers");
-    const int beeps = open.world.sounds.beeps;
-    open.world.Main().CalculEnCours = true; // a click during a run beeps
-    list.PushButtonCalcPrems.Push();
-    open.world.Main().PushButtDecomposer_Action(open.world.Main().PushButtDecomposer);
-    CHECK(open.world.sounds.beeps == beeps + 2);
-    CHECK(list.ThreadCalcPrems.State() == Thread::notRunning);
-    open.world.Main().CalculEnCours = false;
 }
 
 TEST_CASE(
@@ -94,7 +87,7 @@ TEST_CASE(
     }
 }
 
-TEST_CASE("A stopped run leaves the list as it was; the next prime brings it up to date") {
+TEST_CASE("A stopped run leaves the list as it was and the last prime in the field") {
     OpenList open(7);
     WinNbresPremiers& list = open.List();
     list.EditFieldFin.Text = "999999999999";
@@ -108,23 +101,6 @@ TEST_CASE("A stopped run leaves the list as it was; the next prime brings it up 
     CHECK(list.EditFieldFin.Text() == std::to_string(window.Nbres_Premiers.Back()));
     CHECK(open.world.program->fncts.DrapMenu);
     CHECK(list.Ind_DerPrem == window.Nbres_Premiers.UpperBound());
-    list.FaireListe(false, false);
-    CHECK(list.StaticTextNbNbre1ers.Text() == "4 nombres premiers");
-    open.world.program->fncts.ArretUrg = false;
-    window.NbresPremCalc(0, false);
-    list.FaireListe(false, false);
-    CHECK(list.StaticTextNbNbre1ers.Text() != "4 nombres premiers");
-}
-
-TEST_CASE("A factorisation that found primes brings the open list up to date once it has a result") {
-    OpenList open(7);
-    open.world.Type(open.world.Main().EditFieldNbre, "22");
-    CHECK(open.List().TxtAreaListeNbres1ers.Text() == "\t2\t3\t5\t7"); // the range that is shown stays
-    CHECK(open.world.Main().Nbres_Premiers.Back() == 11);
-    CHECK(open.List().StaticTextNbNbre1ers.Text() == "5 nombres premiers");
-    open.world.Type(open.world.Main().EditFieldNbre, "999999999989"); // gives up
-    CHECK(open.world.Main().Nbres_Premiers.UpperBound() > 5);
-    CHECK(open.List().StaticTextNbNbre1ers.Text() == "5 nombres premiers");
 }
 
 TEST_CASE(
@@ -138,7 +114,6 @@ TEST_CASE(
         const char* said;
         const char* range;
     } rows[] = {
-        {"7919", "7919", "7 919 (n° 1 000)", "7 919 (n° 1 000)", "1-2000"},
         {"104723", "104723", "104 723 (n° 9 999)", "104 723 (n° 9 999)", "8999-10000"},
         {"90000", "90001", "89 989 (n° 8 713) < 90 000 < 90 001 (n° 8 714)",
             "90 000 n'est pas premier. Voisins : 89 989 (n° 8 713), 90 001 (n° 8 714)", "7714-9713"},
@@ -161,26 +136,4 @@ TEST_CASE(
     CHECK(list.EditFieldChercher.UserPressedKey(Chr(27)));
     CHECK(list.TxtAreaListeNbres1ers.HasFocus());
     CHECK_FALSE(list.EditFieldChercher.Visible());
-    open.world.program->fncts.DrapMenu = false;
-    list.UserPressedShortcut(list.Shortcuts().front());
-    CHECK_FALSE(list.EditFieldChercher.Visible());
-}
-
-TEST_CASE("Page Down goes on behind the last line of the list, Page Up before its first") {
-    OpenList open(30000); // 3245 primes
-    TextArea& area = open.List().TxtAreaListeNbres1ers;
-    const auto page = [&](int key, const char* caret) {
-        area.UserSelected(*caret == '<' ? 2 : static_cast<int>(Len(area.Text())) - 2, 0);
-        const bool taken = area.UserPressedKey(Chr(key));
-        return open.Range() + (taken ? area.SelStart() == 0 ? " at 0" : " at end" : "");
-    };
-    CHECK(page(12, "<") == "1-2000");
-    CHECK(page(11, "<") == "1-2000");
-    open.List().EditFieldAffDu.Text = "77"; // typed, and not entered
-    CHECK(page(12, ">") == "2001-3245 at 0");
-    CHECK(page(12, ">") == "2001-3245");
-    CHECK(page(11, ">") == "2001-3245");
-    CHECK(page(11, "<") == "1-2000 at end");
-    CHECK(open.Show("1500", "1600", true) == "1500-1600");
-    CHECK(page(11, "<") == "1-1499 at end");
 }

@@ -54,19 +54,6 @@ TEST_CASE("A table gives back any sequence, by rank and in passing, also after i
     }
 }
 
-TEST_CASE("Entries that a file gave are not taken for primes until they have been compared") {
-    TableOf table;
-    CHECK_FALSE(table.IsConsecutive());
-    CHECK(table.ConsecutiveBack() == 0);
-    table.NoteConsecutive(4);
-    REQUIRE(table.AppendNextPrime(11));
-    CHECK(table.IsConsecutive());
-    REQUIRE(table.Append(13));
-    REQUIRE(table.AppendNextPrime(17));
-    CHECK(table.ConsecutiveCount() == 5);
-    CHECK(table.ConsecutiveBack() == 11);
-}
-
 TEST_CASE("Without memory an append says so and leaves what stands") {
     std::mt19937_64 random(3);
     const auto values = AnySequence(random, 140'000);

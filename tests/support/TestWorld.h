@@ -77,7 +77,7 @@ private:
 class ScriptedDialogs final : public Dialogs {
 public:
     ~ScriptedDialogs() override {
-        CHECK_MESSAGE(StillExpected() == 0, "a dialog that was expected never came");
+        CHECK_MESSAGE(answers_.size() + fileAnswers_.size() == 0, "a dialog that was expected never came");
         CHECK_MESSAGE(expectedTells_ == 0, "a message that was expected never came");
     }
     DialogButton Ask(const MessageDialog& dialog) override {
@@ -108,7 +108,6 @@ public:
     }
     void ExpectTell() { ++expectedTells_; }
     void ExpectFile(std::optional<FolderItem> answer) { fileAnswers_.push_back(std::move(answer)); }
-    std::size_t StillExpected() const { return answers_.size() + fileAnswers_.size(); }
 
     std::vector<MessageDialog> asked;
     std::vector<std::string> told;

@@ -13,18 +13,15 @@ using namespace tessarolyne::tests;
 TEST_CASE("A question freezes the commands while it is up and gives everything back") {
     TestWorld world;
     Fncts& fncts = world.program->fncts;
-    App& app = world.program->app;
     for (const bool found : {true, false}) {
         fncts.DrapMenu = found;
         world.dialogs.Expect(DialogButton::Alternate, [&] {
             CHECK_FALSE(fncts.DrapMenu);
             CHECK(fncts.DrapDiagBox);
-            CHECK(app.MouseCursor == Cursor::Standard);
         });
         CHECK(fncts.MyDialogBox("", "why", "Ok", "", "Other", 1, nullptr) == 3);
         CHECK(fncts.DrapMenu == found);
         CHECK_FALSE(fncts.DrapDiagBox);
-        CHECK(app.MouseCursor == Cursor::None);
         CHECK(world.dialogs.asked.back().message == " ");
     }
 }
@@ -101,21 +98,6 @@ TEST_CASE("A calculation that began while a question was up keeps the commands f
     CHECK(world.program->fncts.DrapMenu);
 }
 
-TEST_CASE("Beeps stand ten ticks apart, and a sound that is playing sounds once more beside itself") {
-    TestWorld world;
-    Fncts& fncts = world.program->fncts;
-    const auto ticks = world.loop.Ticks();
-    fncts.BeepNbT(3);
-    fncts.BeepNbT(1);
-    fncts.BeepNbT(-1);
-    CHECK((world.sounds.beeps == 4 && world.loop.Ticks() - ticks == 20));
-    fncts.PlayT(fncts.Zoum, false);
-    const auto start = world.loop.Milliseconds();
-    fncts.PlayT(fncts.Zoum, true);
-    CHECK(world.sounds.played.size() == 2);
-    CHECK(world.loop.Milliseconds() - start == 100); // the one waited for
-}
-
 TEST_CASE("A chooser begins where its item stands, and suggests what fits it") {
     TestWorld world;
     Fncts& fncts = world.program->fncts;
@@ -139,22 +121,17 @@ TEST_CASE("A chooser begins where its item stands, and suggests what fits it") {
     CHECK(fncts.MyDialogLoad({}, "prompt", "text", nullptr) == at("/home/user/alias.txt"));
 }
 
-TEST_CASE("The overlay covers every other visible window for the time of a sheet, and answers with a beep") {
+TEST_CASE("Two routes of a conversion that disagree are reported, once until others do") {
     TestWorld world;
-    WinMain& window = world.Main();
-    WinNbresPremiers& list = world.program->winNbresPremiers();
-    world.dialogs.Expect(DialogButton::Action, [&] {
-        Label& overlay = list.LabBlockUI[1];
-        CHECK(overlay.Visible());
-        CHECK(overlay.Width() == list.Width());
-        list.UserResized(520, 700);
-        CHECK(overlay.Height() == 700);
-        const int beeps = world.sounds.beeps;
-        CHECK_FALSE(overlay.MouseDown(5, 5));
-        CHECK(world.sounds.beeps == beeps + 1);
-        CHECK_FALSE(window.LabBlockUI[1].Visible());
-    });
-    world.program->fncts.MyDialogBox("m", "", "Ok", "", "", 0, &window);
-    CHECK(world.dialogs.asked.back().sheetOf == &window);
-    CHECK_FALSE(list.LabBlockUI[1].Visible());
+    const auto disagree = [&](const char* fromSource) {
+        world.Main().ReportConversionMismatch("101", 2, fromSource, 16);
+    };
+    for (const char* fromSource : {"11", "10"}) {
+        world.dialogs.Expect(DialogButton::Action);
+        disagree(fromSource);
+        disagree(fromSource); // a second dialog would fail the test
+    }
+    CHECK(world.dialogs.asked.front().message ==
+          "Il y a une erreur de transcription de base !\rRésultat en base 2 \rdepuis base 10 = 101 "
+          "\rdepuis base 16 = 11 ");
 }

@@ -30,7 +30,6 @@ TEST_CASE(
     "Each part takes the noun of its own number, zero the singular, and a message goes before its own") {
     const Example examples[] = {
         {0, fr, "zéro euro zéro centime"},
-        {0, en, "zero euro zero centime"},
         {1.01, fr, "un euro un centime"},
         {21.80, chBe, "vingt et un euros huitante centimes"},
         {2.50, en, "two euros fifty centimes"},
@@ -38,7 +37,6 @@ TEST_CASE(
         {1000000, fr, "un million d'euros zéro centime"},
         {1000000000, en, "trop  grand !euros zero centime"},
         {1e12, chBe, "trop  grand !euros zéro centime"},
-        {1e300, fr, "trop  grand !euros zéro centime"},
         {std::numeric_limits<double>::infinity(), fr, "trop  grand !euros zéro centime"},
         {-0.01, fr, ""},
         {std::numeric_limits<double>::quiet_NaN(), fr, ""},

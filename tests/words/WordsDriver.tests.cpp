@@ -29,22 +29,6 @@ TEST_CASE("An amount is reworded at once by each choice of language, option and 
         words() == "Vous-devez-entrer-un-nombre-en-dessous-d'un-billion-(mille-milliards)-!francs zero sou");
 }
 
-TEST_CASE("What has no words says so") {
-    TestWorld world;
-    WinMain& window = world.Main();
-    window.EditFieldNbre.Text = "-3"; // the mask keeps a user from it
-    window.ConvNbreLettresD();
-    CHECK(window.TxtAreaLettres.Text() == "#Erreur Nbre !\nVous devez entrer un nombre positif !");
-    window.EditFieldNbre.Text = "n";
-    window.ConvNbreLettresD();
-    CHECK(window.TxtAreaLettres.Text() == "#Erreur Nbre !");
-    window.EditFieldNbre.Text = "2";
-    world.dialogs.ExpectTell();
-    window.PopupMenuLg.ListIndex = -1; // no row, which the three items can't give
-    CHECK(world.dialogs.told.back() ==
-          "Error ! Please contact the authors.\nConvNbreLettresD, PopupMenuLg.Text = ''");
-}
-
 TEST_CASE("The copy button copies the words, or with Option asks before it resets the currency") {
     TestWorld world;
     WinMain& window = world.Main();

@@ -1,0 +1,57 @@
+#include "desktop/WindowView.h"
+#include "support/TestWorld.h"
+
+#include <QAbstractItemView>
+#include <QApplication>
+#include <QComboBox>
+#include <QMouseEvent>
+
+#include <doctest/doctest.h>
+
+using namespace tessarolyne;
+
+namespace {
+
+// An application that needs no display.
+struct Offscreen {
+    int count = 1;
+    char name[6] = "tests";
+    char* arguments[2] = {name, nullptr};
+    const bool isSet = qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application{count, arguments};
+};
+
+} // namespace
+
+TEST_CASE("A control is greyed once it has been disabled for 150 ms, and refuses what comes from the first") {
+    const Offscreen offscreen;
+    tests::TestWorld world;
+    WinMain& window = world.Main();
+    const WindowView view(window, nullptr, false);
+    auto* const box = view.findChild<QWidget*>("CheckBoxMajusc");
+    auto* const menu = view.findChild<QComboBox*>("PopupMenuLg");
+    const auto click = [](QWidget* widget) {
+        for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+            const Qt::MouseButtons down = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+            QMouseEvent event(type, QPointF(8, 8), QPointF(8, 8), Qt::LeftButton, down, Qt::NoModifier);
+            QCoreApplication::sendEvent(widget, &event);
+        }
+    };
+    click(box);
+    CHECK(window.CheckBoxMajusc.Value);
+    for (const int disabledFor : {149, 150}) {
+        window.PopupMenuLg.Enabled = false;
+        click(menu);
+        CHECK_FALSE(menu->view()->isVisible());
+        window.CheckBoxMajusc.Enabled = false;
+        click(box);
+        window.CheckBoxMajusc.Enabled = true;
+        window.CheckBoxMajusc.Enabled = false;
+        world.loop.Advance(disabledFor);
+        CHECK(box->isEnabled() == (disabledFor < 150));
+        window.CheckBoxMajusc.Enabled = true;
+        window.PopupMenuLg.Enabled = true;
+        CHECK(box->isEnabled());
+        CHECK(window.CheckBoxMajusc.Value);
+    }
+}
