@@ -4,8 +4,8 @@
 
 #include "machine/PosixFileSystem.h"
 #include "machine/SystemClock.h"
-#include "primes/PrimeFile.h"
-#include "primes/PrimeGrowth.h"
+#include "primes/engine/PrimeFile.h"
+#include "primes/engine/PrimeGrowth.h"
 
 #include <algorithm>
 #include <array>

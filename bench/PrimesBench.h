@@ -2,8 +2,8 @@
 
 #include "machine/SystemClock.h"
 #include "machine/SystemMemory.h"
-#include "primes/PrimeTable.h"
-#include "primes/RunControl.h"
+#include "primes/engine/PrimeTable.h"
+#include "primes/engine/RunControl.h"
 
 #include <atomic>
 #include <chrono>

@@ -2,8 +2,8 @@
 
 #include "PrimesBench.h"
 
-#include "primes/Factors.h"
-#include "primes/PrimeGrowth.h"
+#include "primes/engine/Factors.h"
+#include "primes/engine/PrimeGrowth.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -2,7 +2,7 @@
 
 #include "PrimesBench.h"
 
-#include "primes/PrimeGrowth.h"
+#include "primes/engine/PrimeGrowth.h"
 
 #include <algorithm>
 #include <cstdio>

@@ -8,9 +8,9 @@
 // bare.
 namespace tessarolyne {
 
-// The masks of decimal numbers. The first leaves blanks for groups without digits, so that LTrim follows it.
+// The mask of decimal numbers in groups. It leaves blanks for groups without digits, so that LTrim follows
+// it.
 inline constexpr std::string_view groupedMask = R"(-###\ ###\ ###\ ###\ ###\ ##0)";
-inline constexpr std::string_view plainMask = "-#################0";
 
 // The text with the separator between groups of `groupSize` characters, counted from the right; unchanged if
 // the size is 0 or negative.

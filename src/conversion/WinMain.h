@@ -16,10 +16,10 @@
 #include "platform/TextField.h"
 #include "platform/Thread.h"
 #include "platform/Timer.h"
-#include "primes/BoundFile.h"
 #include "primes/CalculationProgress.h"
-#include "primes/PrimeTable.h"
-#include "primes/RunControl.h"
+#include "primes/engine/BoundFile.h"
+#include "primes/engine/PrimeTable.h"
+#include "primes/engine/RunControl.h"
 #include "ui/BlockingOverlay.h"
 #include "ui/ProgramWindow.h"
 

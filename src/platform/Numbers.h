@@ -40,6 +40,8 @@ std::string Str(Integer value) {
 // Digits for which there is no place stand before the first place, none is lost. A NaN is written as 0, an
 // infinity as the largest finite double.
 std::string Format(double value, std::string_view mask);
+// The mask of a number without groups.
+inline constexpr std::string_view plainMask = "-#################0";
 
 // The value without its fraction; the nearest value that the type has where it doesn't fit, 0 for a NaN.
 std::uint64_t ToUInt64(double value);

@@ -7,7 +7,7 @@
 #include "platform/Label.h"
 #include "platform/ProgressWheel.h"
 #include "platform/Text.h"
-#include "primes/PrimeTable.h"
+#include "primes/engine/PrimeTable.h"
 #include "ui/FracTexte.h"
 #include "ui/Localisation.h"
 

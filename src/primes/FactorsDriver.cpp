@@ -8,9 +8,9 @@
 #include "platform/Numbers.h"
 #include "platform/Services.h"
 #include "platform/Text.h"
-#include "primes/Factors.h"
-#include "primes/PrimeGrowth.h"
 #include "primes/WinNbresPremiers.h"
+#include "primes/engine/Factors.h"
+#include "primes/engine/PrimeGrowth.h"
 #include "ui/Localisation.h"
 
 #include <functional>

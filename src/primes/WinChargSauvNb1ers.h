@@ -3,7 +3,7 @@
 #include "platform/FileSystem.h"
 #include "platform/Label.h"
 #include "platform/ProgressBar.h"
-#include "primes/PrimeFile.h"
+#include "primes/engine/PrimeFile.h"
 #include "ui/BlockingOverlay.h"
 #include "ui/ModalWindow.h"
 

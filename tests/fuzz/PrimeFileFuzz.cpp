@@ -1,7 +1,7 @@
 // Any bytes whatever as a prime file: the quick reader finds what the plain one finds, wherever the chunks
 // end, and what it found comes back from the file that is written of it.
 #include "fuzz/Must.h"
-#include "primes/PlainPrimeFile.h"
+#include "primes/engine/PlainPrimeFile.h"
 
 using namespace tessarolyne;
 using namespace tessarolyne::tests;

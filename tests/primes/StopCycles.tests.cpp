@@ -1,9 +1,9 @@
 // Calculations that are started and stopped over and over, on real threads.
 
 #include "platform/Text.h"
-#include "primes/PrimeGrowth.h"
 #include "primes/RunFixture.h"
 #include "primes/WinNbresPremiers.h"
+#include "primes/engine/PrimeGrowth.h"
 #include "support/TestWorld.h"
 
 #include <doctest/doctest.h>

@@ -1,7 +1,7 @@
 #include "primes/WinChargSauvNb1ers.h"
 
 #include "platform/IOException.h"
-#include "primes/PlainPrimeFile.h"
+#include "primes/engine/PlainPrimeFile.h"
 #include "support/TestWorld.h"
 #include "ui/Localisation.h"
 

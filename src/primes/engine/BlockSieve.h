@@ -1,10 +1,10 @@
 #pragma once
 
-#include "primes/GapReader.h"
-#include "primes/PreSieve.h"
-#include "primes/PrimeTable.h"
-#include "primes/StrikeList.h"
-#include "primes/TurnStrikeList.h"
+#include "primes/engine/GapReader.h"
+#include "primes/engine/PreSieve.h"
+#include "primes/engine/PrimeTable.h"
+#include "primes/engine/StrikeList.h"
+#include "primes/engine/TurnStrikeList.h"
 
 #include <cstdint>
 #include <span>

@@ -1,7 +1,7 @@
-#include "primes/TurnStrikeList.h"
+#include "primes/engine/TurnStrikeList.h"
 
-#include "primes/StrikeProduct.h"
-#include "primes/Wheel30.h"
+#include "primes/engine/StrikeProduct.h"
+#include "primes/engine/Wheel30.h"
 
 #include <algorithm>
 

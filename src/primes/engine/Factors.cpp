@@ -1,7 +1,7 @@
-#include "primes/Factors.h"
+#include "primes/engine/Factors.h"
 
-#include "primes/Primality.h"
-#include "primes/PrimeGrowth.h"
+#include "primes/engine/Primality.h"
+#include "primes/engine/PrimeGrowth.h"
 
 #include <algorithm>
 #include <span>

@@ -1,4 +1,4 @@
-#include "primes/RunControl.h"
+#include "primes/engine/RunControl.h"
 
 namespace tessarolyne {
 

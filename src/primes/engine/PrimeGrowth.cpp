@@ -1,8 +1,8 @@
-#include "primes/PrimeGrowth.h"
+#include "primes/engine/PrimeGrowth.h"
 
-#include "primes/BlockSieve.h"
-#include "primes/Primality.h"
-#include "primes/TrialDivision.h"
+#include "primes/engine/BlockSieve.h"
+#include "primes/engine/Primality.h"
+#include "primes/engine/TrialDivision.h"
 
 #include <algorithm>
 #include <limits>

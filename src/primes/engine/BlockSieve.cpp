@@ -1,6 +1,6 @@
-#include "primes/BlockSieve.h"
+#include "primes/engine/BlockSieve.h"
 
-#include "primes/Wheel30.h"
+#include "primes/engine/Wheel30.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
-#include "primes/PrimeTable.h"
+#include "primes/engine/PrimeTable.h"
 
-#include "primes/Reference.h"
 #include "primes/RunFixture.h"
+#include "primes/engine/Reference.h"
 
 #include <doctest/doctest.h>
 

@@ -1,6 +1,6 @@
-#include "primes/TrialDivision.h"
+#include "primes/engine/TrialDivision.h"
 
-#include "primes/PrimeGrowth.h"
+#include "primes/engine/PrimeGrowth.h"
 
 #include <cmath>
 

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/FolderItem.h"
-#include "primes/PrimeFile.h"
-#include "primes/PrimeTable.h"
+#include "primes/engine/PrimeFile.h"
+#include "primes/engine/PrimeTable.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/FileSystem.h"
-#include "primes/PrimeTable.h"
+#include "primes/engine/PrimeTable.h"
 
 #include <cstddef>
 #include <cstdint>

@@ -1,6 +1,6 @@
-#include "primes/Primality.h"
+#include "primes/engine/Primality.h"
 
-#include "primes/Reference.h"
+#include "primes/engine/Reference.h"
 
 #include <doctest/doctest.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "primes/PrimeTable.h"
-#include "primes/RunControl.h"
+#include "primes/engine/PrimeTable.h"
+#include "primes/engine/RunControl.h"
 
 #include <cstdint>
 #include <vector>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "primes/Wheel30.h"
+#include "primes/engine/Wheel30.h"
 
 #include <cstdint>
 #include <utility>

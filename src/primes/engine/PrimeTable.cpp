@@ -1,4 +1,4 @@
-#include "primes/PrimeTable.h"
+#include "primes/engine/PrimeTable.h"
 
 #include <algorithm>
 #include <cstring>

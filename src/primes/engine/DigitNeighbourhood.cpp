@@ -1,4 +1,4 @@
-#include "primes/DigitNeighbourhood.h"
+#include "primes/engine/DigitNeighbourhood.h"
 
 #include <algorithm>
 #include <array>

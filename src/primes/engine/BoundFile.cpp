@@ -1,4 +1,4 @@
-#include "primes/BoundFile.h"
+#include "primes/engine/BoundFile.h"
 
 #include <exception>
 

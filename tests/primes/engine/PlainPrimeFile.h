@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Numbers.h"
-#include "primes/PrimeFile.h"
+#include "primes/engine/PrimeFile.h"
 #include "support/MemoryFileSystem.h"
 
 #include <algorithm>

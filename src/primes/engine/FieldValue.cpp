@@ -1,4 +1,4 @@
-#include "primes/FieldValue.h"
+#include "primes/engine/FieldValue.h"
 
 #include "platform/Ascii.h"
 #include "platform/Numbers.h"

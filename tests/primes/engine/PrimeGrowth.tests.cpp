@@ -1,8 +1,8 @@
-#include "primes/PrimeGrowth.h"
+#include "primes/engine/PrimeGrowth.h"
 
-#include "primes/Primality.h"
-#include "primes/Reference.h"
 #include "primes/RunFixture.h"
+#include "primes/engine/Primality.h"
+#include "primes/engine/Reference.h"
 
 #include <doctest/doctest.h>
 

@@ -1,7 +1,7 @@
-#include "primes/StrikeList.h"
+#include "primes/engine/StrikeList.h"
 
-#include "primes/StrikeProduct.h"
-#include "primes/Wheel30.h"
+#include "primes/engine/StrikeProduct.h"
+#include "primes/engine/Wheel30.h"
 
 #include <algorithm>
 

@@ -1,9 +1,9 @@
-#include "primes/Factors.h"
+#include "primes/engine/Factors.h"
 
-#include "primes/Primality.h"
-#include "primes/PrimeGrowth.h"
-#include "primes/Reference.h"
 #include "primes/RunFixture.h"
+#include "primes/engine/Primality.h"
+#include "primes/engine/PrimeGrowth.h"
+#include "primes/engine/Reference.h"
 
 #include <doctest/doctest.h>
 

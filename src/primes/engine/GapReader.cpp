@@ -1,6 +1,6 @@
-#include "primes/GapReader.h"
+#include "primes/engine/GapReader.h"
 
-#include "primes/Wheel30.h"
+#include "primes/engine/Wheel30.h"
 
 #include <array>
 #include <cstring>

@@ -1,8 +1,8 @@
 #include "platform/Ascii.h"
 #include "platform/IOException.h"
-#include "primes/DigitNeighbourhood.h"
-#include "primes/FieldValue.h"
-#include "primes/PrimeFile.h"
+#include "primes/engine/DigitNeighbourhood.h"
+#include "primes/engine/FieldValue.h"
+#include "primes/engine/PrimeFile.h"
 
 #include <algorithm>
 #include <array>

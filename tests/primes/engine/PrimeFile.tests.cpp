@@ -1,7 +1,7 @@
 #include "platform/IOException.h"
-#include "primes/PlainPrimeFile.h"
-#include "primes/Reference.h"
 #include "primes/RunFixture.h"
+#include "primes/engine/PlainPrimeFile.h"
+#include "primes/engine/Reference.h"
 
 #include <doctest/doctest.h>
 

@@ -1,6 +1,6 @@
-#include "primes/Primality.h"
+#include "primes/engine/Primality.h"
 
-#include "primes/Montgomery.h"
+#include "primes/engine/Montgomery.h"
 
 #include <algorithm>
 #include <bit>

@@ -1,6 +1,5 @@
-#include "conversion/NumberFormat.h"
 #include "platform/Numbers.h"
-#include "primes/PrimeFile.h"
+#include "primes/engine/PrimeFile.h"
 
 #include <algorithm>
 #include <array>

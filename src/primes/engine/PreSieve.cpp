@@ -1,6 +1,6 @@
-#include "primes/PreSieve.h"
+#include "primes/engine/PreSieve.h"
 
-#include "primes/Wheel30.h"
+#include "primes/engine/Wheel30.h"
 
 #include <algorithm>
 #include <array>
