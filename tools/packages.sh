@@ -17,7 +17,7 @@ packagesForVirtualDisplay=(xvfb openbox imagemagick)
 # shellcheck disable=SC2034
 packagesToPackage=(dpkg-dev file gzip)
 
-# A desktop with Wayland alone.
+# A desktop with Wayland.
 # shellcheck disable=SC2034
 packagesForWayland=(qt6-wayland)
 
@@ -26,7 +26,7 @@ packagesForWayland=(qt6-wayland)
 packagesToTest=(
     doctest-dev clang-format
     desktop-file-utils appstream
-    python3 python3-gi gir1.2-atspi-2.0 at-spi2-core dbus-daemon x11-utils xclip
+    python3 python3-gi gir1.2-atspi-2.0 at-spi2-core dbus-daemon x11-utils xclip weston "${packagesForWayland[@]}"
 )
 
 # What only ./test --long needs.

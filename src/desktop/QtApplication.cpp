@@ -10,6 +10,8 @@
 #include <QSessionManager>
 #include <QSocketNotifier>
 
+#include <cstdlib>
+#include <iostream>
 #include <string>
 #include <utility>
 
@@ -17,20 +19,35 @@ namespace tessarolyne {
 
 namespace {
 
-bool PrefersX() {
-#ifdef Q_OS_LINUX
-    return !qEnvironmentVariableIsEmpty("DISPLAY") && !qEnvironmentVariableIsSet("QT_QPA_PLATFORM");
-#else
-    return false;
-#endif
+// The session's own first; the other may be there all the same, or its plugin alone.
+QByteArray Platforms() {
+    const QByteArray chosen = qgetenv("QT_QPA_PLATFORM");
+    const bool isWayland =
+        !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") || qgetenv("XDG_SESSION_TYPE") == "wayland";
+    return !chosen.isEmpty() ? chosen : isWayland ? "wayland;xcb" : "xcb;wayland";
+}
+
+// Qt tells each display that it doesn't find, and where none is left it aborts, which leaves a core.
+void TellMissingDisplay(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    if (type == QtFatalMsg) {
+        std::cerr << "tessarolyne: no display can be opened as " << Platforms().toStdString()
+                  << " (DISPLAY is “" << qgetenv("DISPLAY").toStdString() << "”, WAYLAND_DISPLAY “"
+                  << qgetenv("WAYLAND_DISPLAY").toStdString() << "”)" << std::endl;
+        std::_Exit(1);
+    }
+    const bool isAboutDisplays = type == QtCriticalMsg || qstrncmp(context.category, "qt.qpa.", 7) == 0;
+    if (type == QtDebugMsg || !isAboutDisplays) {
+        std::cerr << FromQt(qFormatLogMessage(type, context, text)) << std::endl;
+    }
 }
 
 } // namespace
 
 detail::QtArguments::QtArguments(std::span<const char* const> more) : texts{"tessarolyne"} {
-    if (PrefersX()) {
-        texts.insert(texts.end(), {"-platform", "xcb"});
-    }
+#ifdef Q_OS_LINUX
+    texts.insert(texts.end(), {"-platform", Platforms().toStdString()});
+#endif
+    qInstallMessageHandler(TellMissingDisplay);
     texts.insert(texts.end(), more.begin(), more.end());
     for (std::string& text : texts) {
         pointers.push_back(text.data());
@@ -42,6 +59,8 @@ detail::QtArguments::QtArguments(std::span<const char* const> more) : texts{"tes
 QtApplication::QtApplication(
     const std::string& name, const std::string& identifier, std::span<const char* const> options)
     : QtArguments(options), QApplication(count, pointers.data()) {
+    qInstallMessageHandler(nullptr);
+    setLayoutDirection(Qt::LeftToRight); // as all numbers and all texts are, on every desktop
     setApplicationName(ToQt(name));
     setDesktopFileName(ToQt(identifier));
     setQuitOnLastWindowClosed(false);

@@ -24,8 +24,9 @@ struct QtArguments {
 };
 } // namespace detail
 
-// Qt's application object, set up for this program: X before Wayland (which places no windows), no quit of
-// its own, and the desktop's requests handed on. Made first thing in main(), after nothing but the machine.
+// Qt's application object, set up for this program: the session's display, X or Wayland, from left to right,
+// no quit of its own, and the desktop's requests handed on. Made first thing in main(), after nothing but the
+// machine. Where there is no display it ends the process with one line and status 1.
 class QtApplication final : private detail::QtArguments, public QApplication {
 public:
     // `identifier` is the reverse domain name of the desktop entry. `options` are for Qt: the X session's.

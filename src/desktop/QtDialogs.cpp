@@ -7,13 +7,11 @@
 #include "desktop/WindowView.h"
 #include "platform/EventLoop.h"
 
-#include <QApplication>
 #include <QChildEvent>
 #include <QFile>
 #include <QFileDialog>
 #include <QMessageBox>
 #include <QPointer>
-#include <QWindow>
 
 namespace tessarolyne {
 
@@ -99,11 +97,8 @@ QWidget* QtDialogs::ParentFor(const Window* sheetOf) const {
 }
 
 void QtDialogs::Run(QDialog& dialog) {
-    // A free-standing dialog still stands before the window that the user is in.
-    if (QWidget* const active = QApplication::activeWindow();
-        dialog.parentWidget() == nullptr && active != nullptr && active->windowHandle() != nullptr) {
-        dialog.winId();
-        dialog.windowHandle()->setTransientParent(active->windowHandle());
+    if (dialog.parentWidget() == nullptr) {
+        StandBeforeOthers(dialog);
     }
     bool gone = false;
     QObject::connect(&dialog, &QDialog::finished, &dialog, [&gone] { gone = true; });

@@ -43,11 +43,28 @@ QAccessibleInterface* MakeAccess(const QString&, QObject* object) {
     return new QAccessibleWidget(view, isDialog ? QAccessible::Dialog : QAccessible::Window);
 }
 
+// Wayland neither tells a window where it stands nor lets it choose.
+bool PlacesWindows() {
+    return !QGuiApplication::platformName().startsWith(u"wayland");
+}
+
 Qt::CursorShape Shape(Cursor cursor) {
     return cursor == Cursor::Finger ? Qt::PointingHandCursor : Qt::ArrowCursor;
 }
 
 } // namespace
+
+void StandBeforeOthers(QWidget& dialog) {
+    const QWidget* const active = QApplication::activeWindow();
+    QWindow* before = active == nullptr ? nullptr : active->windowHandle();
+    for (QWindow* const window : QGuiApplication::topLevelWindows()) {
+        if (before == nullptr && window->isVisible() && window->type() == Qt::Window) {
+            before = window;
+        }
+    }
+    dialog.winId();
+    dialog.windowHandle()->setTransientParent(before);
+}
 
 WindowView::WindowView(Window& window, QtMenu* menu, bool withBar)
     : QWidget(nullptr, Flags(window.Frame)), window_(window), content_(new WindowContent(this)),
@@ -212,8 +229,10 @@ void WindowView::PullOntoScreen() {
     const QRect available = screen()->availableGeometry();
     const QRect frame = frameGeometry();
     const QPoint lastPlace(available.right() + 1 - frame.width(), available.bottom() + 1 - frame.height());
-    move(std::max(std::min(frame.left(), lastPlace.x()), available.left()),
-        std::max(std::min(frame.top(), lastPlace.y()), available.top()));
+    if (PlacesWindows()) {
+        move(std::max(std::min(frame.left(), lastPlace.x()), available.left()),
+            std::max(std::min(frame.top(), lastPlace.y()), available.top()));
+    }
     TellPlace();
 }
 
@@ -227,7 +246,7 @@ void WindowView::ShowFocus() {
 void WindowView::ReadPlace() {
     const QPoint place(window_.Left, window_.Top);
     const bool given = testAttribute(Qt::WA_Moved) || !place.isNull();
-    if (given && pos() != place) {
+    if (given && pos() != place && PlacesWindows()) {
         move(place);
     }
 }
@@ -237,10 +256,8 @@ void WindowView::ReadVisible() {
         return;
     }
     if (window_.Visible()) {
-        QWidget* const active = QApplication::activeWindow();
-        if (window_.Frame.kind == WindowFrame::Kind::MovableModal && active != nullptr) {
-            winId();
-            windowHandle()->setTransientParent(active->windowHandle());
+        if (window_.Frame.kind == WindowFrame::Kind::MovableModal) {
+            StandBeforeOthers(*this);
         }
         setAttribute(Qt::WA_ShowWithoutActivating, !window_.TakesKeyboard());
         show();
@@ -285,7 +302,7 @@ void WindowView::moveEvent(QMoveEvent* event) {
 }
 
 void WindowView::TellPlace() {
-    if (reading_ || !isVisible() || !placed_ || window_.IsClosed() || isMinimized()) {
+    if (reading_ || !PlacesWindows() || !isVisible() || !placed_ || window_.IsClosed() || isMinimized()) {
         return;
     }
     reading_ = true;
@@ -304,6 +321,16 @@ void WindowView::resizeEvent(QResizeEvent* event) {
     reading_ = false;
 }
 
+// A window manager that knows nothing of modality, as under Wayland, activates the window behind on a click.
+void WindowView::GiveKeysToDialog() {
+    QWidget* const dialog = QApplication::activeModalWidget();
+    if (dialog != nullptr && dialog != this &&
+        (dialog->parentWidget() == this || dialog->windowModality() == Qt::ApplicationModal)) {
+        dialog->raise();
+        dialog->activateWindow();
+    }
+}
+
 void WindowView::keyPressEvent(QKeyEvent* event) {
     event->setAccepted(focus_.WindowKey(*event));
 }
@@ -313,6 +340,7 @@ bool WindowView::event(QEvent* event) {
         PullOntoScreen();
         TellPlace();
         focus_.SyncSoon();
+        QTimer::singleShot(0, this, [this] { GiveKeysToDialog(); }); // else Qt takes it for this window again
     }
     return QWidget::event(event);
 }

@@ -15,6 +15,10 @@ class QtMenu;
 class Window;
 class WindowContent;
 
+// Lets a free-standing dialog stand before the window that the user is in, else before the first that is
+// shown: a click on that would else take the keys from the one that waits for an answer.
+void StandBeforeOthers(QWidget& dialog);
+
 // The real window of a model: its frame, menu bar and controls. The menu bar stands above the model's
 // area, which keeps its size and scrolls where the screen is smaller. The view never closes by itself; it
 // asks the model, and goes when that has closed.
@@ -51,6 +55,7 @@ private:
     void TellPlace();
     int BarHeight() const;
     void Raise();
+    void GiveKeysToDialog();
     void ModelClosed();
 
     Window& window_;

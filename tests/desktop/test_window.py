@@ -1,28 +1,9 @@
 """The window opens, closes and comes back where it was."""
 
 import re
-import signal
 
 from case import ProgramTestCase
 from screen import ROOT
-
-
-class Quitting(ProgramTestCase):
-    def setUp(self):
-        if not self.program.running:
-            self.start_program()
-
-    def test_the_close_box_quits(self):
-        self.program.click_close_box()
-        self.assertEqual(self.program.wait_for_end(), 0)
-
-    def test_signals_end_the_program_in_good_order(self):
-        for number in (signal.SIGTERM, signal.SIGINT, signal.SIGHUP):
-            with self.subTest(signal=number.name):
-                if not self.program.running:
-                    self.start_program()
-                self.program.signal(number)
-                self.assertEqual(self.program.wait_for_end(), 0)
 
 
 class DecliningToQuit(ProgramTestCase):
@@ -77,8 +58,8 @@ class Window(ProgramTestCase):
     def test_the_window_comes_back_where_it_was_and_does_not_creep(self):
         self.program.move(173, 91)
         place = self.program.position
-        for _ in range(3):
-            self.screen.press("ctrl+q")
+        for leave in (lambda: self.program.click_close_box(), lambda: self.screen.press("ctrl+q")):
+            leave()
             self.assertEqual(self.program.wait_for_end(), 0)
             self.start_program()
             self.assertEqual(self.program.position, place)
