@@ -84,7 +84,7 @@ protected:
 
 FieldView::FieldView(TextField& model, QWidget* parent)
     : ControlView(model, new LineEdit(parent)), model_(model), edit_(static_cast<QLineEdit*>(Widget())) {
-    TellLinesWhole();
+    TellTextsAsTheyAre();
     edit_->setFocusPolicy(Qt::StrongFocus);
     static_cast<LineEdit*>(edit_)->onInsert = [this](const QString& text) { return Inserted(text); };
     static_cast<LineEdit*>(edit_)->onMenu = [&model](QMenu* menu, const QContextMenuEvent& event) {

@@ -9,6 +9,8 @@ namespace tessarolyne {
 
 namespace {
 
+// All of the text has the same attributes. Qt's own says that no character has any run of attributes; a
+// reader that speaks run by run then leaves out the last character, and 255 is heard as 25.
 class LineAccess final : public QAccessibleWidget,
                          public QAccessibleTextInterface,
                          public QAccessibleEditableTextInterface {
@@ -97,14 +99,33 @@ private:
     QLineEdit& line_;
 };
 
-QAccessibleInterface* MakeAccess(const QString&, QObject* object) {
-    auto* const line = qobject_cast<QLineEdit*>(object);
-    return line == nullptr ? nullptr : new LineAccess(*line);
+// What hands its focus on to another widget, as a text's viewport does. Qt says that both of them have it.
+class ProxiedAccess final : public QAccessibleWidget {
+public:
+    using QAccessibleWidget::QAccessibleWidget;
+
+    QAccessible::State state() const override {
+        QAccessible::State state = QAccessibleWidget::state();
+        state.focused = state.focused && widget()->focusProxy() == nullptr;
+        return state;
+    }
+};
+
+QAccessibleInterface* MakeAccess(const QString& className, QObject* object) {
+    if (auto* const line = qobject_cast<QLineEdit*>(object)) {
+        return new LineAccess(*line);
+    }
+    auto* const widget = qobject_cast<QWidget*>(object);
+    if (className == QLatin1String("QDialogButtonBox")) {
+        return new ProxiedAccess(widget, QAccessible::Grouping);
+    }
+    const bool isPlain = className == QLatin1String("QWidget") && widget->focusProxy() != nullptr;
+    return isPlain ? new ProxiedAccess(widget) : nullptr;
 }
 
 } // namespace
 
-void TellLinesWhole() {
+void TellTextsAsTheyAre() {
     QAccessible::installFactory(MakeAccess); // once, however often it is called
 }
 

@@ -121,8 +121,11 @@ class ProgramTestCase(unittest.TestCase):
         )
 
     def wait_for_focus(self, told_name):
-        control = self.control(told_name)
-        self.program.wait_for(lambda: control.focused, lambda: f"{told_name} to have the focus, not {self.focused()}")
+        name = self.control(told_name).name
+        self.program.wait_for(
+            lambda: [c.name for c in self.focused()] == [name],
+            lambda: f"{told_name} alone to have the focus, not {self.focused()}",
+        )
 
     def focused(self):
         """The controls that say they have the focus."""
