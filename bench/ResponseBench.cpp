@@ -6,6 +6,7 @@
 #include "conversion/WinMain.h"
 #include "desktop/QtApplication.h"
 #include "desktop/QtServices.h"
+#include "desktop/Resources.h"
 #include "machine/PosixFileSystem.h"
 #include "machine/SystemClock.h"
 #include "machine/SystemMemory.h"
@@ -236,7 +237,7 @@ private:
 int main() {
     const Home home;
     SystemClock clock;
-    PosixFileSystem files;
+    PosixFileSystem files(FindFolder);
     SystemMemory memory;
     QtApplication application("Tessarolyne", "org.tessarolyne.Tessarolyne");
     QtServices desktop(files);

@@ -5,6 +5,7 @@
 #include "conversion/WinMain.h"
 #include "desktop/QtApplication.h"
 #include "desktop/QtServices.h"
+#include "desktop/Resources.h"
 #include "machine/PosixFileSystem.h"
 #include "machine/SystemClock.h"
 #include "machine/SystemMemory.h"
@@ -49,7 +50,7 @@ void Check(const std::string& url) {
     setenv("QT_LOGGING_RULES", "default.warning=false", 1); // of all that this platform can't do
     std::ofstream(home + "/Tessarolyne Prefs.txt") << "Deja Envoye Don 03 :@: True\n";
     SystemClock clock;
-    PosixFileSystem files;
+    PosixFileSystem files(FindFolder);
     SystemMemory memory;
     QtApplication application("UpdateMemoryBench", "org.tessarolyne.Benchmark");
     QtServices services(files);

@@ -4,6 +4,7 @@
 #include "desktop/QtApplication.h"
 #include "desktop/QtServices.h"
 #include "desktop/QtTranslations.h"
+#include "desktop/Resources.h"
 #include "machine/PosixFileSystem.h"
 #include "machine/Signals.h"
 #include "machine/SystemClock.h"
@@ -23,7 +24,7 @@ int main(int count, char** arguments) {
     }
 
     SystemClock clock;
-    PosixFileSystem files;
+    PosixFileSystem files(FindFolder);
     SystemMemory memory;
     Signals endSignals;
 

@@ -5,6 +5,7 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QStandardPaths>
 
 namespace tessarolyne {
 
@@ -34,6 +35,26 @@ QString ResourcePath(const std::string& name) {
 
 QString ResourceFolder(const std::string& name) {
     return FirstPlace(name, &QFileInfo::isDir);
+}
+
+std::optional<std::string> FindFolder(KnownFolder folder) {
+    constexpr auto userAlone = QFileDevice::ReadOwner | QFileDevice::WriteOwner | QFileDevice::ExeOwner;
+    using enum QStandardPaths::StandardLocation;
+    QString path = QCoreApplication::applicationDirPath();
+    if (folder == KnownFolder::Home) {
+        return QStandardPaths::writableLocation(HomeLocation)
+            .toStdString(); // as it stands there, links included
+    }
+    if (folder == KnownFolder::Documents) {
+        path = QStandardPaths::writableLocation(DocumentsLocation);
+    } else if (folder == KnownFolder::Preferences) {
+        path = QStandardPaths::writableLocation(GenericConfigLocation);
+        if (!QFileInfo::exists(path) && QDir().mkpath(path)) {
+            QFile::setPermissions(path, userAlone);
+        }
+    }
+    const QFileInfo found(path);
+    return found.isDir() ? std::optional(FromQt(found.canonicalFilePath())) : std::nullopt;
 }
 
 } // namespace tessarolyne

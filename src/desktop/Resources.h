@@ -1,7 +1,10 @@
 #pragma once
 
+#include "platform/FileSystem.h"
+
 #include <QString>
 
+#include <optional>
 #include <string>
 
 namespace tessarolyne {
@@ -12,5 +15,9 @@ QString ResourcePath(const std::string& name);
 
 // The same for a folder of them ("translations").
 QString ResourceFolder(const std::string& name);
+
+// Where the desktop keeps things, without a link in the path; nothing if there is no such folder. The one for
+// preferences is made if it is missing, readable to the user alone.
+std::optional<std::string> FindFolder(KnownFolder folder);
 
 } // namespace tessarolyne

@@ -1,7 +1,6 @@
 #include "machine/PosixFileSystem.h"
 
 #include "machine/Descriptor.h"
-#include "machine/KnownFolders.h"
 #include "machine/MountedVolumes.h"
 #include "machine/SafeFile.h"
 #include "machine/SaveTarget.h"
@@ -115,7 +114,7 @@ bool MayDo(const std::string& path, int what) {
 
 } // namespace
 
-PosixFileSystem::PosixFileSystem() {
+PosixFileSystem::PosixFileSystem(FindFolder find) : find_(std::move(find)) {
     std::signal(SIGXFSZ, SIG_IGN);
 }
 
@@ -172,20 +171,6 @@ std::optional<std::string> PosixFileSystem::VolumeNameAt(const std::string& path
     return found == volumes.end() ? std::nullopt : std::optional(found->name);
 }
 
-std::optional<std::string> PosixFileSystem::Find(KnownFolder folder) {
-    switch (folder) {
-    case KnownFolder::Home:
-        return HomeFolder();
-    case KnownFolder::Preferences:
-        return PreferencesFolder();
-    case KnownFolder::Documents:
-        return DocumentsFolder();
-    case KnownFolder::Application:
-        return ApplicationFolder();
-    }
-    return std::nullopt;
-}
-
 bool PosixFileSystem::MakeFolder(const std::string& path) {
     return ::mkdir(path.c_str(), 0777) == 0;
 }
@@ -229,14 +214,6 @@ void PosixFileSystem::KeepAs(const std::string& path, const std::string& copy) {
 
 void PosixFileSystem::SweepLeftovers(const std::string& folder) {
     SweepTemporaryFiles(folder);
-}
-
-bool PosixFileSystem::GetFileValue(const std::string& urlPath, const std::string& key, void*& value) {
-    return foundation_.GetResourceValue(urlPath, key, value);
-}
-
-bool PosixFileSystem::BoolValue(void* value) {
-    return foundation_.BoolValue(value);
 }
 
 } // namespace tessarolyne

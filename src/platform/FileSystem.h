@@ -101,11 +101,8 @@ public:
     // alone.
     virtual void SweepLeftovers(const std::string& folder) = 0;
 
-    // A value that the system files under `key` for the item at `urlPath`, or with the result false an error
-    // object or nothing. The value belongs to the system.
-    virtual bool GetFileValue(const std::string& urlPath, const std::string& key, void*& value) = 0;
-    // Such a value as a truth value.
-    virtual bool BoolValue(void* value) = 0;
+    // Whether the folder is one that the system shows as a single file, as macOS does.
+    virtual bool IsPackage(const std::string&) const { return false; }
 };
 
 } // namespace tessarolyne

@@ -10,7 +10,7 @@ namespace tessarolyne {
 class Playing {
 public:
     virtual ~Playing() = default;
-    // False at the latest when the sound's length has passed, also on a machine that can't play it.
+    // False on a machine that can't play it.
     virtual bool IsPlaying() const = 0;
 };
 

@@ -104,16 +104,11 @@ std::optional<FolderItem> MemeItem(const std::optional<FolderItem>& item) {
 }
 
 bool IsPackage_f(const FolderItem& item) {
-    void* valeur = nullptr;
-    return GetFileValue(item, "NSURLIsPackageKey", valeur) && item.Files().BoolValue(valeur);
+    return item.Files().IsPackage(item.NativePath());
 }
 
 bool DossPasPack_f(const FolderItem& item) {
     return item.Directory() && !IsPackage_f(item);
-}
-
-bool GetFileValue(const FolderItem& item, const std::string& cle, void*& valeur) {
-    return item.Files().GetFileValue(item.URLPath(), cle, valeur);
 }
 
 } // namespace tessarolyne

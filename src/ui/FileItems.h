@@ -37,8 +37,4 @@ bool IsPackage_f(const FolderItem& item);
 // A folder that is no package.
 bool DossPasPack_f(const FolderItem& item);
 
-// The value that the system files for the item under `cle`. With the result false, `valeur` is the system's
-// error object or unchanged.
-bool GetFileValue(const FolderItem& item, const std::string& cle, void*& valeur);
-
 } // namespace tessarolyne

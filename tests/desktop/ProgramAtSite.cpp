@@ -5,6 +5,7 @@
 #include "app/Version.h"
 #include "desktop/QtApplication.h"
 #include "desktop/QtServices.h"
+#include "desktop/Resources.h"
 #include "machine/PosixFileSystem.h"
 #include "machine/SystemClock.h"
 #include "machine/SystemMemory.h"
@@ -16,7 +17,7 @@ int main(int count, char** arguments) {
         return 2;
     }
     SystemClock clock;
-    PosixFileSystem files;
+    PosixFileSystem files(FindFolder);
     SystemMemory memory;
     QtApplication desktop("Tessarolyne", applicationIdentifier);
     HttpLimits limits;

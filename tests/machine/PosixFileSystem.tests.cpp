@@ -1,6 +1,5 @@
 #include "machine/PosixFileSystem.h"
 #include "machine/FailingCalls.h"
-#include "machine/KnownFolders.h"
 #include "machine/MountedVolumes.h"
 #include "machine/TemporaryFolder.h"
 #include "platform/IOException.h"
@@ -20,14 +19,6 @@ namespace fs = std::filesystem;
 
 struct Disk : TemporaryFolder {
     PosixFileSystem files;
-
-    // Where a folder is found, with these variables; tests that ask set both.
-    std::optional<std::string> Find(
-        KnownFolder folder, const std::string& home, const std::string& configuration) {
-        ::setenv("HOME", home.c_str(), 1);
-        ::setenv("XDG_CONFIG_HOME", configuration.c_str(), 1);
-        return files.Find(folder);
-    }
     std::string Canonical(const std::string& name) const { return fs::canonical(Path()) / name; }
 };
 
@@ -133,29 +124,4 @@ TEST_CASE("A file is kept apart from itself, open to no more people, and never l
     fs::create_symlink(bad, file);
     CHECK_THROWS_AS(disk.files.KeepAs(file, bad), IOException);
     CHECK(ReadFile(bad) == "only");
-}
-
-TEST_CASE(
-    "The user's folders are the configured ones, made for the user alone, else the usual ones or none") {
-    Disk disk;
-    CHECK(disk.Find(KnownFolder::Preferences, disk / "home", disk / "a/b") == disk.Canonical("a/b"));
-    CHECK(fs::status(disk / "a/b").permissions() == fs::perms::owner_all);
-    CHECK(disk.Find(KnownFolder::Preferences, disk / "home", "a/b") == disk.Canonical("home/.config"));
-    WriteFile(disk / "file", "");
-    CHECK_FALSE(disk.Find(KnownFolder::Preferences, disk / "home", disk / "file/x").has_value());
-    const auto documents = [&] { return disk.Find(KnownFolder::Documents, disk.Path(), disk / "c"); };
-    CHECK_FALSE(documents().has_value());
-    for (const char* name : {"Documents", "Mes \"écrits\"", "c"}) {
-        fs::create_directories(disk / name);
-    }
-    CHECK(documents() == disk.Canonical("Documents"));
-    WriteFile(disk / "c/user-dirs.dirs", "# comment\nXDG_MUSIC_DIR=\"$HOME/M\"\n"
-                                         "XDG_DOCUMENTS_DIR=\"$HOME/Mes \\\"écrits\\\"\"\n");
-    CHECK(documents() == disk.Canonical("Mes \"écrits\""));
-}
-
-TEST_CASE("Without the system's library the package question is false") {
-    void* value = nullptr;
-    CHECK_FALSE(Foundation("/none").GetResourceValue("file:///x", "NSURLIsPackageKey", value));
-    CHECK_FALSE(Foundation("/none").BoolValue(&value));
 }

@@ -46,7 +46,7 @@ public:
     std::map<KnownFolder, std::string> known;
     std::set<std::string> unreadable;
     std::set<std::string> unwritable;
-    std::set<std::string> packages; // URLs
+    std::set<std::string> packages;
     std::vector<std::string> swept;
 
     FolderItem At(std::string_view path) { return FolderItem::FromNativePath(*this, path).value(); }
@@ -117,11 +117,7 @@ public:
         entries[copy] = entries.at(*place);
     }
     void SweepLeftovers(const std::string& folder) override { swept.push_back(folder); }
-    bool GetFileValue(const std::string& urlPath, const std::string& key, void*& value) override {
-        value = this;
-        return key == "NSURLIsPackageKey" && packages.contains(urlPath);
-    }
-    bool BoolValue(void* value) override { return value == this; }
+    bool IsPackage(const std::string& path) const override { return packages.contains(path); }
 
 private:
     class Output final : public OutputFile {
