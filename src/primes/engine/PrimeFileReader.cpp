@@ -1,7 +1,7 @@
 #include "platform/Ascii.h"
 #include "platform/IOException.h"
+#include "platform/Numbers.h"
 #include "primes/engine/DigitNeighbourhood.h"
-#include "primes/engine/FieldValue.h"
 #include "primes/engine/PrimeFile.h"
 
 #include <algorithm>
@@ -10,7 +10,7 @@
 #include <limits>
 #include <span>
 #include <string>
-#include <vector>
+#include <string_view>
 
 namespace tessarolyne {
 
@@ -21,30 +21,13 @@ constexpr std::string_view headerMark = " : ";
 constexpr std::string_view lineEnds = "\r\n";
 constexpr std::string_view blanks = " \t\r\n";
 
+// A longer first line is no header, and of a longer field only the beginning counts: no list has either.
+constexpr std::size_t longestFirstLine = std::size_t{64} * 1024;
+constexpr std::size_t longestField = std::size_t{1024} * 1024;
+
 bool IsLineEnd(char c) {
     return c == '\n' || c == '\r';
 }
-
-// Looks for " : " in a line that comes in parts.
-class HeaderMark {
-public:
-    // Where in this part the mark ends, npos if it isn't there yet.
-    std::size_t EndIn(std::string_view part) {
-        const std::string seam = tail_ + std::string(part.substr(0, headerMark.size() - 1));
-        if (const auto at = seam.find(headerMark); at != std::string::npos) {
-            return at + headerMark.size() - tail_.size();
-        }
-        if (const auto at = part.find(headerMark); at != std::string_view::npos) {
-            return at + headerMark.size();
-        }
-        tail_ += part.substr(part.size() - std::min(part.size(), headerMark.size() - 1));
-        tail_.erase(0, tail_.size() - std::min(tail_.size(), headerMark.size() - 1));
-        return std::string_view::npos;
-    }
-
-private:
-    std::string tail_;
-};
 
 // Takes the numbers one by one and fills the table with them, most of them by half their gap.
 class NumberSink {
@@ -56,7 +39,7 @@ public:
         step_ = ProgressStep(maximum);
     }
     void Add(std::uint64_t value);
-    // How many numbers AddHalfGap may be given now.
+    // How many numbers may be put into Gaps now.
     std::int64_t Room() const {
         const auto room = static_cast<std::int64_t>(halfGaps_.size() - used_);
         return last_ == 0 ? 0 : milestone_ < index_ ? room : std::min(room, milestone_ - index_);
@@ -69,8 +52,6 @@ public:
     }
     std::uint64_t Last() const { return last_; }
     void Flush();
-    // Forgets all that was added.
-    void Restart();
 
 private:
     PrimeTable& table_;
@@ -112,28 +93,18 @@ void NumberSink::Flush() {
     }
 }
 
-void NumberSink::Restart() {
-    table_.Clear();
-    used_ = 0;
-    last_ = 0;
-    index_ = 0;
-    milestone_ = 0;
-}
-
-// Takes a prime file in pieces of any size.
+// Takes a prime file: first its beginning, with the whole first line, then the rest in pieces of any size.
 class Reader {
 public:
     Reader(PrimeTable& table, PrimeFileProgress& progress) : sink_(table, progress) {}
 
+    void Begin(std::string_view bytes);
     void Take(std::string_view bytes);
     void Finish();
     // Whether there was anything but blanks and a header.
     bool HasText() const { return hasText_; }
 
 private:
-    std::string_view TakeFirstLine(std::string_view bytes);
-    void BeginHeadless();
-    void BeginHeaded();
     void TakeData(const char* at, const char* end);
     const char* TakeNeighbours(const char* at, const char* end);
     const char* TakePlainField(const char* at, const char* end);
@@ -142,68 +113,36 @@ private:
 
     NumberSink sink_;
     DigitNeighbourhood neighbourhood_;
-    bool inFirstLine_ = true;
-    bool isHeader_ = false;
-    bool hasBegun_ = false;
     bool hasText_ = false;
-    HeaderMark headerMark_;
     bool inField_ = false;  // field_ has begun to take one
     bool dropping_ = false; // up to the end of the line
-    FieldValue field_;
+    std::string field_;
 };
 
-void Reader::Take(std::string_view bytes) {
-    if (inFirstLine_) {
-        bytes = TakeFirstLine(bytes);
+std::uint64_t ValueOf(std::string_view field) {
+    return ToUInt64(Val(field));
+}
+
+void Reader::Begin(std::string_view bytes) {
+    constexpr std::uint64_t most = std::numeric_limits<std::int64_t>::max();
+    std::string_view line = bytes.substr(0, bytes.find_first_of(lineEnds));
+    const std::size_t mark = line.find(headerMark);
+    if (mark == std::string_view::npos) {
+        sink_.Begin(headerlessMaximum);
+    } else {
+        bytes.remove_prefix(line.size());
+        line.remove_prefix(mark + headerMark.size());
+        // A line of prose may contain the mark too: in the header of a list there is a number behind it.
+        hasText_ = std::any_of(line.begin(), line.end(), [](char c) { return c != ' ' && !IsDigit(c); });
+        sink_.Begin(static_cast<std::int64_t>(std::min(ValueOf(line), most)));
     }
+    Take(bytes);
+}
+
+void Reader::Take(std::string_view bytes) {
     hasText_ = hasText_ || bytes.find_first_not_of(blanks) != std::string_view::npos;
     TakeData(bytes.data(), bytes.data() + bytes.size());
     sink_.Flush();
-}
-
-// A line that is longer than a piece is read as data until the mark turns up in it.
-std::string_view Reader::TakeFirstLine(std::string_view bytes) {
-    const std::size_t size = std::min(bytes.find_first_of(lineEnds), bytes.size());
-    std::string_view line = bytes.substr(0, size);
-    inFirstLine_ = size == bytes.size();
-    if (!isHeader_) {
-        const std::size_t behindMark = headerMark_.EndIn(line);
-        if (behindMark == std::string_view::npos) {
-            BeginHeadless();
-            return bytes;
-        }
-        isHeader_ = true;
-        hasText_ = false;
-        inField_ = dropping_ = false;
-        neighbourhood_.Leave();
-        sink_.Restart();
-        field_.Clear();
-        line.remove_prefix(behindMark);
-    }
-    // A line of prose may contain the mark too: in the header of a list there is a number behind it.
-    hasText_ =
-        hasText_ || std::any_of(line.begin(), line.end(), [](char c) { return c != ' ' && !IsDigit(c); });
-    for (const char c : line) {
-        field_.Take(c);
-    }
-    if (!inFirstLine_) {
-        BeginHeaded();
-    }
-    return bytes.substr(size);
-}
-
-void Reader::BeginHeadless() {
-    if (!hasBegun_) {
-        hasBegun_ = true;
-        sink_.Begin(headerlessMaximum);
-    }
-}
-
-void Reader::BeginHeaded() {
-    constexpr std::uint64_t most = std::numeric_limits<std::int64_t>::max();
-    hasBegun_ = true;
-    sink_.Begin(static_cast<std::int64_t>(std::min(field_.Value(), most)));
-    field_.Clear();
 }
 
 void Reader::TakeData(const char* at, const char* end) {
@@ -260,11 +199,13 @@ const char* Reader::TakeAnyField(const char* at, const char* end) {
     for (; at != end; ++at) {
         if (EndsField(*at)) {
             inField_ = false;
-            EndField(field_.Value(), *at);
-            field_.Clear();
+            EndField(ValueOf(field_), *at);
+            field_.clear();
             return at + 1;
         }
-        field_.Take(*at);
+        if (field_.size() < longestField) {
+            field_ += *at;
+        }
     }
     return at;
 }
@@ -278,13 +219,8 @@ void Reader::EndField(std::uint64_t value, char ending) {
 }
 
 void Reader::Finish() {
-    if (inFirstLine_ && isHeader_) {
-        BeginHeaded();
-    } else {
-        BeginHeadless();
-    }
     if (inField_) {
-        EndField(field_.Value(), '\n');
+        EndField(ValueOf(field_), '\n');
     }
     sink_.Flush();
 }
@@ -295,14 +231,16 @@ PrimeFileContent ReadPrimeFile(InputFile& file, PrimeTable& table, PrimeFileProg
     std::uint64_t mostBytes, std::size_t chunkSize) {
     table.Clear();
     Reader reader(table, progress);
-    std::vector<char> chunk(chunkSize);
-    for (bool isFirst = true;; isFirst = false) {
-        const std::size_t size = file.Read(chunk);
-        std::string_view bytes(chunk.data(), size);
-        if (isFirst && bytes.starts_with(byteOrderMark)) {
-            bytes.remove_prefix(byteOrderMark.size());
-        }
-        reader.Take(bytes);
+    std::string chunk(chunkSize, '\0');
+    const auto read = [&] { return std::string_view(chunk).substr(0, file.Read(chunk)); };
+    std::string head;
+    std::string_view bytes;
+    do {
+        head += bytes = read();
+    } while (bytes.size() == chunkSize && head.size() < longestFirstLine &&
+             bytes.find_first_of(lineEnds) == std::string_view::npos);
+    reader.Begin(std::string_view(head).substr(head.starts_with(byteOrderMark) ? byteOrderMark.size() : 0));
+    for (;;) {
         progress.Work();
         if (progress.MustStop()) {
             throw ReadingStopped();
@@ -310,9 +248,10 @@ PrimeFileContent ReadPrimeFile(InputFile& file, PrimeTable& table, PrimeFileProg
         if (table.Bytes() > mostBytes) {
             throw IOException("no memory for more numbers");
         }
-        if (size < chunk.size()) {
+        if (bytes.size() < chunkSize) {
             break;
         }
+        reader.Take(bytes = read());
     }
     reader.Finish();
     return BeginsWithFirstPrimes(table) ? PrimeFileContent::Primes
