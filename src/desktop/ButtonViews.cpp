@@ -23,6 +23,33 @@ namespace {
 constexpr int pushPadding = 8;
 constexpr int indicatorPadding = 24;
 
+// Where no font has the pencil, a blank button would be left: it is drawn then, in the colour of the text.
+class PushWidget final : public QPushButton {
+public:
+    using QPushButton::QPushButton;
+
+protected:
+    void paintEvent(QPaintEvent* event) override {
+        if (text() != u"✎" || fontMetrics().inFont(u'✎')) {
+            QPushButton::paintEvent(event);
+            return;
+        }
+        QStylePainter painter(this);
+        QStyleOptionButton option;
+        initStyleOption(&option);
+        option.text.clear();
+        painter.drawControl(QStyle::CE_PushButton, option);
+        const QColor ink = option.palette.color(QPalette::ButtonText);
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.translate(QRectF(rect()).center());
+        painter.rotate(45); // its point is at the bottom right, as the sign's
+        painter.setPen(QPen(ink, 1.2, Qt::SolidLine, Qt::FlatCap, Qt::MiterJoin));
+        painter.drawRect(QRectF(-7, -2, 9, 4));
+        painter.setBrush(ink);
+        painter.drawPolygon(QPolygonF({{2, -2}, {7, 0}, {2, 2}}));
+    }
+};
+
 // A push button with the model's picture between bevel and caption.
 class BevelWidget final : public QPushButton {
 public:
@@ -82,7 +109,7 @@ void ButtonView::ShowCaption(const std::string& caption, int padding, int pixels
 }
 
 PushButtonView::PushButtonView(PushButton& model, QWidget* parent)
-    : ButtonView(model, new QPushButton(parent), [&model] { model.UserPressed(); }), model_(model),
+    : ButtonView(model, new PushWidget(parent), [&model] { model.UserPressed(); }), model_(model),
       button_(static_cast<QPushButton*>(Widget())) {}
 
 void PushButtonView::Read() {
