@@ -44,8 +44,10 @@ void WinMain::SetInitialState() {
     FollowEdits(EditFieldNbre);
     FollowEdits(EditFieldBaseOrg);
     EditFieldBaseDest.ReadOnly = true;
-    EditFieldBaseOrg.ShowsAll = true;
-    EditFieldBaseDest.ShowsAll = true;
+    for (TextField* field : {&EditFieldBaseOrg, &EditFieldBaseDest, &EditFieldMonnaies, &EditFieldMonnaie,
+             &EditFieldCentimes, &EditFieldCentime}) {
+        field->ShowsAll = true;
+    }
     for (TextField* field : {&EditFieldNbre, &EditFieldBaseOrg, &EditFieldBaseDest}) {
         field->TextAlignment = Alignment::Right;
     }

@@ -54,7 +54,7 @@ void AreaView::Read() {
         if (isNew || RoomForColumns() != columnsWidth_) {
             ReadColumns(text);
         }
-    } else if (model_.TextSize > 0) {
+    } else {
         edit_->setFont(FittingFont(*edit_, QString(), 0, model_.TextSize));
     }
     if (isNew) {

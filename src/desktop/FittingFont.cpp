@@ -5,11 +5,14 @@
 #include <QFontMetrics>
 #include <QWidget>
 
+#include <algorithm>
+
 namespace tessarolyne {
 
 namespace {
 
 constexpr int smallestTenths = 7;
+constexpr int designed = 11; // pixels for which all controls have room, however large the desktop's font is
 
 } // namespace
 
@@ -18,12 +21,13 @@ QFont FittingFont(const QWidget& widget, const QString& text, int width, int pix
     if (pixels > 0) {
         font.setPixelSize(pixels);
     }
-    if (text.isEmpty()) {
-        return font;
-    }
+    const auto fits = [&] {
+        const QFontMetrics metrics(font);
+        return metrics.horizontalAdvance(text) <= width && metrics.height() <= widget.height();
+    };
     const int full = QFontInfo(font).pixelSize();
-    const int smallest = full * smallestTenths / 10;
-    for (int size = full; QFontMetrics(font).horizontalAdvance(text) > width && size > smallest;) {
+    const int smallest = std::min(full * smallestTenths / 10, designed);
+    for (int size = full; size > smallest && !fits();) {
         font.setPixelSize(--size);
     }
     return font;

@@ -23,15 +23,18 @@ namespace {
 
 constexpr int textWidth = 420;
 constexpr int textMargins = 12;
+constexpr int scrollBar = 18; // Qt shows it first, and then keeps it if the text beside it needs it
 
 // A screen reader gets as much as it can be asked to read out at once.
 constexpr qsizetype longestName = 2000;
 
-// The height of the text in the font, wrapped as the view wraps it.
+// The height of the text in the font, wrapped at words; anywhere only where that takes more.
 int HeightOf(const QString& text, const QFont& font) {
-    const QRect space(0, 0, textWidth - textMargins, QWIDGETSIZE_MAX);
-    const int flags = Qt::TextWordWrap | Qt::TextWrapAnywhere;
-    return text.isEmpty() ? 0 : QFontMetrics(font).boundingRect(space, flags, text).height();
+    const QRect space(0, 0, textWidth - textMargins - scrollBar, QWIDGETSIZE_MAX);
+    const auto height = [&](int flags) {
+        return QFontMetrics(font).boundingRect(space, flags, text).height();
+    };
+    return text.isEmpty() ? 0 : std::max(height(Qt::TextWordWrap), height(Qt::TextWrapAnywhere));
 }
 
 // The caption with the first of its letters that no button before it has, to be pressed with Alt. Which
@@ -100,7 +103,8 @@ QPlainTextEdit* MessageView::MakeText(const MessageDialog& dialog) {
     messageFont.setWeight(static_cast<QFont::Weight>(format.fontWeight()));
     const int height = HeightOf(message, messageFont) + HeightOf(explanation, edit->font()) +
                        (explanation.isEmpty() ? 0 : edit->fontMetrics().lineSpacing());
-    edit->setFixedHeight(std::min(height + textMargins, screen()->availableSize().height() / 2));
+    const int rounding = height / 20; // the view rounds the height of each line up
+    edit->setFixedHeight(std::min(height + rounding + textMargins, screen()->availableSize().height() / 2));
     return edit;
 }
 

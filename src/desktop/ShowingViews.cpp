@@ -7,6 +7,8 @@
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QApplication>
+#include <QFontInfo>
 #include <QGroupBox>
 #include <QLabel>
 #include <QMetaObject>
@@ -137,6 +139,11 @@ void GroupBoxView::Read() {
     const QString caption = WithAltKey(model_.Caption, model_.AltKey);
     if (box_->title() != caption) {
         box_->setTitle(caption);
+    }
+    QFont font = QApplication::font(box_);
+    if (constexpr int highest = 17; QFontInfo(font).pixelSize() > highest) {
+        font.setPixelSize(highest); // a higher title would push the frame into what stands below
+        box_->setFont(font);
     }
 }
 
