@@ -64,7 +64,8 @@ QtApplication::QtApplication(
     setApplicationName(ToQt(name));
     setDesktopFileName(ToQt(identifier));
     setQuitOnLastWindowClosed(false);
-    if (style()->name() == u"fusion") {
+    const auto* const proxy = qobject_cast<const QProxyStyle*>(style()); // a desktop's, around what it chose
+    if ((proxy == nullptr ? style() : proxy->baseStyle())->name() == u"fusion") {
         setStyle(new OutlinedStyle);
     }
     TellFocusBeforeCaret();
