@@ -4,6 +4,7 @@
 #include <QAbstractItemView>
 #include <QApplication>
 #include <QComboBox>
+#include <QLineEdit>
 #include <QMouseEvent>
 
 #include <doctest/doctest.h>
@@ -53,5 +54,20 @@ TEST_CASE("A control is greyed once it has been disabled for 150 ms, and refuses
         window.PopupMenuLg.Enabled = true;
         CHECK(box->isEnabled());
         CHECK(window.CheckBoxMajusc.Value);
+    }
+}
+
+TEST_CASE("In a font twice as large nothing is clipped") {
+    const Offscreen offscreen;
+    QFont large;
+    large.setPixelSize(24);
+    QApplication::setFont(large);
+    tests::TestWorld world;
+    const WindowView view(world.Main(), nullptr, false);
+    for (const QComboBox* box : view.findChildren<QComboBox*>()) {
+        CHECK(box->fontMetrics().horizontalAdvance(box->currentText()) <= box->width() - 30);
+    }
+    for (const QLineEdit* line : view.findChildren<QLineEdit*>()) {
+        CHECK(line->fontMetrics().height() <= line->height());
     }
 }
