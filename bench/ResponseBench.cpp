@@ -161,7 +161,7 @@ private:
         loop_.RunUntil([end] { return Clock::now() >= end; });
     }
     void Finish() {
-        loop_.RunUntil([this] { return !main_.CalculEnCours; });
+        loop_.RunUntil([this] { return !main_.calculation.CalculEnCours(); });
     }
 
     void BeginTable() {
@@ -192,7 +192,7 @@ private:
 
     void StartFactors(const std::string& number) {
         main_.EditFieldNbre.Text = number;
-        main_.DecompPremDeb(true);
+        main_.decomposition.DecompPremDeb(true);
     }
     void FactorHardNumbers() {
         for (const std::string& number : hardNumbers) {

@@ -1,7 +1,6 @@
 // The way out: a close can't finish at once, since a calculation may run and questions may have to be asked.
 
 #include "app/Program.h"
-#include "conversion/NumberFormat.h"
 #include "conversion/WinMain.h"
 #include "platform/EventLoop.h"
 #include "platform/MemoryLimits.h"
@@ -11,6 +10,7 @@
 #include "primes/WinNbresPremiers.h"
 #include "ui/FileItems.h"
 #include "ui/Localisation.h"
+#include "ui/NumberFormat.h"
 
 #include <cstdint>
 #include <exception>
@@ -58,7 +58,7 @@ bool WinMain::Event_CancelClose(bool appQuitting) {
         TimerQuit.Mode = 1; // turns the request into a close of this window
         return true;
     }
-    if (CalculEnCours) {
+    if (calculation.CalculEnCours()) {
         AskToStopCalculation();
         return true;
     }
@@ -107,7 +107,7 @@ void WinMain::AskToStopCalculation() {
     }
     recalculationDue_ = recalculationDue_ || TimerTempo.Mode != 0;
     TimerTempo.Mode = 0;
-    fncts.ArretUrg = CalculEnCours;
+    calculation.Stop();
     fncts.PlayT(fncts.Zoum, true);
     TimerQuit.Mode = 1;
 }
@@ -151,7 +151,7 @@ void WinMain::DecideClose(bool enregistrer) {
 void WinMain::TimerQuit_Action(Timer& timer) {
     if (app.DrapOkQuit) {
         app.Quit(0);
-    } else if (CalculEnCours || program.HasWinChargSauvNb1ers()) {
+    } else if (calculation.CalculEnCours() || program.HasWinChargSauvNb1ers()) {
         timer.Mode = 1;
         timer.Reset();
     } else {
@@ -170,10 +170,7 @@ void WinMain::SaveWithoutAsking() {
     }
     app.DrapOkQuit = true;
     const bool listeVisible = BevelButtonListe.Value;
-    program.services.loop.WaitUntil([&] {
-        return ThreadDecPrems.State() != Thread::running &&
-               (!listeVisible || program.winNbresPremiers().ThreadCalcPrems.State() != Thread::running);
-    });
+    program.services.loop.WaitUntil([this] { return !calculation.IsOnThread(); });
     if (listeVisible) {
         program.winNbresPremiers().KeepSettings();
     }

@@ -19,7 +19,6 @@ namespace tessarolyne {
 
 namespace {
 
-constexpr std::uint64_t largestNumber = 999'999'999'999;
 constexpr int smallestBase = 2;
 constexpr int largestBase = 36;
 
@@ -31,12 +30,8 @@ constexpr const char* ownPreferencesFolder = "TessarolynePrefs";
 void WinMain::Event_Open() {
     LabBlockUI.Open();
     Fncts::DecPosCtrl(*this);
-    NbreMax = largestNumber;
     app.DrapOkQuit = false;
     app.DateDuJour = program.services.clock.Now();
-    MemErrConv = "";
-    MemErrDecomp = "";
-    CalculEnCours = false;
     StaticTextEnBase10.Text = Localisation::Txt_EnBase() + "10";
     for (PopupMenu* menu : {&PopupMenuBaseOrg, &PopupMenuBaseDest}) {
         menu->DeleteAllRows();
@@ -44,7 +39,6 @@ void WinMain::Event_Open() {
             menu->AddRow(Localisation::Txt_EnBase() + Str(base));
         }
     }
-    Nbre_Decompose = {0};
     if (!FindPreferencesFolder()) {
         return;
     }

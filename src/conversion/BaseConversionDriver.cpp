@@ -1,11 +1,11 @@
 // The number in two bases: which field is the source, what the others show, and the check by a second route.
 
 #include "conversion/BaseConversion.h"
-#include "conversion/NumberFormat.h"
 #include "conversion/WinMain.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
 #include "ui/Localisation.h"
+#include "ui/NumberFormat.h"
 
 namespace tessarolyne {
 
@@ -40,11 +40,11 @@ void WinMain::ConvNbreBaseD() {
             EditFieldBaseOrg.Text = error;
         }
         EditFieldBaseDest.Text = error;
-        Write(factors_, error);
-        Write(words_, error);
+        factors_.Write(error);
+        words_.Write(error);
     }
     for (TextField* field : {&EditFieldBaseOrg, &EditFieldBaseDest}) {
-        field->Remark = OnlyCentsAreWrong();
+        field->Remark = OnlyCentsAreWrong(EditFieldNbre);
     }
 }
 

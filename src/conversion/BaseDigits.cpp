@@ -1,8 +1,8 @@
 #include "conversion/BaseDigits.h"
 
 #include "conversion/BaseConversion.h"
-#include "conversion/WrittenNumber.h"
 #include "platform/Text.h"
+#include "ui/WrittenNumber.h"
 
 #include <algorithm>
 

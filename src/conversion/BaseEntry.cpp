@@ -2,11 +2,11 @@
 // digits; a paste is taken whole or not at all.
 
 #include "conversion/BaseDigits.h"
-#include "conversion/NumberField.h"
 #include "conversion/WinMain.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
 #include "ui/Localisation.h"
+#include "ui/NumberField.h"
 
 namespace tessarolyne {
 

@@ -18,10 +18,6 @@ namespace tessarolyne {
 
 namespace {
 
-// The menu items whose state the program decides.
-constexpr std::array commandItems = {
-    "FichChoixFichNbP", "FichSauvFichNbP", "AppleAPropos", "AppleVMaJ", "AppleDon", "ApplePrefs", "AideAide"};
-
 // The factors' "x" among them, but no sign that errors and hints have.
 bool StandsInNumber(char c) {
     return IsDigit(c) || IsLetter(c) || c == '.';
@@ -31,42 +27,25 @@ bool StandsInNumber(char c) {
 
 void WinMain::EnableMenuBoutons() {
     app.EnableMenuItems();
-    const std::array<Control*, 20> controls = {&EditFieldBaseDest, &CheckBoxFormatAuto, &PopupMenuBaseOrg,
-        &PopupMenuBaseDest, &RadioButton09AZ[0], &RadioButton09AZ[1], &TxtAreaDecomp1er, &BevelButtonListe,
-        &TxtAreaLettres, &EditFieldMonnaies, &EditFieldMonnaie, &EditFieldCentimes, &EditFieldCentime,
-        &CheckBoxMajusc, &CheckBoxTrUnion, &PopupMenuLg, &PushButtonPressPapBOrg, &PushButtonPressPapBDest,
-        &PushButtonPressPapPrem, &PushButtonPressPapLettr};
-    for (Control* control : controls) {
-        control->Enabled = fncts.DrapMenu;
-    }
+    EnableControls();
     if (BevelButtonListe.Value) {
-        WinNbresPremiers& list = program.winNbresPremiers();
-        const std::array<Control*, 7> listControls = {&list.PushButtonCalcPrems, &list.EditFieldFin,
-            &list.EditFieldAffDu, &list.EditFieldAffAu, &list.TxtAreaListeNbres1ers,
-            &list.EditFieldNbNbresLigne, &list.PushButtonFichier};
-        for (Control* control : listControls) {
-            control->Enabled = fncts.DrapMenu;
-        }
+        program.winNbresPremiers().EnableControls();
     }
 }
 
 void WinMain::Event_EnableMenuItems() {
-    for (const char* name : commandItems) {
-        if (MenuItem* item = app.GetMenuBar()->Find(name)) {
-            item->Enabled = fncts.DrapMenu;
+    for (const auto& menu : app.GetMenuBar()->Menus()) {
+        for (const auto& item : menu->Items()) {
+            if (!item->AutoEnable) {
+                item->Enabled = fncts.DrapMenu;
+            }
         }
     }
 }
 
 bool WinMain::Event_KeyDown(const std::string& key) {
-    StopOnEscape(key);
+    calculation.StopOnEscape(key);
     return key != Chr(9);
-}
-
-void WinMain::HoldMenuForCalculation(bool hold) {
-    calculationHoldsMenu_ = hold;
-    fncts.DrapMenu = !hold;
-    EnableMenuBoutons();
 }
 
 void WinMain::TurnWheel(bool& reason, bool on) {
@@ -76,24 +55,16 @@ void WinMain::TurnWheel(bool& reason, bool on) {
     ProgressWheel1.Visible = factorsTakeTime_ || checkTakesTime_;
 }
 
-void WinMain::CopyToClipboard(const std::string& texte) {
-    fncts.PlayT(fncts.Bip, false);
-    fncts.PressPapTxt(texte);
-    if (!texte.empty()) {
-        fncts.Announce(fncts.FracTexte(Localisation::Txt_Copie(), 1) + texte);
-    }
-}
-
 void WinMain::PushButtonPressPapBOrg_Action(PushButton&) {
-    CopyToClipboard(EditFieldBaseOrg.Text);
+    fncts.CopyToClipboard(EditFieldBaseOrg.Text);
 }
 
 void WinMain::PushButtonPressPapBDest_Action(PushButton&) {
-    CopyToClipboard(EditFieldBaseDest.Text);
+    fncts.CopyToClipboard(EditFieldBaseDest.Text);
 }
 
 void WinMain::PushButtonPressPapPrem_Action(PushButton&) {
-    CopyToClipboard(TxtAreaDecomp1er.Text);
+    fncts.CopyToClipboard(TxtAreaDecomp1er.Text);
 }
 
 // In the order of sight. Ctrl, which is down then, must not pass for the key that resets the currencies.
@@ -107,7 +78,7 @@ void WinMain::AddCopyShortcuts() {
         button->KeyTag = Localisation::Touche_Ctrl() + digit;
         AddShortcut("Cmd+" + digit, [this, button = button, source = source] {
             if (button->Enabled()) {
-                CopyToClipboard(source->Text);
+                fncts.CopyToClipboard(source->Text);
             }
         });
     }
@@ -123,7 +94,7 @@ void WinMain::OfferCopies(TextControl& source, PopupMenu* baseMenu) {
             return commands;
         }
         const auto offer = [&](const std::string& caption, const std::string& text) {
-            commands.push_back({caption, [this, text] { CopyToClipboard(text); }});
+            commands.push_back({caption, [this, text] { fncts.CopyToClipboard(text); }});
         };
         offer(Localisation::Txt_CopierSansEsp(), bare);
         if (baseMenu == nullptr || !RadioButton09AZ[0].Value()) {
@@ -141,11 +112,11 @@ void WinMain::OfferCopies(TextControl& source, PopupMenu* baseMenu) {
 }
 
 void WinMain::PushButtDecomposer_Action(PushButton&) {
-    if (CalculEnCours) {
+    if (calculation.CalculEnCours()) {
         fncts.Beep(); // the list window's run may hold the table
         return;
     }
-    DecompPremDeb(true);
+    decomposition.DecompPremDeb(true);
 }
 
 // The button's Value says whether the window is open. It is looked at first: asking for the window makes it.

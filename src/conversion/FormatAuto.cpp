@@ -1,11 +1,11 @@
 // The switch between grouped and bare numbers: brings what is on the screen into line at once.
 
 #include "app/Program.h"
-#include "conversion/NumberFormat.h"
 #include "conversion/WinMain.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
 #include "primes/WinNbresPremiers.h"
+#include "ui/NumberFormat.h"
 
 #include <array>
 
@@ -29,10 +29,7 @@ void WinMain::CheckBoxFormatAuto_Action(CheckBox& bouton) {
                 FormatType(EditFieldBaseDest.Text(), PopupMenuBaseDest.ListIndex + 2, grouped);
         }
     }
-    // The area may hold something else: nothing, an error, the hint to use the button.
-    if (TxtAreaDecomp1er.Text == FactorsText(!grouped)) {
-        TxtAreaDecomp1er.Text = FactorsText(grouped);
-    }
+    decomposition.Regroup(grouped);
     if (BevelButtonListe.Value) {
         WinNbresPremiers& list = program.winNbresPremiers();
         const std::string mask(grouped ? groupedMask : plainMask);

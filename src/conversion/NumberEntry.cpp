@@ -1,10 +1,10 @@
 // From a keystroke in one of the two number fields to the recalculation of everything.
 
-#include "conversion/NumberFormat.h"
 #include "conversion/WinMain.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
 #include "ui/Localisation.h"
+#include "ui/NumberFormat.h"
 
 namespace tessarolyne {
 
@@ -80,12 +80,12 @@ void WinMain::EditFieldBaseOrg_TextChange(TextField&, ChangedBy who) {
 }
 
 bool WinMain::EditFieldNbre_KeyDown(TextField& champ, const std::string& key) {
-    StopOnEscape(key);
+    calculation.StopOnEscape(key);
     return RecallNumber(champ, key);
 }
 
 bool WinMain::EditFieldBaseOrg_KeyDown(TextField& champ, const std::string& key) {
-    StopOnEscape(key);
+    calculation.StopOnEscape(key);
     return RecallNumber(champ, key);
 }
 
@@ -95,9 +95,10 @@ void WinMain::TimerTempo_Action(Timer& timer) {
         return;
     }
     // A dialog counts too: a calculation that began under a file chooser would race the load behind it.
-    if (CalculEnCours || app.HasModalStep()) {
+    if (calculation.CalculEnCours() || app.HasModalStep()) {
         timer.Mode = 1;
-        if (CalculEnCours && ++turnsWaited_ * timer.Period >= waitToBeSeen && !StaticTextEnAttente.Visible) {
+        if (calculation.CalculEnCours() && ++turnsWaited_ * timer.Period >= waitToBeSeen &&
+            !StaticTextEnAttente.Visible) {
             StaticTextEnAttente.Visible = true;
             fncts.Announce(StaticTextEnAttente.Text);
         }
@@ -114,7 +115,7 @@ void WinMain::ChangeNbre() {
     if (!decimal.empty() && !IsNumeric(decimal)) {
         return;
     }
-    DecompPremDeb(false);
+    decomposition.DecompPremDeb(false);
     ConvNbreLettresD();
 }
 
@@ -126,30 +127,6 @@ std::string WinMain::FormatType(std::string_view nombre, int base, bool formatAu
     return tessarolyne::FormatType(nombre, base, formatAuto);
 }
 
-// The decimal number in the one form that doesn't depend on the switch and on the focus.
-std::string WinMain::NumberShown() const {
-    return tessarolyne::FormatNbre(EditFieldNbre.Text(), false);
-}
-
-// Where an error stands for no other reason than the cents, which the words can tell: what to say of it.
-std::string WinMain::OnlyCentsAreWrong() const {
-    const std::string decimal = WithoutBlanks(EditFieldNbre.Text());
-    const double value = IsNumeric(decimal) ? CDbl(decimal) : 0;
-    const bool hasCents = value > 0 && value <= static_cast<double>(NbreMax) && value != Round(value);
-    return hasCents ? Localisation::Txt_RefusEntier() : "";
-}
-
-void WinMain::Write(Output& output, const std::string& text, const std::string& remark) {
-    output.area.Text = text;
-    output.remark = remark;
-    output.number = NumberShown();
-    output.Dim(false);
-}
-
-void WinMain::Output::Dim(bool dimmed) {
-    area.Remark = dimmed ? Localisation::Txt_NbrePrecedent() : remark;
-}
-
 // The digits in EditFieldBaseOrg may be another number now, of which the factors and the words don't speak
 // before the next key.
 void WinMain::ConvertAgain() {
@@ -157,9 +134,8 @@ void WinMain::ConvertAgain() {
         return;
     }
     ConvNbreBaseD();
-    for (Output* output : {&factors_, &words_}) {
-        output->Dim(output->number != NumberShown());
-    }
+    factors_.Compare();
+    words_.Compare();
 }
 
 void WinMain::PopupMenuBaseOrg_Change(PopupMenu&) {

@@ -6,6 +6,7 @@
 #include "platform/Numbers.h"
 #include "platform/Services.h"
 #include "platform/Text.h"
+#include "ui/NumberFormat.h"
 
 namespace tessarolyne {
 

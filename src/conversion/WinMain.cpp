@@ -2,6 +2,7 @@
 
 #include "app/Program.h"
 #include "platform/Services.h"
+#include "primes/WinNbresPremiers.h"
 #include "ui/HelpTags.h"
 #include "ui/Localisation.h"
 
@@ -22,11 +23,12 @@ constexpr const char* copyButtonCaption = "✎";
 WinMain::WinMain(Program& owner)
     : ProgramWindow(owner, "Tessarolyne", 550, 594, WindowFrame{}),
       TimerTempo(owner.services.loop, recalculationDelay), TimerQuit(owner.services.loop, quitPeriod),
-      TimerThr(owner.services.loop, handOverPeriod), TimerVerMaJ(owner.services.loop, handOverPeriod),
-      SocketVerMaJ(owner.services.http),
-      Progress(owner.services.loop, owner.services.desktop, Nbres_Premiers, CheckBoxFormatAuto),
+      TimerVerMaJ(owner.services.loop, handOverPeriod), SocketVerMaJ(owner.services.http),
+      decomposition({EditFieldNbre, TxtAreaDecomp1er, PushButtDecomposer, CheckBoxFormatAuto, ProgressWheel1,
+                        StaticTextAvance},
+          factors_, calculation, Nbres_Premiers, owner.fncts),
       typingPause_(owner.services.loop, typingPause), slowCheck_(owner.services.loop, moment),
-      ThreadDecPrems(owner.services.loop) {
+      calculation(owner.fncts, owner.services, Nbres_Premiers, CheckBoxFormatAuto) {
     SetInitialState();
     NameForScreenReaders();
     ExplainControls(*this);
@@ -39,6 +41,7 @@ WinMain::WinMain(Program& owner)
 }
 
 void WinMain::SetInitialState() {
+    AlwaysEnabled = {&EditFieldNbre, &EditFieldBaseOrg, &PushButtDecomposer};
     EditFieldNbre.Mask = "999999999999.99";
     EditFieldBaseOrg.TakeEdit = [this](TextEdit& edit) { return TakeBaseEdit(edit); };
     FollowEdits(EditFieldNbre);
@@ -166,9 +169,15 @@ void WinMain::BindEvents() {
     PopupMenuLg.Change = [this] { PopupMenuLg_Change(PopupMenuLg); };
     TimerTempo.Action = [this] { TimerTempo_Action(TimerTempo); };
     TimerQuit.Action = [this] { TimerQuit_Action(TimerQuit); };
-    TimerThr.Action = [this] { TimerThr_Action(TimerThr); };
-    ThreadDecPrems.Run = [this] { ThreadDecPrems_Run(ThreadDecPrems); };
-    ThreadDecPrems.Failed = [this](const std::string& reason) { ThreadFailed(factorsAreThere, reason); };
+    calculation.EnableMenuBoutons = [this] { EnableMenuBoutons(); };
+    calculation.EndAnnounced = [this] { typingPause_.Mode = 0; }; // said with this
+    decomposition.TakesTime = [this](bool on) { TurnWheel(factorsTakeTime_, on); };
+    decomposition.TableMayHaveGrown = [this](bool isAsWanted) {
+        if (BevelButtonListe.Value) {
+            WinNbresPremiers& list = program.winNbresPremiers();
+            isAsWanted ? list.FaireListe(false, false) : list.ShowBinding();
+        }
+    };
 }
 
 void WinMain::BindCommandEvents() {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "conversion/NumberField.h"
 #include "conversion/NumberHistory.h"
 #include "conversion/TypedBase.h"
 #include "platform/BevelButton.h"
@@ -14,13 +13,14 @@
 #include "platform/RadioButton.h"
 #include "platform/TextArea.h"
 #include "platform/TextField.h"
-#include "platform/Thread.h"
 #include "platform/Timer.h"
-#include "primes/CalculationProgress.h"
+#include "primes/Calculation.h"
+#include "primes/Decomposition.h"
 #include "primes/engine/BoundFile.h"
 #include "primes/engine/PrimeTable.h"
-#include "primes/engine/RunControl.h"
 #include "ui/BlockingOverlay.h"
+#include "ui/NumberField.h"
+#include "ui/NumberOutput.h"
 #include "ui/ProgramWindow.h"
 
 #include <array>
@@ -102,35 +102,24 @@ public:
 
     Timer TimerTempo;
     Timer TimerQuit;
-    Timer TimerThr;
     Timer TimerVerMaJ;
     HTTPSocket SocketVerMaJ;
 
-    // How soon TimerThr and TimerVerMaJ hand over what has come, in milliseconds.
+    // How soon TimerVerMaJ hands over what has come, in milliseconds.
     static constexpr int handOverPeriod = 1;
-
-    // What ThrNo says when a thread's result waits for the main thread.
-    static constexpr std::int16_t factorsAreThere = 3;
-    static constexpr std::int16_t listRunHasEnded = 4;
 
     // --- Properties ---
 
-    PrimeTable Nbres_Premiers;       // the table of primes, rising from 2
-    std::uint32_t Nb_NbrePcharg = 0; // how many of its entries agree with the prime file
-    BoundFile PrimeFile;             // what is known of the prime file's content
-    bool FocusNbre = false;          // EditFieldNbre is being edited
-    bool FocusBase = false;          // EditFieldBaseOrg is being edited
-    bool CalculEnCours = false;      // from a calculation's start until its result has been dealt with
-    std::vector<std::uint64_t> Nbre_Decompose; // the factors; a single 0: none
-    std::int16_t NbreNbPparLigne = 10;         // primes per line in the prime file
-    bool DrapTimerNbre = true;     // the source of the number: EditFieldNbre, else EditFieldBaseOrg
-    std::uint64_t NbreMax = 0;     // the largest number accepted
-    std::string MemErrDecomp;      // the last mismatch of a factorisation that was reported
-    std::string MemErrConv;        // the last mismatch of a base conversion that was reported
-    std::int16_t ThrNo = 0;        // what TimerThr has to do: factorsAreThere or listRunHasEnded
-    std::uint64_t ThrPn1 = 0;      // the number or limit that the running thread works on
-    std::int64_t TicksFinCalc = 0; // when a calculation on the main thread has to give up
-    CalculationProgress Progress;  // how far the calculation on a thread is, in words
+    PrimeTable Nbres_Premiers;         // the table of primes, rising from 2
+    std::uint32_t Nb_NbrePcharg = 0;   // how many of its entries agree with the prime file
+    BoundFile PrimeFile;               // what is known of the prime file's content
+    bool FocusNbre = false;            // EditFieldNbre is being edited
+    bool FocusBase = false;            // EditFieldBaseOrg is being edited
+    std::int16_t NbreNbPparLigne = 10; // primes per line in the prime file
+    bool DrapTimerNbre = true;         // the source of the number: EditFieldNbre, else EditFieldBaseOrg
+    std::string MemErrConv;            // the last mismatch of a base conversion that was reported
+
+    Decomposition decomposition;
 
     // --- Operations that others call ---
 
@@ -149,37 +138,11 @@ public:
     std::string FormatType(std::string_view nombre, int base, bool formatAuto);
     // Brings the menus and the controls of both windows in line with Fncts::DrapMenu.
     void EnableMenuBoutons();
-    // Starts a factorisation of what EditFieldNbre holds; `force` sends it to the thread without a time
-    // limit.
-    void DecompPremDeb(bool force);
-    // Fills Nbre_Decompose, on any thread; `checkTime` applies TicksFinCalc.
-    void DecompPremCalc(std::uint64_t n, bool checkTime);
-    // Checks and shows the factors of `n`, on the main thread, and ends the calculation.
-    void DecompPremFin(std::uint64_t n);
-    // Extends the table: by one prime for a limit of 0, else until the last number tested is at least
-    // `limit`. Gives the table's last entry.
-    std::uint64_t NbresPremCalc(std::uint64_t limit, bool checkTime);
     // Writes the amount in words.
     void ConvNbreLettresD();
-    // A calculation on a thread has taken DrapMenu down and not yet given it back.
-    bool CalculationHoldsMenu() const { return calculationHoldsMenu_; }
-    // Takes DrapMenu down for a calculation on a thread; `false` gives it back.
-    void HoldMenuForCalculation(bool hold);
-    // Puts the text on the clipboard, with the sound and the announcement that say so.
-    void CopyToClipboard(const std::string& texte);
     // Adds the other ways to copy a number to the control's context menu; those of its base only with the
     // menu that chooses one.
     void OfferCopies(TextControl& source, PopupMenu* baseMenu = nullptr);
-    // Stops a running calculation if the key is Escape, with the sound that says so.
-    void StopOnEscape(const std::string& key);
-    // A fixed diagnostic after a run that memory, or a failure, ended; nothing after any other.
-    void TellWhyRunEnded();
-    // Ends the body of a thread that a failure cut short as if it had been stopped.
-    void ThreadFailed(std::int16_t step, const std::string& reason);
-    // A calculation on a thread begins; one that the user asked for is told at its end, however short it was.
-    void NoteRunBegins(bool isAskedFor);
-    // Tells a screen reader that a run has ended, and with what, unless nobody would miss that.
-    void AnnounceRunEnded(const std::string& resultat);
     // Asks whether to stop the running calculation and quit; on yes, TimerQuit waits for its end.
     void AskToStopCalculation();
     // What the signal or the session's end leaves time for: the settings, and new primes if a file is bound.
@@ -220,8 +183,6 @@ public:
     void PopupMenuLg_Change(PopupMenu& menu);
     void TimerTempo_Action(Timer& timer);
     void TimerQuit_Action(Timer& timer);
-    void TimerThr_Action(Timer& timer);
-    void ThreadDecPrems_Run(Thread& thread);
     bool FichChoixFichNbP_Action();
     bool FichSauvFichNbP_Action();
     void SocketVerMaJ_PageReceived(HTTPSocket& sender, const std::string& url, int httpStatus,
@@ -238,16 +199,6 @@ public:
     bool AppleVMaJ_Action();
 
 private:
-    // An output that a change of base leaves alone, and the number that its text speaks of.
-    struct Output {
-        TextArea& area;
-        std::string number;
-        std::string remark; // on the text while it is of the number that stands there
-        void Dim(bool dimmed);
-    };
-    void Write(Output& output, const std::string& text, const std::string& remark = {});
-    std::string OnlyCentsAreWrong() const;
-
     void BindEvents();
     void BindCommandEvents();
     void BindUpdateCheck();
@@ -272,8 +223,6 @@ private:
         const std::string& decimal, const std::string& source, int baseOrg, std::string_view alphabet);
     bool IsErrorText(std::string_view text) const;
     void ConvertAgain();
-    std::string NumberShown() const;
-    std::string FactorsText(bool grouped) const;
     void TakeAsSource(bool isDecimal, ChangedBy who);
     std::string_view Alphabet() const;
     std::string SourceDigits() const;
@@ -283,10 +232,6 @@ private:
     void NoteNumber(const TextField& champ);
     std::optional<std::string> NumberToRecall(const TextField& champ, bool earlier);
     bool RecallNumber(TextField& champ, const std::string& key);
-
-    void RunFactorsOnThread(std::uint64_t n, bool isAskedFor);
-    void ReportFactorMismatch(std::uint64_t product, std::uint64_t n);
-    RunControl MakeRunControl(bool checkTime);
 
     int AskOnTheWayOut(const std::string& message, const std::string& explanation, const std::string& action,
         const std::string& cancel, const std::string& alternate, int icon);
@@ -306,15 +251,12 @@ private:
     Timer typingPause_; // until the user is taken to have typed all
     // The output that the user went to last, whose text is announced.
     TextControl* outputOfInterest_ = &TxtAreaLettres;
-    bool runIsAskedFor_ = false;
-    std::int64_t runBegan_ = 0;
     NumberHistory history_;
     bool recalling_ = false;     // the edit under way brings an earlier number back
     bool deleting_ = false;      // so did the user at the last edit
     std::string beforeDeletion_; // the number that stood there before
     TypedBase typedBase_;
     bool startIsOver_ = false; // there are settings to save; unlike App.initProg it stays up
-    bool calculationHoldsMenu_ = false;
     bool quitQuestionIsUp_ = false;
     int turnsWaited_ = 0;           // of TimerTempo, by a number for the end of a calculation
     bool recalculationDue_ = false; // a change of the number that a quit under way has put off
@@ -323,13 +265,12 @@ private:
     bool checkTakesTime_ = false;
     Timer slowCheck_; // until a check from the menu has to show that it is under way
     int fetchesUnderWay_ = 0;
-    RunEnd lastRunEnd_{};
-    Output factors_{TxtAreaDecomp1er, {}, {}};
-    Output words_{TxtAreaLettres, {}, {}};
+    NumberOutput factors_{TxtAreaDecomp1er, EditFieldNbre};
+    NumberOutput words_{TxtAreaLettres, EditFieldNbre};
 
 public:
-    // Last, so that it is joined before anything goes that its body uses.
-    Thread ThreadDecPrems;
+    // Last, so that its thread is joined before anything goes that a task uses.
+    Calculation calculation;
 };
 
 } // namespace tessarolyne

@@ -1,6 +1,5 @@
 #include "primes/CalculationProgress.h"
 
-#include "conversion/NumberFormat.h"
 #include "platform/CheckBox.h"
 #include "platform/Desktop.h"
 #include "platform/EventLoop.h"
@@ -10,6 +9,7 @@
 #include "primes/engine/PrimeTable.h"
 #include "ui/FracTexte.h"
 #include "ui/Localisation.h"
+#include "ui/NumberFormat.h"
 
 #include <algorithm>
 #include <string>

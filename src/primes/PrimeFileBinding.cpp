@@ -1,7 +1,6 @@
 // Which text file is bound to the table of primes: how the user binds, replaces, opens and releases it.
 
 #include "app/Program.h"
-#include "conversion/NumberFormat.h"
 #include "conversion/WinMain.h"
 #include "platform/Desktop.h"
 #include "platform/MenuBar.h"
@@ -11,6 +10,7 @@
 #include "ui/FileItems.h"
 #include "ui/FileTypes.h"
 #include "ui/Localisation.h"
+#include "ui/NumberFormat.h"
 
 #include <algorithm>
 #include <cstdint>

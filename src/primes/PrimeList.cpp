@@ -1,12 +1,12 @@
 // The slice of the prime table that the list window shows, and the run that extends the table from there.
 
 #include "app/Program.h"
-#include "conversion/NumberFormat.h"
 #include "conversion/WinMain.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
 #include "primes/WinNbresPremiers.h"
 #include "ui/Localisation.h"
+#include "ui/NumberFormat.h"
 
 #include <algorithm>
 
@@ -21,25 +21,27 @@ std::int64_t EnteredRank(std::string_view text) {
 }
 
 struct Slice {
-    std::int64_t debut;
-    std::int64_t fin;
+    std::int64_t first;
+    std::int64_t last;
 };
 
 // The range that is shown of a table that ends at rank `last`.
 Slice CutToTable(Slice entered, std::int64_t last, bool garderDebut, std::int64_t largest) {
-    std::int64_t debut = std::max<std::int64_t>(entered.debut, 0);
-    if (debut > last) {
-        debut = std::max<std::int64_t>(last - (largest - 1), 0);
+    Slice shown{std::max<std::int64_t>(entered.first, 0), entered.last};
+    if (shown.first > last) {
+        shown.first = std::max<std::int64_t>(last - (largest - 1), 0);
     }
-    std::int64_t fin = entered.fin < 0 || entered.fin > last ? last : entered.fin;
-    if (fin < debut || debut + largest - 1 <= fin) {
+    if (shown.last < 0 || shown.last > last) {
+        shown.last = last;
+    }
+    if (shown.last < shown.first || shown.first + largest - 1 <= shown.last) {
         if (garderDebut) {
-            fin = std::min(debut + largest - 1, last);
+            shown.last = std::min(shown.first + largest - 1, last);
         } else {
-            debut = std::max<std::int64_t>(fin - (largest - 1), 0);
+            shown.first = std::max<std::int64_t>(shown.last - (largest - 1), 0);
         }
     }
-    return {debut, fin};
+    return shown;
 }
 
 } // namespace
@@ -56,10 +58,10 @@ void WinNbresPremiers::FaireListe(bool forcer, bool garderDebut) {
     Ind_DerPrem = last;
     const Slice slice = CutToTable({EnteredRank(EditFieldAffDu.Text()), EnteredRank(EditFieldAffAu.Text())},
         last, garderDebut, largestSlice);
-    debut_ = static_cast<std::int32_t>(slice.debut);
-    fin_ = static_cast<std::int32_t>(slice.fin);
-    EditFieldAffDu.Text = Str(slice.debut + 1);
-    EditFieldAffAu.Text = Str(slice.fin + 1);
+    debut_ = static_cast<std::int32_t>(slice.first);
+    fin_ = static_cast<std::int32_t>(slice.last);
+    EditFieldAffDu.Text = Str(slice.first + 1);
+    EditFieldAffAu.Text = Str(slice.last + 1);
     const std::string text = ListText(debut_, fin_);
     ShowBinding();
     StaticTextNbNbre1ers.Text =
@@ -91,33 +93,25 @@ std::string WinNbresPremiers::ListText(std::int32_t debut, std::int32_t fin) con
 void WinNbresPremiers::PushButtonCalcPrems_Action(PushButton&) {
     WinMain& main = program.winMain();
     const std::uint64_t limit = ToUInt64(Round(Val(WithoutBlanks(EditFieldFin.Text()))));
-    if (main.CalculEnCours) {
+    if (main.calculation.CalculEnCours()) {
         fncts.Beep();
         return;
     }
-    main.CalculEnCours = true;
-    fncts.ArretUrg = false;
-    if (limit > main.NbreMax) {
+    main.calculation.Begin();
+    if (limit > NbreMax) {
         fncts.Beep();
-        EditFieldFin.Text = "Nb Max = " + FormatWhole(main.NbreMax, main.CheckBoxFormatAuto.Value);
-        main.CalculEnCours = false;
+        EditFieldFin.Text = "Nb Max = " + FormatWhole(NbreMax, main.CheckBoxFormatAuto.Value);
+        main.calculation.End();
         return;
     }
     ProgressWheel2.Visible = true;
-    main.HoldMenuForCalculation(true);
-    main.ThrPn1 = limit;
-    main.Progress.Follow(ProgressWheel2, StaticTextAvance, limit);
-    main.NoteRunBegins(true);
-    ThreadCalcPrems.Start();
+    const auto body = [&calculation = main.calculation](
+                          std::uint64_t end) { calculation.NbresPremCalc(end, false); };
+    main.calculation.RunOnThread({Calculation::listRunHasEnded, limit, ProgressWheel2, StaticTextAvance,
+        limit, true, body, [this](std::uint64_t) { ButtCalcPremsFin(); }});
 }
 
-void WinNbresPremiers::ThreadCalcPrems_Run(Thread&) {
-    WinMain& main = program.winMain();
-    main.NbresPremCalc(main.ThrPn1, false);
-    main.ThrNo = WinMain::listRunHasEnded;
-    main.TimerThr.Mode = 1;
-}
-
+// Ends a run of this window, on the main thread.
 void WinNbresPremiers::ButtCalcPremsFin() {
     WinMain& main = program.winMain();
     if (fncts.ArretUrg) {
@@ -129,11 +123,9 @@ void WinNbresPremiers::ButtCalcPremsFin() {
         FaireListe(true, false);
     }
     ProgressWheel2.Visible = false;
-    main.Progress.End();
-    main.HoldMenuForCalculation(false);
-    main.CalculEnCours = false;
-    main.TellWhyRunEnded();
-    main.AnnounceRunEnded(StaticTextNbNbre1ers.Text);
+    main.calculation.End();
+    main.calculation.TellWhyRunEnded();
+    main.calculation.AnnounceRunEnded(StaticTextNbNbre1ers.Text);
 }
 
 } // namespace tessarolyne

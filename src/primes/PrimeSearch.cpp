@@ -1,12 +1,12 @@
 // By keyboard through the list of primes: to a value, and from one slice to the next.
 
 #include "app/Program.h"
-#include "conversion/NumberFormat.h"
 #include "conversion/WinMain.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
 #include "primes/WinNbresPremiers.h"
 #include "ui/Localisation.h"
+#include "ui/NumberFormat.h"
 
 #include <algorithm>
 
@@ -51,8 +51,8 @@ bool WinNbresPremiers::EditFieldChercher_KeyDown(TextField& champ, const std::st
         return false;
     }
     const std::string text = WithoutBlanks(champ.Text());
-    if (main.CalculEnCours) {
-        isReturn ? fncts.Beep() : main.StopOnEscape(key);
+    if (main.calculation.CalculEnCours()) {
+        isReturn ? fncts.Beep() : main.calculation.StopOnEscape(key);
     } else if (isReturn && !text.empty()) {
         GoToValue(ToUInt64(Val(text)));
     } else {

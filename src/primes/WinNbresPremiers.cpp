@@ -1,7 +1,6 @@
 #include "primes/WinNbresPremiers.h"
 
 #include "app/Program.h"
-#include "conversion/NumberFormat.h"
 #include "conversion/WinMain.h"
 #include "platform/Desktop.h"
 #include "platform/Numbers.h"
@@ -11,6 +10,7 @@
 #include "ui/FileItems.h"
 #include "ui/HelpTags.h"
 #include "ui/Localisation.h"
+#include "ui/NumberFormat.h"
 
 namespace tessarolyne {
 
@@ -31,14 +31,14 @@ bool IsReturn(const std::string& key) {
 } // namespace
 
 WinNbresPremiers::WinNbresPremiers(Program& owner)
-    : ProgramWindow(owner, Localisation::WinNbresTitre(), 520, 585, frame),
-      ThreadCalcPrems(owner.services.loop) {
+    : ProgramWindow(owner, Localisation::WinNbresTitre(), 520, 585, frame) {
     SetInitialState();
     ExplainControls(*this);
     BindEvents();
 }
 
 void WinNbresPremiers::SetInitialState() {
+    AlwaysEnabled = {&EditFieldChercher};
     PushButtonCalcPrems.Caption = Localisation::Btn_CalcPrems();
     EditFieldFin.Mask = "999999999999";
     EditFieldAffDu.Mask = "999999999";
@@ -101,10 +101,6 @@ void WinNbresPremiers::BindEvents() {
     }
     PushButtonCalcPrems.Action = [this] { PushButtonCalcPrems_Action(PushButtonCalcPrems); };
     PushButtonFichier.Action = [this] { PushButtonFichier_Action(PushButtonFichier); };
-    ThreadCalcPrems.Run = [this] { ThreadCalcPrems_Run(ThreadCalcPrems); };
-    ThreadCalcPrems.Failed = [this](const std::string& reason) {
-        program.winMain().ThreadFailed(WinMain::listRunHasEnded, reason);
-    };
 }
 
 void WinNbresPremiers::Event_Open() {
@@ -144,7 +140,7 @@ void WinNbresPremiers::PlaceWindow() {
 
 bool WinNbresPremiers::Event_CancelClose(bool appQuitting) {
     WinMain& main = program.winMain();
-    if (main.CalculEnCours) {
+    if (main.calculation.CalculEnCours()) {
         main.AskToStopCalculation();
         return true;
     }
@@ -171,7 +167,7 @@ void WinNbresPremiers::KeepSettings() {
 }
 
 bool WinNbresPremiers::Event_KeyDown(const std::string& key) {
-    program.winMain().StopOnEscape(key);
+    program.winMain().calculation.StopOnEscape(key);
     return key != Chr(9);
 }
 

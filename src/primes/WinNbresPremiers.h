@@ -1,13 +1,12 @@
 #pragma once
 
-#include "conversion/NumberField.h"
 #include "platform/Label.h"
 #include "platform/ProgressWheel.h"
 #include "platform/PushButton.h"
 #include "platform/TextArea.h"
 #include "platform/TextField.h"
-#include "platform/Thread.h"
 #include "ui/BlockingOverlay.h"
+#include "ui/NumberField.h"
 #include "ui/ProgramWindow.h"
 
 #include <cstdint>
@@ -44,8 +43,6 @@ public:
     TextField EditFieldChercher{*this, "EditFieldChercher", {20, 549, 261, 22}, lockLeftBottom, NoTabStop(9)};
     BlockingOverlay LabBlockUI{*this, fncts, NoTabStop(12)};
 
-    Thread ThreadCalcPrems;
-
     // How many primes the list shows at most, so that the area is quick to fill.
     static constexpr std::int32_t largestSlice = 2000;
     // How many stand on a line of the list.
@@ -57,8 +54,6 @@ public:
     // Builds the list again; without `forcer` only if the table has grown. `garderDebut` says which end of
     // the range stays when it has to be cut to 2000 primes.
     void FaireListe(bool forcer, bool garderDebut);
-    // Ends a run of this window, on the main thread.
-    void ButtCalcPremsFin();
     // Takes over the number of primes per line of the file; 0 is refused with a message.
     void DefNbreNbPparLigne();
     // Notes the window's place and the primes per line for the preferences, asking nothing.
@@ -79,9 +74,9 @@ public:
     bool TxtAreaListeNbres1ers_KeyDown(TextArea& zone, const std::string& key);
     void PushButtonCalcPrems_Action(PushButton& bouton);
     void PushButtonFichier_Action(PushButton& bouton);
-    void ThreadCalcPrems_Run(Thread& thread);
 
 private:
+    void ButtCalcPremsFin();
     void SetInitialState();
     void BindEvents();
     void PlaceWindow();

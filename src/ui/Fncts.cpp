@@ -2,7 +2,6 @@
 
 #include "app/Program.h"
 #include "app/SafeAddress.h"
-#include "conversion/WinMain.h"
 #include "platform/Announcer.h"
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
@@ -11,6 +10,7 @@
 #include "platform/Services.h"
 #include "platform/Text.h"
 #include "ui/FracTexte.h"
+#include "ui/Localisation.h"
 
 namespace tessarolyne {
 
@@ -88,8 +88,21 @@ std::string Fncts::FracTexte(const std::string& texte, int partie) {
     return {};
 }
 
+void Fncts::CopyToClipboard(const std::string& texte) {
+    PlayT(Bip, false);
+    PressPapTxt(texte);
+    if (!texte.empty()) {
+        Announce(FracTexte(Localisation::Txt_Copie(), 1) + texte);
+    }
+}
+
+void Fncts::HoldMenuForCalculation(bool hold) {
+    calculationHoldsMenu_ = hold;
+    DrapMenu = !hold;
+}
+
 void Fncts::RestoreDrapMenu(bool found) {
-    DrapMenu = found && !program_.winMain().CalculationHoldsMenu();
+    DrapMenu = found && !calculationHoldsMenu_;
 }
 
 void Fncts::ReportFault(const std::string& place) {

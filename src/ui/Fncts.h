@@ -104,8 +104,12 @@ public:
     // Moves each control of the window by the small amount that its class needs to stand in line.
     static void DecPosCtrl(Window& fenetre);
 
+    // Takes DrapMenu down for a calculation on a thread, or gives it back.
+    void HoldMenuForCalculation(bool hold);
     // Gives DrapMenu the value that was found before; never true while a calculation keeps it down.
     void RestoreDrapMenu(bool found);
+    // Puts the text on the clipboard, with the sound and the announcement that say so.
+    void CopyToClipboard(const std::string& texte);
 
 private:
     class DialogProtocol;
@@ -114,6 +118,7 @@ private:
         FileDialog dialog, const std::optional<FolderItem>& depart, Window* fenetre, bool toSave);
 
     Program& program_;
+    bool calculationHoldsMenu_ = false;
 };
 
 } // namespace tessarolyne

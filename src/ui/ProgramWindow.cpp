@@ -3,6 +3,7 @@
 #include "app/Program.h"
 #include "platform/Services.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace tessarolyne {
@@ -17,6 +18,14 @@ constexpr int smallestTop = 38;
 ProgramWindow::ProgramWindow(Program& owner, std::string title, int width, int height, WindowFrame frame)
     : Window(owner.app, std::move(title), width, height, frame), program(owner), app(owner.app),
       fncts(owner.fncts) {}
+
+void ProgramWindow::EnableControls() {
+    for (Control* control : Controls()) {
+        if (control->TakesFocus() && std::ranges::find(AlwaysEnabled, control) == AlwaysEnabled.end()) {
+            control->Enabled = fncts.DrapMenu;
+        }
+    }
+}
 
 bool ProgramWindow::CanStandAt(const WindowPlace& place) const {
     const Stage& stage = program.services.stage;

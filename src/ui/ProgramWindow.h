@@ -6,6 +6,7 @@
 #include "ui/Fncts.h"
 
 #include <string>
+#include <vector>
 
 namespace tessarolyne {
 
@@ -21,7 +22,13 @@ public:
     // below a menu bar there, or whole on another screen that is still there.
     bool CanStandAt(const WindowPlace& place) const;
 
+    // Enables what the user presses or writes in, as Fncts::DrapMenu says, but for `AlwaysEnabled`.
+    void EnableControls();
+
 protected:
+    // What stays usable during a calculation, or has a rule of its own.
+    std::vector<const Control*> AlwaysEnabled;
+
     Program& program;
     App& app;
     Fncts& fncts;

@@ -14,16 +14,16 @@ namespace tessarolyne {
 void WinMain::ConvNbreLettresD() {
     const std::string decimal = WithoutBlanks(EditFieldNbre.Text());
     if (decimal.empty()) {
-        Write(words_, "");
+        words_.Write("");
         return;
     }
     if (!IsNumeric(decimal)) {
-        Write(words_, Localisation::Txt_ErrNbre());
+        words_.Write(Localisation::Txt_ErrNbre());
         return;
     }
     const double value = CDbl(decimal);
     if (!(value >= 0)) {
-        Write(words_,
+        words_.Write(
             Localisation::Txt_ErrNbre() + std::string(endOfLine) + Localisation::Txt_EntrerUnNbrePositif());
         return;
     }
@@ -43,7 +43,7 @@ void WinMain::ConvNbreLettresD() {
     settings.capital = CheckBoxMajusc.Value;
     settings.tooLargeText = Localisation::Txt_EntrerNbreAuDessousDe();
     settings.report = [this](std::string_view place) { fncts.ReportFault(std::string(place)); };
-    Write(words_, AmountInWords(value, settings));
+    words_.Write(AmountInWords(value, settings));
 }
 
 void WinMain::RecomputeWords() {
@@ -83,7 +83,7 @@ void WinMain::PopupMenuLg_Change(PopupMenu&) {
 
 void WinMain::PushButtonPressPapLettr_Action(PushButton&) {
     if (!program.services.desktop.OptionKeyIsDown()) {
-        CopyToClipboard(TxtAreaLettres.Text);
+        fncts.CopyToClipboard(TxtAreaLettres.Text);
     } else if (app.initProg) {
         ResetCurrencies();
     }

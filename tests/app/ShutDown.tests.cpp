@@ -19,7 +19,7 @@ void BindFileWithNewPrimes(TestWorld& world) {
     world.files.AddFile(primes, "2\t3\t5\t7\n");
     world.program->app.FichNbPrems = world.files.At(primes);
     world.Main().Nb_NbrePcharg = 4;
-    world.Main().NbresPremCalc(10000, false);
+    world.Main().calculation.NbresPremCalc(10000, false);
 }
 
 bool Ended(TestWorld& world) {
@@ -29,16 +29,16 @@ bool Ended(TestWorld& world) {
 
 // A run that ends only when it is stopped.
 void StartLongRun(TestWorld& world) {
-    world.Main().EditFieldNbre.Text = "6";
-    world.Main().ThreadDecPrems.Run = [&world] {
-        while (!world.program->fncts.ArretUrg) {
-            std::this_thread::yield();
-        }
-        world.Main().Nbre_Decompose = {0};
-        world.Main().ThrNo = WinMain::factorsAreThere;
-        world.Main().TimerThr.Mode = 1;
-    };
-    world.Main().DecompPremDeb(true);
+    WinMain& window = world.Main();
+    window.calculation.Begin();
+    window.calculation.RunOnThread(
+        {Calculation::factorsAreThere, 0, window.ProgressWheel1, window.StaticTextAvance, 0, true,
+            [&world](auto) {
+                while (!world.program->fncts.ArretUrg) {
+                    std::this_thread::yield();
+                }
+            },
+            [&window](auto) { window.calculation.End(); }});
 }
 
 } // namespace
@@ -93,7 +93,7 @@ TEST_CASE("A close during a calculation asks, a request to quit only with the li
         if (way == Request) {
             world.program->app.RequestQuit();
             CHECK_FALSE(Ended(world));
-            world.program->fncts.ArretUrg = true;
+            world.Main().calculation.Stop();
         } else {
             world.dialogs.Expect(DialogButton::Action);
             way == Close ? world.Main().UserClosed() : world.program->app.RequestQuit();
@@ -132,9 +132,9 @@ TEST_CASE(
                 list.UserClosed();
             }
             CHECK_FALSE(world.program->fncts.ArretUrg);
-            CHECK(window.CalculEnCours);
-            world.program->fncts.ArretUrg = true;
-            world.loop.Until([&] { return !window.CalculEnCours; });
+            CHECK(window.calculation.CalculEnCours());
+            window.calculation.Stop();
+            world.loop.Until([&] { return !window.calculation.CalculEnCours(); });
             CHECK(world.program->fncts.DrapMenu);
             CHECK_FALSE(Ended(world));
         }

@@ -36,13 +36,13 @@ TEST_CASE("A run that the user asked for is announced at its end, with what it g
     WinMain& window = world.Main();
     world.Type(window.EditFieldNbre, "1000002");
     world.loop.Advance(1000);
-    window.DecompPremDeb(true);
+    window.decomposition.DecompPremDeb(true);
     world.Settle();
     CHECK(world.announcer.said.size() == 2);
     CHECK(world.announcer.said.back() == "Calcul terminé : 2 x 3 x 166 667");
     world.Type(window.EditFieldNbre, "999999999989");
-    window.DecompPremDeb(true);
-    window.StopOnEscape("\x1B");
+    window.decomposition.DecompPremDeb(true);
+    window.calculation.StopOnEscape("\x1B");
     world.Settle();
     CHECK(world.announcer.said.back() == "Calcul arrêté");
 }

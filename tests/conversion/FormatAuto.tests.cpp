@@ -39,7 +39,7 @@ TEST_CASE("The switch brings what is shown into line both ways, but for the edit
 TEST_CASE("The list window's numbers follow the switch; a field shows the bare number while it is edited") {
     TestWorld world;
     WinMain& window = world.Main();
-    window.NbresPremCalc(20000, false);
+    window.calculation.NbresPremCalc(20000, false);
     window.BevelButtonListe.UserPressed();
     WinNbresPremiers& list = world.program->winNbresPremiers();
     CHECK(list.EditFieldAffAu.DisplayText() == "2 000");

@@ -220,12 +220,12 @@ TEST_CASE(
     TestWorld world;
     WinMain& window = world.Main();
     window.EditFieldNbre.UserFocused();
-    window.CalculEnCours = true;
+    window.calculation.Begin();
     window.EditFieldNbre.UserTyped("12.5");
     window.EditFieldBaseOrg.UserFocused();
     world.loop.Advance(100);
     CHECK(window.EditFieldBaseOrg.Text().empty());
-    window.CalculEnCours = false;
+    window.calculation.End();
     {
         const Application::ModalStep dialog(world.program->app, nullptr);
         world.loop.Advance(100);

@@ -20,14 +20,14 @@ TEST_CASE("A run's wheel tells its last prime once a second to the ear, and neve
             heard.push_back(wheel.Spoken());
         }
     });
-    window.Progress.Follow(wheel, window.StaticTextAvance, 1200);
+    window.calculation.Progress.Follow(wheel, window.StaticTextAvance, 1200);
     for (const std::uint64_t limit : {100U, 1000U, 1100U, 1150U, 2000U, 2100U}) {
         world.loop.Advance(249);
-        window.NbresPremCalc(limit, false);
+        window.calculation.NbresPremCalc(limit, false);
         world.loop.Advance(1);
     }
     CHECK(window.StaticTextAvance.Text == "99 % · Esc : arrêter");
-    window.Progress.End();
+    window.calculation.Progress.End();
     world.loop.Advance(1000);
     CHECK(
         heard == std::vector<std::string>{"", "2, 3, 5, 7 … 101 / 1 200", "2, 3, 5, 7 … 1 200 / 1 200", ""});
@@ -38,12 +38,12 @@ TEST_CASE("After ten seconds the end calls the user back, whether or not it coul
     TestWorld world;
     WinMain& window = world.Main();
     for (const int milliseconds : {10'000, 10'001}) {
-        window.Progress.Follow(window.ProgressWheel1, window.StaticTextAvance, 0);
+        window.calculation.Progress.Follow(window.ProgressWheel1, window.StaticTextAvance, 0);
         world.loop.Advance(milliseconds);
         CHECK(window.StaticTextAvance.Visible);
         CHECK(window.StaticTextAvance.Text == "Esc : arrêter");
         CHECK(world.desktop.askedForAttention == 0);
-        window.Progress.End();
+        window.calculation.Progress.End();
         CHECK_FALSE(window.StaticTextAvance.Visible);
     }
     CHECK(world.desktop.askedForAttention == 1);
@@ -52,7 +52,7 @@ TEST_CASE("After ten seconds the end calls the user back, whether or not it coul
 TEST_CASE("A number typed during a run says after half a second that it waits, and then is dealt with") {
     TestWorld world;
     WinMain& window = world.Main();
-    window.CalculEnCours = true;
+    window.calculation.Begin();
     window.EditFieldNbre.UserFocused();
     window.EditFieldNbre.UserTyped("7");
     world.loop.Advance(499);
@@ -60,7 +60,7 @@ TEST_CASE("A number typed during a run says after half a second that it waits, a
     world.loop.Advance(1);
     CHECK(window.StaticTextEnAttente.Visible);
     CHECK(world.announcer.said == std::vector<std::string>{"Le nombre saisi attend la fin du calcul."});
-    window.CalculEnCours = false;
+    window.calculation.End();
     world.loop.Advance(20);
     CHECK_FALSE(window.StaticTextEnAttente.Visible);
     CHECK(window.TxtAreaLettres.Text().starts_with("sept"));

@@ -12,7 +12,7 @@ namespace {
 // The list open over a table that reaches `limit`.
 struct OpenList {
     explicit OpenList(std::uint64_t limit) {
-        world.Main().NbresPremCalc(limit, false);
+        world.Main().calculation.NbresPremCalc(limit, false);
         world.Main().BevelButtonListe.UserPressed();
     }
 

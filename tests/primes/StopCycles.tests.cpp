@@ -53,16 +53,15 @@ TEST_CASE("Runs that are stopped at any moment leave the table as one that grew 
             list.PushButtonCalcPrems.UserPressed();
         } else {
             window.EditFieldNbre.Text = goal;
-            window.DecompPremDeb(true);
+            window.decomposition.DecompPremDeb(true);
         }
         for (auto yields = random() % 8; yields > 0 || table.LastReached() < reach;
              yields -= yields > 0 ? 1 : 0) {
             std::this_thread::yield();
         }
         REQUIRE(list.UserPressedKey(Chr(27)));
-        world.loop.Until([&] { return !window.CalculEnCours; });
-        REQUIRE(window.ThreadDecPrems.State() == Thread::notRunning);
-        REQUIRE(list.ThreadCalcPrems.State() == Thread::notRunning);
+        world.loop.Until([&] { return !window.calculation.CalculEnCours(); });
+        REQUIRE(!window.calculation.IsOnThread());
         list.EditFieldAffAu.Text = "6"; // what is listed isn't at stake here
     }
     CheckAgainstGrowthInOneGo(table);

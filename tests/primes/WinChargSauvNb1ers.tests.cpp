@@ -25,7 +25,7 @@ struct Bound : TestWorld {
     explicit Bound(const std::string& bytes) {
         files.AddFile(path, bytes);
         program->app.FichNbPrems = files.At(path);
-        Main().NbresPremCalc(13, false);
+        Main().calculation.NbresPremCalc(13, false);
     }
     void Load() { program->winChargSauvNb1ers().LoadNb1ers(); }
     void Save(LinkPolicy links = LinkPolicy::ReplaceTarget) {
@@ -220,7 +220,7 @@ TEST_CASE("A file that changed since it was seen is replaced only if nothing is 
         CAPTURE(file.now);
         Bound world("2\t3\t5\t7\n");
         world.Load();
-        world.Main().NbresPremCalc(13, false);
+        world.Main().calculation.NbresPremCalc(13, false);
         world.files.AddFile(path, file.now);
         if (!file.message.empty()) {
             world.dialogs.Expect(Action);
@@ -232,7 +232,7 @@ TEST_CASE("A file that changed since it was seen is replaced only if nothing is 
     }
     Bound own("2\t3\t5\t7\n"); // what was saved is seen, too
     own.Load();
-    own.Main().NbresPremCalc(13, false);
+    own.Main().calculation.NbresPremCalc(13, false);
     own.Save();
     own.Main().Nbres_Premiers.Clear();
     own.Save();

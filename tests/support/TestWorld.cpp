@@ -42,7 +42,7 @@ void TestWorld::Type(TextField& field, const std::string& text) {
 
 void TestWorld::Settle() {
     loop.Advance(25);
-    loop.Until([this] { return !Main().CalculEnCours; });
+    loop.Until([this] { return !Main().calculation.CalculEnCours(); });
 }
 
 } // namespace tessarolyne::tests

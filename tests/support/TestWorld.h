@@ -20,6 +20,7 @@
 #include <functional>
 #include <memory>
 #include <optional>
+#include <stdexcept>
 #include <string>
 #include <typeindex>
 #include <vector>
@@ -168,7 +169,10 @@ public:
 
 class PlentyOfMemory final : public MemoryLimits {
 public:
-    std::uint64_t AvailableBytes() const override { return available; }
+    std::uint64_t AvailableBytes() const override {
+        return isBroken ? throw std::runtime_error("planted") : available;
+    }
+    bool isBroken = false;
     std::uint64_t available = std::uint64_t{1} << 30;
 };
 

@@ -86,15 +86,22 @@ TEST_CASE("An empty table, as a load without memory leaves it, is listed as such
     CHECK(window.TxtAreaDecomp1er.Text() == "7 x 13");
 }
 
-TEST_CASE("A calculation that began while a question was up keeps the commands frozen behind it") {
+TEST_CASE("The result of a calculation that began while a question was up waits, and the commands with it") {
     TestWorld world;
     WinMain& window = world.Main();
-    window.NbresPremCalc(100, false);
+    window.calculation.NbresPremCalc(100, false);
     window.EditFieldNbre.Text = "6";
-    world.dialogs.Expect(DialogButton::Action, [&] { window.DecompPremDeb(false); });
+    world.dialogs.Expect(DialogButton::Action, [&] {
+        window.decomposition.DecompPremDeb(false);
+        world.loop.WaitUntil([&] { return !window.calculation.IsOnThread(); });
+        world.loop.Advance(200);
+        CHECK(window.calculation.CalculEnCours());
+    });
     world.program->fncts.MyDialogBox("m", "", "Ok", "", "", 0, nullptr);
+    CHECK(window.TxtAreaDecomp1er.Text() == "…");
     CHECK_FALSE(world.program->fncts.DrapMenu);
     world.Settle();
+    CHECK(window.TxtAreaDecomp1er.Text() == "2 x 3");
     CHECK(world.program->fncts.DrapMenu);
 }
 

@@ -1,4 +1,4 @@
-#include "conversion/WrittenNumber.h"
+#include "ui/WrittenNumber.h"
 
 #include "platform/Ascii.h"
 #include "platform/Text.h"

@@ -1,4 +1,4 @@
-#include "conversion/NumberFormat.h"
+#include "ui/NumberFormat.h"
 
 #include "platform/Numbers.h"
 #include "platform/Text.h"

@@ -1,4 +1,4 @@
-#include "conversion/NumberFormat.h"
+#include "ui/NumberFormat.h"
 
 #include <doctest/doctest.h>
 

@@ -1,4 +1,4 @@
-#include "conversion/NumberField.h"
+#include "ui/NumberField.h"
 
 #include "platform/Numbers.h"
 #include "platform/TextField.h"

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "conversion/WrittenNumber.h"
 #include "platform/Mask.h"
 #include "platform/TextControl.h"
+#include "ui/WrittenNumber.h"
 
 #include <string>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "conversion/NumberTyping.h"
+#include "ui/NumberTyping.h"
 
 #include <string>
 

@@ -8,6 +8,9 @@
 // bare.
 namespace tessarolyne {
 
+// The largest number that is accepted.
+inline constexpr std::uint64_t NbreMax = 999'999'999'999;
+
 // The mask of decimal numbers in groups. It leaves blanks for groups without digits, so that LTrim follows
 // it.
 inline constexpr std::string_view groupedMask = R"(-###\ ###\ ###\ ###\ ###\ ##0)";

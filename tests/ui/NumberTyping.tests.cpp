@@ -1,4 +1,4 @@
-#include "conversion/NumberTyping.h"
+#include "ui/NumberTyping.h"
 #include "conversion/BaseConversion.h"
 #include "conversion/BaseDigits.h"
 #include "platform/Text.h"

@@ -1,4 +1,4 @@
-#include "conversion/NumberTyping.h"
+#include "ui/NumberTyping.h"
 
 #include "platform/Ascii.h"
 #include "platform/Text.h"
