@@ -47,6 +47,5 @@ set_source_files_properties(
 
 # The installed bundle carries Qt along.
 install(TARGETS tessarolyne BUNDLE DESTINATION .)
-find_package(Qt6 REQUIRED COMPONENTS Core)
 qt_generate_deploy_app_script(TARGET tessarolyne FILENAME_VARIABLE deploy NO_UNSUPPORTED_PLATFORM_ERROR)
 install(SCRIPT "${deploy}")

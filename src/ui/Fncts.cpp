@@ -2,6 +2,7 @@
 
 #include "app/Program.h"
 #include "app/SafeAddress.h"
+#include "app/Version.h"
 #include "platform/Announcer.h"
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
@@ -15,11 +16,6 @@
 namespace tessarolyne {
 
 namespace {
-
-// What the build says of itself: target, bitness, and the version of the tool chain.
-constexpr const char* buildTarget = "Mac INTEL - Cocoa";
-constexpr const char* buildBits = " 64-bit";
-constexpr const char* buildToolVersion = "2018r2";
 
 constexpr int ticksBetweenBeeps = 10;
 
@@ -76,7 +72,7 @@ void Fncts::ShowURL(const std::string& adresse) {
 }
 
 std::string Fncts::TypeCompil() {
-    return std::string(buildTarget) + buildBits + " (" + buildToolVersion + ")";
+    return builtFor;
 }
 
 std::string Fncts::FracTexte(const std::string& texte, int partie) {

@@ -1,4 +1,5 @@
 #include "app/Version.h"
+#include "platform/Text.h"
 #include "support/TestWorld.h"
 #include "ui/WinInfos.h"
 #include "ui/WinPrefs.h"
@@ -9,8 +10,12 @@ using namespace tessarolyne;
 using namespace tessarolyne::tests;
 
 TEST_CASE("A link opens what it shows when a press begins and ends on it") {
-    const std::string letter = "?Subject=A%20propos%20de%20Tessarolyne%20" + std::string(shortVersion) +
-                               "%20Mac%20INTEL%20-%20Cocoa%2064-bit%20%282018r2%29";
+    const std::string build = Fncts::TypeCompil();
+#ifdef __linux__
+    CHECK((build.starts_with("Linux ") && build.find(sizeof(void*) == 8 ? " 64-bit (" : " 32-bit (") < 40));
+#endif
+    const std::string letter =
+        "?Subject=A%20propos%20de%20Tessarolyne%20" + EncodeURLComponent(shortVersion + (" " + build));
     TestWorld world;
     WinInfos& about = world.program->winInfos();
     const auto check = [&](auto& link, const std::string& opened) {
