@@ -132,10 +132,6 @@ bool IsWebAddress(std::string_view address, std::string_view scheme) {
 } // namespace
 
 bool IsSafeAddress(std::string_view address) {
-    return IsWebAddress(address, unsecuredWeb);
-}
-
-bool IsSafeOwnAddress(std::string_view address) {
     const bool isMail = address.starts_with(mail) && address.size() > mail.size() &&
                         address.size() <= longestAddress &&
                         HasOnlyAddressCharacters(address.substr(mail.size()));

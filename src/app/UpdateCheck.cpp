@@ -2,6 +2,7 @@
 // that no dialog ever opens inside the former. What is said to the user is said by Fncts.VrfVerMaJ.
 
 #include "app/Program.h"
+#include "app/Version.h"
 #include "conversion/WinMain.h"
 #include "platform/EventLoop.h"
 #include "platform/Numbers.h"
@@ -36,7 +37,8 @@ void WinMain::BindUpdateCheck() {
 
 // A clock that was set back makes no new day.
 void WinMain::StartAutomaticCheck() {
-    const bool due = app.AutoCheckUpdt && DayNumber(app.DateDuJour) > DayNumber(app.DateDerLaunch) &&
+    const bool due = offersUpdateCheck && app.AutoCheckUpdt &&
+                     DayNumber(app.DateDuJour) > DayNumber(app.DateDerLaunch) &&
                      !program.services.loop.IsQuitting();
     fncts.AlertVerAjour = !due;
     if (due) {

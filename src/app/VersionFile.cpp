@@ -1,5 +1,6 @@
 #include "app/VersionFile.h"
 
+#include "app/Version.h"
 #include "platform/Text.h"
 
 #include <algorithm>
@@ -61,6 +62,9 @@ VersionReply ReadVersionReply(std::string_view text) {
 }
 
 std::string HistoryPage(std::string_view requestedUrl) {
+    if (*historyAddress != '\0') {
+        return historyAddress;
+    }
     constexpr std::string_view ending = "_V.txt";
     return Left(requestedUrl, Len(requestedUrl) - Len(ending)) + "_AffV.html";
 }

@@ -1,6 +1,7 @@
 // What the program says by itself at the start, before the user may do anything.
 
 #include "app/Program.h"
+#include "app/Version.h"
 #include "conversion/WinMain.h"
 #include "platform/EventLoop.h"
 #include "platform/Services.h"
@@ -13,7 +14,7 @@ void WinMain::Welcome(bool premierLancement) {
     if (premierLancement) {
         fncts.MyDialogBox(
             Localisation::Txt_SiVsVoulezConservNbPrem(), "", Localisation::Btn_Ok(), "", "", 0, nullptr);
-    } else if (app.DejaDonne) {
+    } else if (app.DejaDonne || !asksForDonations) {
         return;
     }
     if (program.services.loop.IsQuitting()) {

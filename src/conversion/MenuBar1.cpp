@@ -1,5 +1,6 @@
 #include "conversion/MenuBar1.h"
 
+#include "app/Version.h"
 #include "ui/Localisation.h"
 
 namespace tessarolyne {
@@ -33,9 +34,13 @@ MenuBar1::MenuBar1() {
     edit.Append("UntitledSeparator0", "-", "", automatic, Role::Separator);
     edit.Append("AppleAPropos", Menu_AppleApropos(), "", byProgram, Role::About).AltKey =
         Alt_Menu_AppleApropos();
-    edit.Append("AppleVMaJ", Menu_AppleVMaJ(), "", byProgram, Role::Application).AltKey =
-        Alt_Menu_AppleVMaJ();
-    edit.Append("AppleDon", Btn_FaireDon(), "", byProgram, Role::Application).AltKey = Alt_Btn_FaireDon();
+    if (offersUpdateCheck) {
+        edit.Append("AppleVMaJ", Menu_AppleVMaJ(), "", byProgram, Role::Application).AltKey =
+            Alt_Menu_AppleVMaJ();
+    }
+    if (asksForDonations) {
+        edit.Append("AppleDon", Btn_FaireDon(), "", byProgram, Role::Application).AltKey = Alt_Btn_FaireDon();
+    }
     edit.Append("UntitledSeparator1", "-", "", automatic, Role::Separator);
     edit.Append("ApplePrefs", Menu_Preferences(), "", byProgram, Role::Preferences).AltKey =
         Alt_Menu_Preferences();

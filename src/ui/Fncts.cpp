@@ -64,7 +64,7 @@ void Fncts::PressPapTxt(const std::string& texte) {
 
 void Fncts::ShowURL(const std::string& adresse) {
     const auto show = [this, adresse] { MsgBox(adresse); };
-    if (IsSafeOwnAddress(adresse)) {
+    if (IsSafeAddress(adresse)) {
         program_.services.desktop.OpenAddress(adresse, show);
     } else {
         show();

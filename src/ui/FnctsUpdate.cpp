@@ -48,13 +48,7 @@ bool Fncts::VrfVerMaJ(const std::string& shortVersion, const std::string& txtAJo
         answer += answer == 0 ? 0 : 1; // no answer, because the program is being ended, opens nothing
     }
     if (answer == 1 || answer == 3) {
-        const std::string& address = answer == 1 ? reply.downloadPage : history;
-        // A stranger's text: stricter than ShowURL, which also takes the program's own addresses.
-        if (IsSafeAddress(address)) {
-            ShowURL(address);
-        } else {
-            MsgBox(address);
-        }
+        ShowURL(answer == 1 ? reply.downloadPage : history);
     }
     TexteVerMaJ.clear();
     RestoreDrapMenu(true);

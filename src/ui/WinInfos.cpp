@@ -62,6 +62,7 @@ void WinInfos::SetInitialState() {
     BevButtDon.Caption = Localisation::Btn_FaireDon();
     BevButtDon.AltKey = Localisation::Alt_Btn_FaireDon();
     BevButtDon.HelpTag = donationAddress;
+    BevButtDon.Visible = asksForDonations;
     BevButtDejDon.Caption = Localisation::Btn_DejDon();
     BevButtDejDon.AltKey = Localisation::Alt_Btn_DejDon();
     BevButtDejDon.Visible = false;

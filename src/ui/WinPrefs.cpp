@@ -1,6 +1,7 @@
 #include "ui/WinPrefs.h"
 
 #include "app/Program.h"
+#include "app/Version.h"
 #include "conversion/WinMain.h"
 #include "platform/Services.h"
 #include "platform/Stage.h"
@@ -28,6 +29,10 @@ WinPrefs::WinPrefs(Program& owner)
     : ModalWindow(owner, Localisation::WinPref_Title(), 400, 99, PreferencesFrame()) {
     CheckBoxAutoUpdt.Caption = Localisation::Pref_ChBoxAutoUpdt();
     CheckBoxAutoUpdt.AltKey = Localisation::Alt_Pref_ChBoxAutoUpdt();
+    if (!offersUpdateCheck) {
+        CheckBoxAutoUpdt.Visible = false;
+        CheckBoxAnnonces.Top = CheckBoxAutoUpdt.Top;
+    }
     CheckBoxAnnonces.Caption = Localisation::Pref_ChBoxAnnonces();
     ExplainControls(*this);
     CheckBoxAnnonces.AltKey = Localisation::Alt_Pref_ChBoxAnnonces();
