@@ -13,8 +13,8 @@ namespace {
 
 // From the folder of the program: bin/ of an installed tree (with the icons in the desktop's own place), a
 // bundle, the top of a build, a folder inside it, and what the build itself has made.
-constexpr const char* places[] = {
-    "../share/tessarolyne", "../share", "../Resources", "resources", "../resources", "share/tessarolyne"};
+constexpr const char* places[] = {INSTALLED_DATA "/tessarolyne", INSTALLED_DATA, "../Resources", "resources",
+    "../resources", "share/tessarolyne"};
 
 QString FirstPlace(const std::string& name, bool (QFileInfo::*fits)() const) {
     const QDir program(QCoreApplication::applicationDirPath());
