@@ -77,7 +77,8 @@ bool NamesMemory(std::string_view controllers) {
     return false;
 }
 
-std::uint64_t SoftLimit(__rlimit_resource_t resource) {
+// The resources are an enumeration to glibc and numbers elsewhere.
+std::uint64_t SoftLimit(decltype(RLIMIT_AS) resource) {
     rlimit limit{};
     const bool isLimited = getrlimit(resource, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY;
     return isLimited ? limit.rlim_cur : std::numeric_limits<std::uint64_t>::max();

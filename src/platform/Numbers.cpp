@@ -5,10 +5,11 @@
 
 #include <algorithm>
 #include <charconv>
+#include <clocale>
 #include <cmath>
 #include <cstddef>
+#include <cstdlib>
 #include <limits>
-#include <system_error>
 #include <utility>
 #include <vector>
 
@@ -52,36 +53,14 @@ std::size_t NumberSize(std::string_view text) {
     return digits == 0 ? 0 : end;
 }
 
-// Tells a number too large for a double from one too small: whether its first digit that isn't 0 stands
-// before the decimal point, once the exponent has moved that.
-bool IsLarge(std::string_view number) {
-    const std::size_t exponentAt = std::min(number.find_first_of("eE"), number.size());
-    const std::string_view digits = number.substr(0, exponentAt);
-    const std::size_t first = std::min(digits.find_first_of("123456789"), digits.size());
-    const std::size_t point = std::min(digits.find('.'), digits.size());
-    long exponent = 0;
-    if (exponentAt < number.size()) {
-        const std::size_t sign = exponentAt + 1;
-        const char* from = number.data() + sign + (number[sign] == '+' ? 1 : 0);
-        const auto read = std::from_chars(from, number.data() + number.size(), exponent);
-        if (read.ec == std::errc::result_out_of_range) {
-            return number[sign] != '-';
-        }
-    }
-    return exponent > static_cast<long>(first) - static_cast<long>(point);
-}
-
-// The value of a text that is a number in full.
+// The value of a text that is a number in full. strtod wants the decimal point of the C locale that is set;
+// from_chars, which does not, has no doubles in clang's library.
 double ValueOf(std::string_view number) {
-    const bool negative = number.front() == '-';
-    number.remove_prefix(SkipSign(number, 0));
-    double value = 0;
-    const auto read = std::from_chars(number.data(), number.data() + number.size(), value);
-    if (read.ec == std::errc::result_out_of_range) {
-        value = IsLarge(number) ? largest : 0;
+    std::string text(number);
+    if (const std::size_t point = text.find('.'); point != std::string::npos) {
+        text.replace(point, 1, std::localeconv()->decimal_point);
     }
-    value = std::min(value, largest);
-    return negative ? -value : value;
+    return std::clamp(std::strtod(text.c_str(), nullptr), -largest, largest);
 }
 
 // The first `kept` digits, rounded up where the first one left out is 5 or more.

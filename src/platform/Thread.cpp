@@ -15,12 +15,6 @@ Thread* Thread::Current() {
     return current;
 }
 
-Thread::~Thread() {
-    if (thread_.joinable()) {
-        thread_.join();
-    }
-}
-
 void Thread::Start() {
     if (State() == running) {
         return;
@@ -28,7 +22,7 @@ void Thread::Start() {
     state_.store(running, std::memory_order_release);
     afterBody_.clear();
     try {
-        thread_ = std::jthread([this] { Body(); });
+        thread_ = std::async(std::launch::async, [this] { Body(); });
     } catch (const std::exception& refusal) {
         state_.store(notRunning, std::memory_order_release);
         loop_.Post([this, reason = std::string(refusal.what())] { Failed(reason); });

@@ -5,8 +5,8 @@
 
 #include <atomic>
 #include <functional>
+#include <future>
 #include <string>
-#include <thread>
 #include <vector>
 
 namespace tessarolyne {
@@ -22,7 +22,7 @@ public:
     explicit Thread(EventLoop& loop, int priority = 2, int stackSize = 0)
         : Priority(priority), StackSize(stackSize), loop_(loop) {}
     // Waits for the body; raise its stop flag first.
-    ~Thread();
+    ~Thread() = default;
     Thread(const Thread&) = delete;
     Thread& operator=(const Thread&) = delete;
 
@@ -48,7 +48,7 @@ private:
     EventLoop& loop_;
     std::atomic<int> state_ = notRunning;
     std::vector<std::function<void()>> afterBody_;
-    std::jthread thread_;
+    std::future<void> thread_; // the last member: its end waits for the body, which uses the others
 };
 
 } // namespace tessarolyne

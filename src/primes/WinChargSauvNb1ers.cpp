@@ -11,10 +11,10 @@
 #include "ui/HelpTags.h"
 #include "ui/Localisation.h"
 
-#include <atomic>
+#include <chrono>
 #include <exception>
+#include <future>
 #include <optional>
-#include <thread>
 
 namespace tessarolyne {
 
@@ -272,22 +272,10 @@ void WinChargSauvNb1ers::Write(LinkPolicy links) {
 
 // The disk may need seconds, in which the window must not look dead.
 void WinChargSauvNb1ers::CommitWhileDrawing(OutputFile& file) {
-    std::exception_ptr failure;
-    std::atomic<bool> done = false;
-    {
-        const std::jthread commit([&] {
-            try {
-                file.Commit();
-            } catch (...) {
-                failure = std::current_exception();
-            }
-            done = true;
-        });
-        program.services.loop.WaitUntil([&done] { return done.load(); });
-    }
-    if (failure) {
-        std::rethrow_exception(failure);
-    }
+    auto commit = std::async(std::launch::async, [&file] { file.Commit(); });
+    program.services.loop.WaitUntil(
+        [&commit] { return commit.wait_for(std::chrono::seconds(0)) == std::future_status::ready; });
+    commit.get();
 }
 
 } // namespace tessarolyne

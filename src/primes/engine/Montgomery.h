@@ -14,6 +14,19 @@ constexpr std::uint64_t InverseModulo2To64(std::uint64_t n) {
     return inverse;
 }
 
+// The upper 64 bits of a product.
+constexpr std::uint64_t HighHalf(std::uint64_t a, std::uint64_t b) {
+#ifdef __SIZEOF_INT128__
+    __extension__ using Wide = unsigned __int128;
+    return static_cast<std::uint64_t>(Wide{a} * b >> 64);
+#else // where the machine has 32 bits
+    constexpr std::uint64_t low = 0xFFFFFFFF;
+    const std::uint64_t middle = (a >> 32) * (b & low) + ((a & low) * (b & low) >> 32);
+    const std::uint64_t other = (a & low) * (b >> 32) + (middle & low);
+    return (a >> 32) * (b >> 32) + (middle >> 32) + (other >> 32);
+#endif
+}
+
 // Products modulo one odd number without divisions (P. L. Montgomery, "Modular multiplication without trial
 // division", 1985). Values are kept times 2^64; only sums, products and comparisons with One() and MinusOne()
 // are needed here, so nothing ever converts back.
@@ -22,7 +35,11 @@ public:
     // `modulus` is odd and above 1.
     explicit Montgomery(std::uint64_t modulus)
         : modulus_(modulus), inverse_(InverseModulo2To64(modulus)), one_((~modulus + 1) % modulus),
-          square_(static_cast<std::uint64_t>(Wide{one_} * one_ % modulus)) {}
+          square_(PlusOne(one_)) {
+        for (int power = 1; power < 64; power *= 2) {
+            square_ = Multiply(square_, square_); // the form of 2^power becomes that of its square
+        }
+    }
 
     std::uint64_t One() const { return one_; }
     std::uint64_t MinusOne() const { return modulus_ - one_; }
@@ -31,10 +48,8 @@ public:
     std::uint64_t From(std::uint64_t value) const { return Multiply(value % modulus_, square_); }
 
     std::uint64_t Multiply(std::uint64_t a, std::uint64_t b) const {
-        const Wide product = Wide{a} * b;
-        const auto high = static_cast<std::uint64_t>(product >> 64);
-        const std::uint64_t quotient = static_cast<std::uint64_t>(product) * inverse_;
-        const auto taken = static_cast<std::uint64_t>(Wide{quotient} * modulus_ >> 64);
+        const std::uint64_t high = HighHalf(a, b);
+        const std::uint64_t taken = HighHalf(a * b * inverse_, modulus_);
         return high < taken ? high - taken + modulus_ : high - taken;
     }
 
@@ -44,8 +59,6 @@ public:
     }
 
 private:
-    __extension__ using Wide = unsigned __int128;
-
     std::uint64_t modulus_;
     std::uint64_t inverse_;
     std::uint64_t one_;
