@@ -47,10 +47,9 @@ void Print(const char* what, const std::vector<double>& times) {
 TEST_CASE("Bases at a keystroke") {
     TestWorld world;
     WinMain& window = world.Main();
-    window.FocusNbre = false; // the text is set by code here, and is no typing
     const auto ours = Microseconds([&](std::uint64_t number) {
         window.EditFieldNbre.Text = std::to_string(number);
-        window.ConvNbreBaseD();
+        window.entry.ConvNbreBaseD();
     });
     static char digits[64];
     const auto peer = Microseconds([&](std::uint64_t number) {

@@ -128,7 +128,7 @@ public:
         std::vector<double> ended;
         std::vector<double> painted;
         for (int i = 0; ended.size() < stops; ++i) {
-            if (main_.Nbres_Premiers.Size() > largestTable) {
+            if (main_.primeFile.Nbres_Premiers.Size() > largestTable) {
                 BeginTable();
             }
             if (i % 2 == 0) {
@@ -165,9 +165,9 @@ private:
     }
 
     void BeginTable() {
-        main_.Nbres_Premiers.Clear();
+        main_.primeFile.Nbres_Premiers.Clear();
         for (const std::uint64_t prime : {2U, 3U, 5U, 7U}) {
-            static_cast<void>(main_.Nbres_Premiers.AppendNextPrime(prime));
+            static_cast<void>(main_.primeFile.Nbres_Premiers.AppendNextPrime(prime));
         }
     }
 

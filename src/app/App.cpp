@@ -1,12 +1,13 @@
 #include "app/App.h"
 
-#include "app/Program.h"
 #include "app/Version.h"
+#include "ui/Fncts.h"
+#include "ui/Surroundings.h"
 
 namespace tessarolyne {
 
-App::App(Program& program, Services& services)
-    : Application(services), ShortVersion(shortVersion), program_(program) {}
+App::App(Surroundings& surroundings, Services& services)
+    : Application(services), ShortVersion(shortVersion), program_(surroundings) {}
 
 void App::Event_Open() {
     program_.fncts.DefAppEncod = "UTF-8";

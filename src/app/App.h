@@ -11,14 +11,14 @@
 
 namespace tessarolyne {
 
-class Program;
 struct Preferences;
+class Surroundings;
 
 // The application object: the settings that have no control, and the two flags of its life. The settings are
 // read once at the start and written once at the end; in between they live here and in the controls.
 class App final : public Application {
 public:
-    App(Program& program, Services& services);
+    App(Surroundings& surroundings, Services& services);
 
     void Event_Open() override;
 
@@ -41,7 +41,6 @@ public:
     Date DateDuJour;                       // this launch
     Date DateDerLaunch;                    // the launch before this one
     bool AutoCheckUpdt = false;            // look for a new version once a day
-    bool Annonces = true;                  // results are announced to screen readers
     bool DejaDonne = false;                // the donation prompt is settled
     std::array<std::int16_t, 4> WinNBP{};  // left, top, width, height of the prime list window
 
@@ -53,7 +52,7 @@ private:
     void PlaceMainWindow(int left, int top);
     void ChooseLanguage(const std::string& code);
 
-    Program& program_;
+    Surroundings& program_;
     std::optional<FolderItem> boundAtStart_;
     std::string boundAtStartText_;    // the same as the preferences file had it
     bool prefsReadingFailed_ = false; // the old file is kept beside when it is replaced

@@ -2,12 +2,12 @@
 
 #include "app/App.h"
 #include "app/PreferencesFile.h"
-#include "app/Program.h"
 #include "conversion/WinMain.h"
 #include "platform/IOException.h"
 #include "platform/Services.h"
 #include "platform/Stage.h"
 #include "ui/FileItems.h"
+#include "ui/Fncts.h"
 #include "ui/Localisation.h"
 
 #include <algorithm>
@@ -51,14 +51,14 @@ void App::Apply(const Preferences& preferences) {
     DateDerLaunch = preferences.dateLaunch;
     DejaDonne = preferences.dejaDonne;
     AutoCheckUpdt = preferences.autoCheckUpdt;
-    Annonces = preferences.annonces;
+    program_.fncts.Annonces = preferences.annonces;
     WinNBP = preferences.winNBP;
     FichNbPrems = GetFitemAbsPath(GetServices().files, preferences.fichNbPrems, false);
     boundAtStart_ = FichNbPrems;
     boundAtStartText_ = preferences.fichNbPrems;
     window.CheckBoxMajusc.Value = preferences.majuscule;
     window.BevelButtonListe.Value = preferences.listeVisible;
-    window.NbreNbPparLigne = preferences.nbreNbPparLigne;
+    window.primeFile.NbreNbPparLigne = preferences.nbreNbPparLigne;
     window.PopupMenuBaseOrg.ListIndex = preferences.baseOrg;
     window.PopupMenuBaseDest.ListIndex = preferences.baseDest;
     window.RadioButton09AZ[static_cast<std::size_t>(preferences.radio09AZ)].Value = true;
@@ -98,14 +98,14 @@ Preferences App::Gather(bool listeVisible) const {
     preferences.dateLaunch = DateDuJour;
     preferences.dejaDonne = DejaDonne;
     preferences.autoCheckUpdt = AutoCheckUpdt;
-    preferences.annonces = Annonces;
+    preferences.annonces = program_.fncts.Annonces;
     preferences.winMain = {window.Left, window.Top, window.Width, window.Height};
     preferences.majuscule = window.CheckBoxMajusc.Value;
     preferences.winNBP = WinNBP;
     preferences.listeVisible = listeVisible;
     preferences.fichNbPrems =
         PasNil_Existe_Alias(FichNbPrems, false) ? AbsPath_f(*FichNbPrems, true) : std::string();
-    preferences.nbreNbPparLigne = window.NbreNbPparLigne;
+    preferences.nbreNbPparLigne = window.primeFile.NbreNbPparLigne;
     preferences.baseOrg = window.PopupMenuBaseOrg.ListIndex;
     preferences.baseDest = window.PopupMenuBaseDest.ListIndex;
     preferences.radio09AZ = window.RadioButton09AZ[0].Value()   ? 0

@@ -17,7 +17,7 @@ namespace tessarolyne {
 Program::Program(Services& world) : Program(world, versionFileAddress) {}
 
 Program::Program(Services& world, std::string versionFileUrl)
-    : services(world), versionFile(std::move(versionFileUrl)), fncts(*this), app(*this, world),
+    : Surroundings(world, fncts_, app_, std::move(versionFileUrl)), fncts_(app_, world), app_(*this, world),
       menuBar_(std::make_unique<MenuBar1>()) {
     app.UseMenuBar(menuBar_.get());
     app.OnWindowClosed = [this](Window& window) { LetGo(window); };
@@ -29,10 +29,10 @@ Program::~Program() {
 }
 
 // The instance is in its place before its Open event, which speaks to other windows and they to it.
-template <typename WindowClass>
-WindowClass& Program::Instance(std::unique_ptr<WindowClass>& window) {
+template <typename WindowClass, typename... Parts>
+WindowClass& Program::Instance(std::unique_ptr<WindowClass>& window, Parts&... parts) {
     if (!window) {
-        window = std::make_unique<WindowClass>(*this);
+        window = std::make_unique<WindowClass>(*this, parts...);
         window->Event_Open();
     }
     return *window;
@@ -43,11 +43,13 @@ WinMain& Program::winMain() {
 }
 
 WinNbresPremiers& Program::winNbresPremiers() {
-    return Instance(winNbresPremiers_);
+    WinMain& main = winMain();
+    return Instance(winNbresPremiers_, main.primeFile, main.calculation, main.quitting,
+        main.CheckBoxFormatAuto, main.BevelButtonListe);
 }
 
 WinChargSauvNb1ers& Program::winChargSauvNb1ers() {
-    return Instance(winChargSauvNb1ers_);
+    return Instance(winChargSauvNb1ers_, winMain().primeFile, winMain());
 }
 
 WinInfos& Program::winInfos() {
@@ -55,7 +57,7 @@ WinInfos& Program::winInfos() {
 }
 
 WinPrefs& Program::winPrefs() {
-    return Instance(winPrefs_);
+    return Instance(winPrefs_, winMain());
 }
 
 void Program::Start() {
@@ -70,7 +72,7 @@ void Program::EndWithoutAsking() {
     ending_ = true;
     fncts.ArretUrg = true;
     if (winMain_) {
-        winMain_->SaveWithoutAsking();
+        winMain_->quitting.SaveWithoutAsking();
     }
     app.Quit(0);
 }

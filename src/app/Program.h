@@ -2,6 +2,7 @@
 
 #include "app/App.h"
 #include "ui/Fncts.h"
+#include "ui/Surroundings.h"
 
 #include <memory>
 #include <string>
@@ -10,23 +11,16 @@
 namespace tessarolyne {
 
 class MenuBar;
-class WinChargSauvNb1ers;
-class WinInfos;
-class WinMain;
-class WinNbresPremiers;
-class WinPrefs;
-struct Services;
+class Window;
 
 // One run of the program: the application object, the module Fncts, and the implicit instances of the
 // windows, each made at its first use. A second Program knows nothing of the first.
-class Program {
+class Program final : public Surroundings {
 public:
     // `versionFileUrl` is where the update check asks; the build's own address if none is given.
     explicit Program(Services& world);
     Program(Services& world, std::string versionFileUrl);
-    ~Program();
-    Program(const Program&) = delete;
-    Program& operator=(const Program&) = delete;
+    ~Program() override;
 
     // Does all that comes before the event loop is idle: App's Open, then the main window with its own.
     void Start();
@@ -34,24 +28,21 @@ public:
     // calculation, saves what there is to save, and ends the event loop.
     void EndWithoutAsking();
 
-    WinMain& winMain();
-    WinNbresPremiers& winNbresPremiers();
-    // Exists while a prime file is read or written.
-    WinChargSauvNb1ers& winChargSauvNb1ers();
-    bool HasWinChargSauvNb1ers() const { return winChargSauvNb1ers_ != nullptr; }
-    WinInfos& winInfos();
-    WinPrefs& winPrefs();
-
-    Services& services;
-    const std::string versionFile;
-    Fncts fncts;
-    App app;
+    WinMain& winMain() override;
+    WinNbresPremiers& winNbresPremiers() override;
+    WinChargSauvNb1ers& winChargSauvNb1ers() override;
+    bool HasWinChargSauvNb1ers() const override { return winChargSauvNb1ers_ != nullptr; }
+    WinInfos& winInfos() override;
+    WinPrefs& winPrefs() override;
 
 private:
     void LetGo(Window& window);
 
-    template <typename WindowClass>
-    WindowClass& Instance(std::unique_ptr<WindowClass>& window);
+    template <typename WindowClass, typename... Parts>
+    WindowClass& Instance(std::unique_ptr<WindowClass>& window, Parts&... parts);
+
+    Fncts fncts_;
+    App app_;
 
     bool ending_ = false;
     std::unique_ptr<MenuBar> menuBar_;

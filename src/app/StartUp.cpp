@@ -1,7 +1,7 @@
 // Everything from the making of the main window until the event loop is idle.
 
+#include "app/App.h"
 #include "app/PreferencesFile.h"
-#include "app/Program.h"
 #include "conversion/WinMain.h"
 #include "platform/Clock.h"
 #include "platform/EventLoop.h"
@@ -62,16 +62,13 @@ void WinMain::Event_Open() {
     fncts.DrapMenu = true;
     EnableMenuBoutons();
     app.initProg = true;
-    startIsOver_ = true;
-    DrapTimerNbre = true;
+    quitting.StartIsOver();
     if (BevelButtonListe.Value) {
         program.winNbresPremiers().Show();
     }
     // The window's own focus, also where the list window is in front: so LostFocus always comes.
-    EditFieldNbre.SetFocus();
-    FocusNbre = true;
-    FocusBase = false;
-    StartAutomaticCheck();
+    entry.Begin();
+    updateCheck.StartAutomatically();
 }
 
 // What saves of killed runs left beside the two files, either of which may be a link to another folder.

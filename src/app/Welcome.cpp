@@ -1,6 +1,6 @@
 // What the program says by itself at the start, before the user may do anything.
 
-#include "app/Program.h"
+#include "app/App.h"
 #include "app/Version.h"
 #include "conversion/WinMain.h"
 #include "platform/EventLoop.h"

@@ -1,31 +1,58 @@
 // The number in two bases: which field is the source, what the others show, and the check by a second route.
 
+#include "app/App.h"
 #include "conversion/BaseConversion.h"
-#include "conversion/WinMain.h"
+#include "conversion/BaseDigits.h"
+#include "conversion/NumberEntry.h"
+#include "platform/CheckBox.h"
 #include "platform/Numbers.h"
+#include "platform/PopupMenu.h"
+#include "platform/RadioButton.h"
 #include "platform/Text.h"
+#include "platform/TextField.h"
+#include "ui/Fncts.h"
 #include "ui/Localisation.h"
 #include "ui/NumberFormat.h"
+#include "ui/NumberOutput.h"
 
 namespace tessarolyne {
 
-std::string WinMain::ConvNbreBase(
+std::string NumberEntry::ConvNbreBase(
     std::string_view nombre, int baseOrg, int baseDest, std::string_view alphabet) {
     return tessarolyne::ConvNbreBase(
         nombre, baseOrg, baseDest, alphabet, {Localisation::Txt_ErrNbre(), Localisation::Txt_ErrBase()});
 }
 
-std::string_view WinMain::Alphabet() const {
+std::string_view NumberEntry::Alphabet() const {
     return RadioButton09AZ[0].Value() ? alphabet09AZ : alphabetAZ09;
 }
 
-void WinMain::ConvNbreBaseD() {
-    const int baseOrg = PopupMenuBaseOrg.ListIndex + 2;
+int NumberEntry::BaseOrg() const {
+    return PopupMenuBaseOrg.ListIndex + 2;
+}
+
+std::string NumberEntry::SourceDigits() const {
+    return BareDigits(EditFieldBaseOrg.Text(), BaseOrg(), Alphabet());
+}
+
+// The digits in EditFieldBaseOrg may be another number now, of which the factors and the words don't speak
+// before the next key.
+void NumberEntry::ConvertAgain() {
+    if (!app_.initProg) {
+        return;
+    }
+    ConvNbreBaseD();
+    outputs_.factors.Compare();
+    outputs_.words.Compare();
+}
+
+void NumberEntry::ConvNbreBaseD() {
+    const int baseOrg = BaseOrg();
     const std::string_view alphabet = Alphabet();
     std::string decimal;
     std::string source;
     bool withinLimit = true;
-    if (DrapTimerNbre) {
+    if (drapTimerNbre_) {
         withinLimit = ConvertDecimal(decimal, source, baseOrg, alphabet);
     } else {
         ConvertSourceBase(decimal, source, baseOrg, alphabet);
@@ -36,12 +63,12 @@ void WinMain::ConvNbreBaseD() {
         ShowDestination(decimal, source, baseOrg, alphabet);
     } else {
         const std::string error = Localisation::Txt_ErrNbre();
-        if (DrapTimerNbre) {
+        if (drapTimerNbre_) {
             EditFieldBaseOrg.Text = error;
         }
         EditFieldBaseDest.Text = error;
-        factors_.Write(error);
-        words_.Write(error);
+        outputs_.factors.Write(error);
+        outputs_.words.Write(error);
     }
     for (TextField* field : {&EditFieldBaseOrg, &EditFieldBaseDest}) {
         field->Remark = OnlyCentsAreWrong(EditFieldNbre);
@@ -49,7 +76,7 @@ void WinMain::ConvNbreBaseD() {
 }
 
 // From EditFieldNbre to EditFieldBaseOrg. False if the number is above the limit.
-bool WinMain::ConvertDecimal(
+bool NumberEntry::ConvertDecimal(
     std::string& decimal, std::string& source, int baseOrg, std::string_view alphabet) {
     decimal = WithoutBlanks(EditFieldNbre.Text());
     if (decimal.empty()) {
@@ -58,7 +85,7 @@ bool WinMain::ConvertDecimal(
     }
     const double value = CDbl(decimal);
     if (value > static_cast<double>(NbreMax)) {
-        fncts.Beep();
+        fncts_.Beep();
         return false;
     }
     const bool whole = value == Round(value);
@@ -69,22 +96,22 @@ bool WinMain::ConvertDecimal(
 }
 
 // From EditFieldBaseOrg to EditFieldNbre, which also shows what is wrong.
-void WinMain::ConvertSourceBase(
+void NumberEntry::ConvertSourceBase(
     std::string& decimal, std::string& source, int baseOrg, std::string_view alphabet) {
     source = SourceDigits();
     if (!source.empty()) {
         decimal = ConvNbreBase(source, baseOrg, 10, alphabet);
     }
     if (CDbl(decimal) > static_cast<double>(NbreMax)) {
-        fncts.Beep();
+        fncts_.Beep();
         decimal = Localisation::Txt_PlusGdNbrePossible() + FormatWhole(NbreMax, CheckBoxFormatAuto.Value);
     } else if (IsErrorText(decimal)) {
-        fncts.Beep();
+        fncts_.Beep();
     }
     EditFieldNbre.Text = FormatNbre(decimal, CheckBoxFormatAuto.Value);
 }
 
-void WinMain::ShowDestination(
+void NumberEntry::ShowDestination(
     const std::string& decimal, const std::string& source, int baseOrg, std::string_view alphabet) {
     if (IsErrorText(source)) {
         EditFieldBaseDest.Text = Localisation::Txt_ErrNbre();
@@ -97,26 +124,26 @@ void WinMain::ShowDestination(
         return;
     }
     EditFieldBaseDest.Text = FormatType(dest, baseDest, CheckBoxFormatAuto.Value);
-    const std::string controle = ConvNbreBase(decimal, 10, baseDest, alphabet);
-    if (dest != controle) {
-        ReportConversionMismatch(controle, baseDest, dest, baseOrg);
+    const std::string checked = ConvNbreBase(decimal, 10, baseDest, alphabet);
+    if (dest != checked) {
+        ReportConversionMismatch(checked, baseDest, dest, baseOrg);
     }
 }
 
 // Both routes are exact within the limit: this is a net under the arithmetic. The same disagreement is
 // reported once, until another one comes between.
-void WinMain::ReportConversionMismatch(
+void NumberEntry::ReportConversionMismatch(
     const std::string& fromDecimal, int baseDest, const std::string& fromSource, int baseOrg) {
     const std::string key = fromSource + " ≠ " + fromDecimal;
-    if (key == MemErrConv) {
+    if (key == memErrConv_) {
         return;
     }
-    MemErrConv = key;
-    fncts.Beep();
-    const auto piece = [this](int n) { return fncts.FracTexte(Localisation::Txt_ErrTranscBase(), n); };
+    memErrConv_ = key;
+    fncts_.Beep();
+    const auto piece = [this](int n) { return fncts_.FracTexte(Localisation::Txt_ErrTranscBase(), n); };
     const std::string message = piece(1) + Localisation::Txt_EnBase() + Str(baseDest) + piece(2) +
                                 fromDecimal + piece(3) + Str(baseOrg) + piece(4) + fromSource + piece(5);
-    fncts.MyDialogBox(
+    fncts_.MyDialogBox(
         message, Localisation::Txt_MerciContactAuteur(), Localisation::Btn_Ok(), "", "", 1, nullptr);
 }
 

@@ -1,29 +1,21 @@
 // Menus, buttons and keys of the main window, and the one rule for what may be used when.
 
-#include "app/Program.h"
+#include "app/App.h"
 #include "conversion/BaseDigits.h"
 #include "conversion/WinMain.h"
-#include "platform/Ascii.h"
+#include "platform/Desktop.h"
 #include "platform/MenuBar.h"
 #include "platform/Numbers.h"
+#include "platform/Services.h"
 #include "platform/Text.h"
 #include "primes/WinNbresPremiers.h"
+#include "ui/CopyOffers.h"
 #include "ui/Localisation.h"
 
-#include <algorithm>
 #include <array>
 #include <utility>
 
 namespace tessarolyne {
-
-namespace {
-
-// The factors' "x" among them, but no sign that errors and hints have.
-bool StandsInNumber(char c) {
-    return IsDigit(c) || IsLetter(c) || c == '.';
-}
-
-} // namespace
 
 void WinMain::EnableMenuBoutons() {
     app.EnableMenuItems();
@@ -55,18 +47,6 @@ void WinMain::TurnWheel(bool& reason, bool on) {
     ProgressWheel1.Visible = factorsTakeTime_ || checkTakesTime_;
 }
 
-void WinMain::PushButtonPressPapBOrg_Action(PushButton&) {
-    fncts.CopyToClipboard(EditFieldBaseOrg.Text);
-}
-
-void WinMain::PushButtonPressPapBDest_Action(PushButton&) {
-    fncts.CopyToClipboard(EditFieldBaseDest.Text);
-}
-
-void WinMain::PushButtonPressPapPrem_Action(PushButton&) {
-    fncts.CopyToClipboard(TxtAreaDecomp1er.Text);
-}
-
 // In the order of sight. Ctrl, which is down then, must not pass for the key that resets the currencies.
 void WinMain::AddCopyShortcuts() {
     const std::array<std::pair<PushButton*, TextControl*>, 4> copies = {
@@ -84,34 +64,49 @@ void WinMain::AddCopyShortcuts() {
     }
 }
 
-// What fields with groups offer besides copying what is shown: the number without the blanks between its
-// groups and, in the bases that programs write with a prefix, with that.
-void WinMain::OfferCopies(TextControl& source, PopupMenu* baseMenu) {
-    source.ContextCommands = [this, &source, baseMenu] {
-        std::vector<TextControl::Command> commands;
-        const std::string bare = WithoutBlanks(source.Text());
-        if (bare.empty() || !std::all_of(bare.begin(), bare.end(), StandsInNumber)) {
-            return commands;
-        }
-        const auto offer = [&](const std::string& caption, const std::string& text) {
-            commands.push_back({caption, [this, text] { fncts.CopyToClipboard(text); }});
-        };
-        offer(Localisation::Txt_CopierSansEsp(), bare);
-        if (baseMenu == nullptr || !RadioButton09AZ[0].Value()) {
-            return commands;
-        }
+// In the bases that programs write with a prefix, also with that.
+void WinMain::OfferBaseCopies(TextField& source, const PopupMenu& baseMenu) {
+    OfferCopies(source, fncts, [this, &baseMenu](const std::string& bare, auto& commands) {
         const std::array<std::pair<int, const char*>, 3> prefixes = {{{16, "0x"}, {8, "0o"}, {2, "0b"}}};
         for (const auto& [base, prefix] : prefixes) {
-            if (baseMenu->ListIndex == base - 2) {
-                const std::string text = prefix + BareDigits(bare, base, Alphabet());
-                offer(fncts.FracTexte(Localisation::Txt_CopierForme(), 1) + text, text);
+            if (baseMenu.ListIndex == base - 2 && RadioButton09AZ[0].Value()) {
+                const std::string text = prefix + BareDigits(bare, base, entry.Alphabet());
+                commands.push_back(
+                    CopyCommand(fncts, fncts.FracTexte(Localisation::Txt_CopierForme(), 1) + text, text));
             }
         }
-        return commands;
-    };
+    });
 }
 
-void WinMain::PushButtDecomposer_Action(PushButton&) {
+// Ctrl, pressed with the copy button, stands for the language's own currency.
+void WinMain::PushButtonPressPapLettr_Action() {
+    if (!program.services.desktop.OptionKeyIsDown()) {
+        fncts.CopyToClipboard(TxtAreaLettres.Text);
+    } else if (app.initProg) {
+        words.ResetCurrencies();
+    }
+}
+
+// The switch between grouped and bare numbers brings what is on the screen into line at once.
+void WinMain::CheckBoxFormatAuto_Action() {
+    if (!app.initProg) {
+        return;
+    }
+    app.initProg = false; // the changes of text below are no input
+    const bool grouped = CheckBoxFormatAuto.Value;
+    entry.Regroup(grouped);
+    decomposition.Regroup(grouped);
+    if (BevelButtonListe.Value) {
+        program.winNbresPremiers().Regroup(grouped);
+    }
+    app.initProg = true;
+}
+
+bool WinMain::Event_CancelClose(bool appQuitting) {
+    return quitting.CancelClose(appQuitting);
+}
+
+void WinMain::PushButtDecomposer_Action() {
     if (calculation.CalculEnCours()) {
         fncts.Beep(); // the list window's run may hold the table
         return;
@@ -120,19 +115,12 @@ void WinMain::PushButtDecomposer_Action(PushButton&) {
 }
 
 // The button's Value says whether the window is open. It is looked at first: asking for the window makes it.
-void WinMain::BevelButtonListe_Action(BevelButton& bouton) {
-    if (bouton.Value) {
+void WinMain::BevelButtonListe_Action() {
+    if (BevelButtonListe.Value) {
         program.winNbresPremiers().Close();
     } else {
         program.winNbresPremiers().Show();
     }
-}
-
-void WinMain::AddMenuHandlers() {
-    const MenuBar& menus = *app.GetMenuBar();
-    menus.Find("FichChoixFichNbP")->Action = [this] { return FichChoixFichNbP_Action(); };
-    menus.Find("FichSauvFichNbP")->Action = [this] { return FichSauvFichNbP_Action(); };
-    AddHelpMenuHandlers();
 }
 
 } // namespace tessarolyne

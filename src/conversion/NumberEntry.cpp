@@ -1,113 +1,182 @@
 // From a keystroke in one of the two number fields to the recalculation of everything.
 
-#include "conversion/WinMain.h"
+#include "conversion/NumberEntry.h"
+
+#include "app/App.h"
+#include "conversion/BaseDigits.h"
+#include "platform/CheckBox.h"
+#include "platform/Clock.h"
+#include "platform/Label.h"
 #include "platform/Numbers.h"
+#include "platform/PopupMenu.h"
+#include "platform/RadioButton.h"
+#include "platform/Services.h"
 #include "platform/Text.h"
+#include "platform/TextArea.h"
+#include "platform/TextField.h"
+#include "primes/Calculation.h"
+#include "primes/Decomposition.h"
+#include "ui/Fncts.h"
 #include "ui/Localisation.h"
 #include "ui/NumberFormat.h"
+#include "words/Words.h"
+
+#include <initializer_list>
+#include <utility>
 
 namespace tessarolyne {
 
 namespace {
 
-constexpr int waitToBeSeen = 500; // milliseconds
+// In milliseconds.
+constexpr int recalculationDelay = 20; // shorter than the time between two keystrokes
+constexpr int typingPause = 1000;
+constexpr int waitToBeSeen = 500;
 
 } // namespace
 
+NumberEntry::NumberEntry(const NumberControls& controls, const Outputs& outputs, Calculation& calculation,
+    App& app, Fncts& fncts, Services& services)
+    : NumberControls(controls), outputs_(outputs), calculation_(calculation), app_(app), fncts_(fncts),
+      clock_(services.clock), timerTempo_(services.loop, recalculationDelay),
+      typingPause_(services.loop, typingPause), outputOfInterest_(&TxtAreaLettres),
+      numberField_(EditFieldNbre, fncts) {
+    EditFieldBaseOrg.TakeEdit = [this](TextEdit& edit) { return TakeBaseEdit(edit); };
+    FollowEdits(EditFieldNbre);
+    FollowEdits(EditFieldBaseOrg);
+    BindEvents();
+    for (TextControl* output :
+        std::initializer_list<TextControl*>{&EditFieldBaseDest, &TxtAreaDecomp1er, &TxtAreaLettres}) {
+        output->GotFocus = [this, output] { outputOfInterest_ = output; };
+    }
+    typingPause_.Action = [this] { AnnounceResult(); };
+}
+
+void NumberEntry::BindEvents() {
+    for (TextField* field : {&EditFieldNbre, &EditFieldBaseOrg}) {
+        const bool isDecimal = field == &EditFieldNbre;
+        field->GotFocus = [this, field] { GotFocus(*field); };
+        field->LostFocus = [this, field] { LostFocus(*field); };
+        field->TextChange = [this, isDecimal](ChangedBy who) { TakeAsSource(isDecimal, who); };
+        field->KeyDown = [this, field](const std::string& key) {
+            calculation_.StopOnEscape(key);
+            return RecallNumber(*field, key);
+        };
+    }
+    for (PopupMenu* menu : {&PopupMenuBaseOrg, &PopupMenuBaseDest}) {
+        menu->Change = [this] { ConvertAgain(); };
+        menu->KeyDown = [this, menu](const std::string& key) { return PopupMenuBase_KeyDown(*menu, key); };
+    }
+    for (RadioButton& button : RadioButton09AZ) {
+        button.Action = [this] { ConvertAgain(); };
+    }
+    timerTempo_.Action = [this] { TimerTempo_Action(); };
+}
+
+void NumberEntry::Begin() {
+    drapTimerNbre_ = true;
+    EditFieldNbre.SetFocus();
+    focusNbre_ = true;
+    focusBase_ = false;
+}
+
 // Whether a field shows one of the two texts that stand for a number there is none of.
-bool WinMain::IsErrorText(std::string_view text) const {
+bool NumberEntry::IsErrorText(std::string_view text) {
     return text == Localisation::Txt_ErrNbre() || text == Localisation::Txt_ErrBase();
 }
 
-void WinMain::EditFieldNbre_GotFocus(TextField& champ) {
-    if (!app.initProg || FocusNbre) {
+bool& NumberEntry::IsBeingEdited(const TextField& champ) {
+    return &champ == &EditFieldNbre ? focusNbre_ : focusBase_;
+}
+
+void NumberEntry::GotFocus(TextField& champ) {
+    if (&champ == &EditFieldNbre) {
+        numberField_.Forget();
+    }
+    if (!app_.initProg || IsBeingEdited(champ)) {
         return;
     }
-    FocusNbre = true;
-    app.initProg = false;
+    IsBeingEdited(champ) = true;
+    app_.initProg = false;
     const std::string bare = WithoutBlanks(champ.Text());
-    if (IsNumeric(bare)) {
+    if (&champ == &EditFieldNbre ? IsNumeric(bare) : !IsErrorText(champ.Text())) {
         champ.Text = bare;
     }
     champ.SelStart = static_cast<int>(Len(champ.Text()));
-    app.initProg = true;
+    app_.initProg = true;
 }
 
-void WinMain::EditFieldBaseOrg_GotFocus(TextField& champ) {
-    if (!app.initProg || FocusBase) {
+void NumberEntry::LostFocus(TextField& champ) {
+    NoteNumber(champ);
+    if (app_.initProg && IsBeingEdited(champ)) {
+        IsBeingEdited(champ) = false;
+        ShowFormatted(champ, CheckBoxFormatAuto.Value);
+    }
+}
+
+void NumberEntry::ShowFormatted(TextField& champ, bool grouped) {
+    if (&champ == &EditFieldNbre) {
+        champ.Text = FormatNbre(champ.Text(), grouped);
+    } else if (!IsErrorText(champ.Text())) {
+        champ.Text = FormatType(SourceDigits(), BaseOrg(), grouped);
+    }
+}
+
+void NumberEntry::Regroup(bool grouped) {
+    if (!IsNumeric(EditFieldNbre.Text())) {
         return;
     }
-    FocusBase = true;
-    app.initProg = false;
-    if (!IsErrorText(champ.Text())) {
-        champ.Text = WithoutBlanks(champ.Text());
-    }
-    champ.SelStart = static_cast<int>(Len(champ.Text()));
-    app.initProg = true;
-}
-
-void WinMain::EditFieldNbre_LostFocus(TextField& champ) {
-    if (app.initProg && FocusNbre) {
-        FocusNbre = false;
-        champ.Text = FormatNbre(champ.Text(), CheckBoxFormatAuto.Value);
-    }
-}
-
-void WinMain::EditFieldBaseOrg_LostFocus(TextField& champ) {
-    if (app.initProg && FocusBase) {
-        FocusBase = false;
-        if (!IsErrorText(champ.Text())) {
-            champ.Text = FormatType(SourceDigits(), PopupMenuBaseOrg.ListIndex + 2, CheckBoxFormatAuto.Value);
+    for (TextField* field : {&EditFieldNbre, &EditFieldBaseOrg}) {
+        if (!IsBeingEdited(*field)) {
+            ShowFormatted(*field, grouped);
         }
+    }
+    if (!IsErrorText(EditFieldBaseDest.Text())) {
+        EditFieldBaseDest.Text =
+            FormatType(EditFieldBaseDest.Text(), PopupMenuBaseDest.ListIndex + 2, grouped);
     }
 }
 
 // What the program writes is no input, whichever field has the focus.
-void WinMain::TakeAsSource(bool isDecimal, ChangedBy who) {
-    if (app.initProg && who == ChangedBy::User) {
-        DrapTimerNbre = isDecimal;
-        TimerTempo.Mode = 1;
+void NumberEntry::TakeAsSource(bool isDecimal, ChangedBy who) {
+    if (app_.initProg && who == ChangedBy::User) {
+        drapTimerNbre_ = isDecimal;
+        timerTempo_.Mode = 1;
         AnnounceResultAfterPause();
     }
 }
 
-void WinMain::EditFieldNbre_TextChange(TextField&, ChangedBy who) {
-    TakeAsSource(true, who);
-}
-
-void WinMain::EditFieldBaseOrg_TextChange(TextField&, ChangedBy who) {
-    TakeAsSource(false, who);
-}
-
-bool WinMain::EditFieldNbre_KeyDown(TextField& champ, const std::string& key) {
-    calculation.StopOnEscape(key);
-    return RecallNumber(champ, key);
-}
-
-bool WinMain::EditFieldBaseOrg_KeyDown(TextField& champ, const std::string& key) {
-    calculation.StopOnEscape(key);
-    return RecallNumber(champ, key);
-}
-
-void WinMain::TimerTempo_Action(Timer& timer) {
-    if (app.DrapOkQuit || TimerQuit.Mode != 0) {
+void NumberEntry::TimerTempo_Action() {
+    if (QuitIsUnderWay()) {
         recalculationDue_ = true; // for the case that the quit is refused
         return;
     }
     // A dialog counts too: a calculation that began under a file chooser would race the load behind it.
-    if (calculation.CalculEnCours() || app.HasModalStep()) {
-        timer.Mode = 1;
-        if (calculation.CalculEnCours() && ++turnsWaited_ * timer.Period >= waitToBeSeen &&
+    const bool calculates = calculation_.CalculEnCours();
+    if (calculates || app_.HasModalStep()) {
+        timerTempo_.Mode = 1;
+        if (calculates && ++turnsWaited_ * timerTempo_.Period >= waitToBeSeen &&
             !StaticTextEnAttente.Visible) {
             StaticTextEnAttente.Visible = true;
-            fncts.Announce(StaticTextEnAttente.Text);
+            fncts_.Announce(StaticTextEnAttente.Text);
         }
         return;
     }
     ChangeNbre();
 }
 
-void WinMain::ChangeNbre() {
+void NumberEntry::PutOff() {
+    recalculationDue_ = recalculationDue_ || timerTempo_.Mode != 0;
+    timerTempo_.Mode = 0;
+}
+
+void NumberEntry::GoOn() {
+    if (std::exchange(recalculationDue_, false)) {
+        timerTempo_.Mode = 1;
+    }
+}
+
+void NumberEntry::ChangeNbre() {
     turnsWaited_ = 0;
     StaticTextEnAttente.Visible = false;
     ConvNbreBaseD();
@@ -115,39 +184,51 @@ void WinMain::ChangeNbre() {
     if (!decimal.empty() && !IsNumeric(decimal)) {
         return;
     }
-    decomposition.DecompPremDeb(false);
-    ConvNbreLettresD();
+    outputs_.decomposition.DecompPremDeb(false);
+    outputs_.spelling.ConvNbreLettresD();
 }
 
-std::string WinMain::FormatNbre(std::string_view nombre, bool formatAuto) {
-    return tessarolyne::FormatNbre(nombre, formatAuto);
+void NumberEntry::AnnounceResultAfterPause() {
+    typingPause_.Mode = 1;
+    typingPause_.Reset();
 }
 
-std::string WinMain::FormatType(std::string_view nombre, int base, bool formatAuto) {
-    return tessarolyne::FormatType(nombre, base, formatAuto);
-}
-
-// The digits in EditFieldBaseOrg may be another number now, of which the factors and the words don't speak
-// before the next key.
-void WinMain::ConvertAgain() {
-    if (!app.initProg) {
-        return;
+void NumberEntry::AnnounceResult() {
+    const bool isToCome =
+        timerTempo_.Mode != 0 || (calculation_.CalculEnCours() && outputOfInterest_ == &TxtAreaDecomp1er);
+    if (isToCome) {
+        AnnounceResultAfterPause();
+    } else {
+        fncts_.Announce(outputOfInterest_->Text);
     }
-    ConvNbreBaseD();
-    factors_.Compare();
-    words_.Compare();
 }
 
-void WinMain::PopupMenuBaseOrg_Change(PopupMenu&) {
-    ConvertAgain();
-}
-
-void WinMain::PopupMenuBaseDest_Change(PopupMenu&) {
-    ConvertAgain();
-}
-
-void WinMain::RadioButton09AZ_Action(RadioButton&, int) {
-    ConvertAgain();
+// What the user may write in the base field. Keys are all taken, since the base may be chosen after the
+// digits; a paste is taken whole or not at all.
+bool NumberEntry::TakeBaseEdit(TextEdit& edit) {
+    if (edit.inserted.empty()) {
+        return true;
+    }
+    if (IsErrorText(edit.before)) {
+        edit.start = 0;
+        edit.removed = static_cast<int>(Len(edit.before));
+    }
+    const int base = BaseOrg();
+    const std::string text = Localisation::Txt_RefusBase();
+    const std::string why = fncts_.FracTexte(text, 1) + Str(base) + fncts_.FracTexte(text, 2);
+    if (Len(edit.inserted) == 1 && OneLine(edit.inserted) == edit.inserted) {
+        if (!AreDigits(BareDigits(edit.After(), base, Alphabet()), base, Alphabet())) {
+            EditFieldBaseOrg.Notify(why); // the beep comes with the error that the other fields show
+        }
+        return true;
+    }
+    const auto digits = DigitsAsPasted(edit.inserted, base, Alphabet());
+    if (!digits) {
+        RefuseEdit(EditFieldBaseOrg, fncts_, why);
+        return false;
+    }
+    edit.inserted = *digits;
+    return true;
 }
 
 } // namespace tessarolyne

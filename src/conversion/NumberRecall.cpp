@@ -1,27 +1,28 @@
 // What was entered earlier in this run: Up and Down bring it back in both number fields.
 
-#include "app/Program.h"
-#include "conversion/WinMain.h"
+#include "app/App.h"
+#include "conversion/NumberEntry.h"
 #include "platform/Clock.h"
 #include "platform/Numbers.h"
-#include "platform/Services.h"
+#include "platform/PopupMenu.h"
 #include "platform/Text.h"
+#include "platform/TextField.h"
 #include "ui/NumberFormat.h"
 
 namespace tessarolyne {
 
 // The number in one of the two fields, in decimal and bare; nothing where there is none.
-std::string WinMain::NumberIn(const TextField& champ) {
+std::string NumberEntry::NumberIn(const TextField& champ) {
     std::string decimal = WithoutBlanks(champ.Text());
     if (&champ == &EditFieldBaseOrg && !decimal.empty()) {
-        decimal = ConvNbreBase(SourceDigits(), PopupMenuBaseOrg.ListIndex + 2, 10, Alphabet());
+        decimal = ConvNbreBase(SourceDigits(), BaseOrg(), 10, Alphabet());
     }
     const bool isNumber = IsNumeric(decimal) && CDbl(decimal) <= static_cast<double>(NbreMax);
     return isNumber ? FormatNbre(decimal, false) : "";
 }
 
 // A number that gives way to another one, or is deleted, is one of the earlier ones.
-void WinMain::FollowEdits(TextField& champ) {
+void NumberEntry::FollowEdits(TextField& champ) {
     champ.TakeEdit = [this, &champ, take = champ.TakeEdit](TextEdit& edit) {
         if (recalling_) {
             return true;
@@ -46,15 +47,15 @@ void WinMain::FollowEdits(TextField& champ) {
     };
 }
 
-void WinMain::NoteNumber(const TextField& champ) {
-    if (app.initProg) {
+void NumberEntry::NoteNumber(const TextField& champ) {
+    if (app_.initProg) {
         history_.GoOn();
         history_.Add(NumberIn(champ));
     }
 }
 
 // Bases have no cents: their field passes over such numbers.
-std::optional<std::string> WinMain::NumberToRecall(const TextField& champ, bool earlier) {
+std::optional<std::string> NumberEntry::NumberToRecall(const TextField& champ, bool earlier) {
     const bool isDecimal = &champ == &EditFieldNbre;
     for (;;) {
         std::string number;
@@ -75,12 +76,12 @@ std::optional<std::string> WinMain::NumberToRecall(const TextField& champ, bool 
             return number;
         }
         if (number.find('.') == std::string::npos) {
-            return ConvNbreBase(number, 10, PopupMenuBaseOrg.ListIndex + 2, Alphabet());
+            return ConvNbreBase(number, 10, BaseOrg(), Alphabet());
         }
     }
 }
 
-bool WinMain::RecallNumber(TextField& champ, const std::string& key) {
+bool NumberEntry::RecallNumber(TextField& champ, const std::string& key) {
     const bool earlier = key == Chr(30);
     if (!earlier && key != Chr(31)) {
         return false;
@@ -93,8 +94,8 @@ bool WinMain::RecallNumber(TextField& champ, const std::string& key) {
     return true;
 }
 
-bool WinMain::PopupMenuBase_KeyDown(PopupMenu& menu, const std::string& key) {
-    const auto base = typedBase_.Take(key, program.services.clock.Milliseconds());
+bool NumberEntry::PopupMenuBase_KeyDown(PopupMenu& menu, const std::string& key) {
+    const auto base = typedBase_.Take(key, clock_.Milliseconds());
     if (base && *base > 0) {
         menu.ListIndex = *base - 2;
     }

@@ -1,8 +1,7 @@
 #include "conversion/WinMain.h"
 
-#include "app/Program.h"
-#include "platform/Services.h"
 #include "primes/WinNbresPremiers.h"
+#include "ui/CopyOffers.h"
 #include "ui/HelpTags.h"
 #include "ui/Localisation.h"
 
@@ -10,42 +9,38 @@ namespace tessarolyne {
 
 namespace {
 
-constexpr int recalculationDelay = 20; // shorter than the time between two keystrokes
-constexpr int quitPeriod = 10;
-constexpr int moment = 500; // what takes longer is shown to be under way
-constexpr int typingPause = 1000;
 constexpr int copyButtonTextSize = 16;
 
 constexpr const char* copyButtonCaption = "✎";
 
 } // namespace
 
-WinMain::WinMain(Program& owner)
+WinMain::WinMain(Surroundings& owner)
     : ProgramWindow(owner, "Tessarolyne", 550, 594, WindowFrame{}),
-      TimerTempo(owner.services.loop, recalculationDelay), TimerQuit(owner.services.loop, quitPeriod),
-      TimerVerMaJ(owner.services.loop, handOverPeriod), SocketVerMaJ(owner.services.http),
       decomposition({EditFieldNbre, TxtAreaDecomp1er, PushButtDecomposer, CheckBoxFormatAuto, ProgressWheel1,
                         StaticTextAvance},
-          factors_, calculation, Nbres_Premiers, owner.fncts),
-      typingPause_(owner.services.loop, typingPause), slowCheck_(owner.services.loop, moment),
-      calculation(owner.fncts, owner.services, Nbres_Premiers, CheckBoxFormatAuto) {
+          factorsOutput_, calculation, primeFile.Nbres_Premiers, fncts),
+      words({EditFieldNbre, EditFieldMonnaies, EditFieldMonnaie, EditFieldCentimes, EditFieldCentime,
+                CheckBoxMajusc, CheckBoxTrUnion, PopupMenuLg},
+          wordsOutput_, app, fncts),
+      entry({EditFieldNbre, EditFieldBaseOrg, EditFieldBaseDest, PopupMenuBaseOrg, PopupMenuBaseDest,
+                RadioButton09AZ, CheckBoxFormatAuto, TxtAreaDecomp1er, TxtAreaLettres, StaticTextEnAttente},
+          {factorsOutput_, wordsOutput_, decomposition, words}, calculation, app, fncts, owner.services),
+      quitting(*this, owner, calculation, entry, primeFile, BevelButtonListe),
+      updateCheck(app, fncts, owner.services, owner.versionFile),
+      calculation(fncts, owner.services, primeFile.Nbres_Premiers, CheckBoxFormatAuto) {
     SetInitialState();
     NameForScreenReaders();
     ExplainControls(*this);
     GiveAltKeys();
     BindEvents();
-    BindCommandEvents();
-    BindAnnouncements();
-    BindUpdateCheck();
+    BindSubjects();
     AddMenuHandlers();
 }
 
 void WinMain::SetInitialState() {
     AlwaysEnabled = {&EditFieldNbre, &EditFieldBaseOrg, &PushButtDecomposer};
     EditFieldNbre.Mask = "999999999999.99";
-    EditFieldBaseOrg.TakeEdit = [this](TextEdit& edit) { return TakeBaseEdit(edit); };
-    FollowEdits(EditFieldNbre);
-    FollowEdits(EditFieldBaseOrg);
     EditFieldBaseDest.ReadOnly = true;
     for (TextField* field : {&EditFieldBaseOrg, &EditFieldBaseDest, &EditFieldMonnaies, &EditFieldMonnaie,
              &EditFieldCentimes, &EditFieldCentime}) {
@@ -132,45 +127,28 @@ void WinMain::NameForScreenReaders() {
 }
 
 void WinMain::BindEvents() {
-    EditFieldNbre.GotFocus = [this] {
-        numberField_.Forget();
-        EditFieldNbre_GotFocus(EditFieldNbre);
-    };
-    EditFieldNbre.LostFocus = [this] {
-        NoteNumber(EditFieldNbre);
-        EditFieldNbre_LostFocus(EditFieldNbre);
-    };
-    EditFieldNbre.TextChange = [this](ChangedBy who) { EditFieldNbre_TextChange(EditFieldNbre, who); };
-    EditFieldNbre.KeyDown = [this](
-                                const std::string& key) { return EditFieldNbre_KeyDown(EditFieldNbre, key); };
-    EditFieldBaseOrg.GotFocus = [this] { EditFieldBaseOrg_GotFocus(EditFieldBaseOrg); };
-    EditFieldBaseOrg.LostFocus = [this] {
-        NoteNumber(EditFieldBaseOrg);
-        EditFieldBaseOrg_LostFocus(EditFieldBaseOrg);
-    };
-    EditFieldBaseOrg.TextChange = [this](
-                                      ChangedBy who) { EditFieldBaseOrg_TextChange(EditFieldBaseOrg, who); };
-    EditFieldBaseOrg.KeyDown = [this](const std::string& key) {
-        return EditFieldBaseOrg_KeyDown(EditFieldBaseOrg, key);
-    };
-    PopupMenuBaseOrg.Change = [this] { PopupMenuBaseOrg_Change(PopupMenuBaseOrg); };
-    for (PopupMenu* menu : {&PopupMenuBaseOrg, &PopupMenuBaseDest}) {
-        menu->KeyDown = [this, menu](const std::string& key) { return PopupMenuBase_KeyDown(*menu, key); };
-    }
-    PopupMenuBaseDest.Change = [this] { PopupMenuBaseDest_Change(PopupMenuBaseDest); };
-    RadioButton09AZ[0].Action = [this] { RadioButton09AZ_Action(RadioButton09AZ[0], 0); };
-    RadioButton09AZ[1].Action = [this] { RadioButton09AZ_Action(RadioButton09AZ[1], 1); };
-    EditFieldMonnaies.TextChange = [this](ChangedBy) { EditFieldMonnaies_TextChange(EditFieldMonnaies); };
-    EditFieldMonnaie.TextChange = [this](ChangedBy) { EditFieldMonnaie_TextChange(EditFieldMonnaie); };
-    EditFieldCentimes.TextChange = [this](ChangedBy) { EditFieldCentimes_TextChange(EditFieldCentimes); };
-    EditFieldCentime.TextChange = [this](ChangedBy) { EditFieldCentime_TextChange(EditFieldCentime); };
-    CheckBoxMajusc.Action = [this] { CheckBoxMajusc_Action(CheckBoxMajusc); };
-    CheckBoxTrUnion.Action = [this] { CheckBoxTrUnion_Action(CheckBoxTrUnion); };
-    PopupMenuLg.Change = [this] { PopupMenuLg_Change(PopupMenuLg); };
-    TimerTempo.Action = [this] { TimerTempo_Action(TimerTempo); };
-    TimerQuit.Action = [this] { TimerQuit_Action(TimerQuit); };
+    CheckBoxFormatAuto.Action = [this] { CheckBoxFormatAuto_Action(); };
+    PushButtonPressPapBOrg.Action = [this] { fncts.CopyToClipboard(EditFieldBaseOrg.Text); };
+    PushButtonPressPapBDest.Action = [this] { fncts.CopyToClipboard(EditFieldBaseDest.Text); };
+    PushButtonPressPapPrem.Action = [this] { fncts.CopyToClipboard(TxtAreaDecomp1er.Text); };
+    PushButtonPressPapLettr.Action = [this] { PushButtonPressPapLettr_Action(); };
+    BevelButtonListe.Action = [this] { BevelButtonListe_Action(); };
+    PushButtDecomposer.Action = [this] { PushButtDecomposer_Action(); };
+    AddCopyShortcuts();
+    OfferCopies(EditFieldNbre, fncts);
+    OfferBaseCopies(EditFieldBaseOrg, PopupMenuBaseOrg);
+    OfferBaseCopies(EditFieldBaseDest, PopupMenuBaseDest);
+    OfferCopies(TxtAreaDecomp1er, fncts);
+    EditFieldNbre.KeyTag = Localisation::Touches_Zones();
+}
+
+// Where one subject has to do with another, or with a second window.
+void WinMain::BindSubjects() {
     calculation.EnableMenuBoutons = [this] { EnableMenuBoutons(); };
-    calculation.EndAnnounced = [this] { typingPause_.Mode = 0; }; // said with this
+    calculation.EndAnnounced = [this] { entry.ForgetPause(); }; // said with this
+    words.Recomputed = [this] { entry.AnnounceResultAfterPause(); };
+    entry.QuitIsUnderWay = [this] { return quitting.IsUnderWay(); };
+    updateCheck.TakesTime = [this](bool on) { TurnWheel(checkTakesTime_, on); };
     decomposition.TakesTime = [this](bool on) { TurnWheel(factorsTakeTime_, on); };
     decomposition.TableMayHaveGrown = [this](bool isAsWanted) {
         if (BevelButtonListe.Value) {
@@ -178,22 +156,6 @@ void WinMain::BindEvents() {
             isAsWanted ? list.FaireListe(false, false) : list.ShowBinding();
         }
     };
-}
-
-void WinMain::BindCommandEvents() {
-    CheckBoxFormatAuto.Action = [this] { CheckBoxFormatAuto_Action(CheckBoxFormatAuto); };
-    PushButtonPressPapBOrg.Action = [this] { PushButtonPressPapBOrg_Action(PushButtonPressPapBOrg); };
-    PushButtonPressPapBDest.Action = [this] { PushButtonPressPapBDest_Action(PushButtonPressPapBDest); };
-    PushButtonPressPapPrem.Action = [this] { PushButtonPressPapPrem_Action(PushButtonPressPapPrem); };
-    PushButtonPressPapLettr.Action = [this] { PushButtonPressPapLettr_Action(PushButtonPressPapLettr); };
-    BevelButtonListe.Action = [this] { BevelButtonListe_Action(BevelButtonListe); };
-    PushButtDecomposer.Action = [this] { PushButtDecomposer_Action(PushButtDecomposer); };
-    AddCopyShortcuts();
-    OfferCopies(EditFieldNbre);
-    OfferCopies(EditFieldBaseOrg, &PopupMenuBaseOrg);
-    OfferCopies(EditFieldBaseDest, &PopupMenuBaseDest);
-    OfferCopies(TxtAreaDecomp1er);
-    EditFieldNbre.KeyTag = Localisation::Touches_Zones();
 }
 
 } // namespace tessarolyne

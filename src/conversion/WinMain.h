@@ -1,11 +1,11 @@
 #pragma once
 
-#include "conversion/NumberHistory.h"
-#include "conversion/TypedBase.h"
+#include "app/Quitting.h"
+#include "app/UpdateCheck.h"
+#include "conversion/NumberEntry.h"
 #include "platform/BevelButton.h"
 #include "platform/CheckBox.h"
 #include "platform/GroupBox.h"
-#include "platform/Http.h"
 #include "platform/Label.h"
 #include "platform/PopupMenu.h"
 #include "platform/ProgressWheel.h"
@@ -13,33 +13,24 @@
 #include "platform/RadioButton.h"
 #include "platform/TextArea.h"
 #include "platform/TextField.h"
-#include "platform/Timer.h"
 #include "primes/Calculation.h"
 #include "primes/Decomposition.h"
-#include "primes/engine/BoundFile.h"
-#include "primes/engine/PrimeTable.h"
+#include "primes/PrimeFileBinding.h"
 #include "ui/BlockingOverlay.h"
-#include "ui/NumberField.h"
 #include "ui/NumberOutput.h"
 #include "ui/ProgramWindow.h"
+#include "words/Words.h"
 
 #include <array>
-#include <cstdint>
-#include <optional>
 #include <string>
-#include <string_view>
-#include <vector>
 
 namespace tessarolyne {
 
-class MenuItem;
-
-// The one window that is always there: the number that the user works on, its forms, and what the whole
-// program shares: the table of primes, the flags of a calculation, the timers, a worker thread and the
-// fetcher of the update check. Each .cpp that defines its operations has one subject and is named by it.
+// The one window that is always there, as a record of its controls and their layout: the number that the user
+// works on, and its forms. What happens to them is the doing of its subjects.
 class WinMain final : public ProgramWindow {
 public:
-    explicit WinMain(Program& owner);
+    explicit WinMain(Surroundings& owner);
 
     // --- Controls, in the order in which they are made ---
 
@@ -100,98 +91,32 @@ public:
     Label StaticTextEnAttente{*this, "StaticTextEnAttente", {36, 36, 320, 18}, lockLeftTop, NoTabStop(16)};
     BlockingOverlay LabBlockUI{*this, fncts, TabStop(17)};
 
-    Timer TimerTempo;
-    Timer TimerQuit;
-    Timer TimerVerMaJ;
-    HTTPSocket SocketVerMaJ;
+    // --- What the window's controls are about; the windows share it ---
 
-    // How soon TimerVerMaJ hands over what has come, in milliseconds.
-    static constexpr int handOverPeriod = 1;
-
-    // --- Properties ---
-
-    PrimeTable Nbres_Premiers;         // the table of primes, rising from 2
-    std::uint32_t Nb_NbrePcharg = 0;   // how many of its entries agree with the prime file
-    BoundFile PrimeFile;               // what is known of the prime file's content
-    bool FocusNbre = false;            // EditFieldNbre is being edited
-    bool FocusBase = false;            // EditFieldBaseOrg is being edited
-    std::int16_t NbreNbPparLigne = 10; // primes per line in the prime file
-    bool DrapTimerNbre = true;         // the source of the number: EditFieldNbre, else EditFieldBaseOrg
-    std::string MemErrConv;            // the last mismatch of a base conversion that was reported
-
+    PrimeFileBinding primeFile{program};
     Decomposition decomposition;
+    Words words;
+    NumberEntry entry;
+    Quitting quitting;
+    UpdateCheck updateCheck;
 
-    // --- Operations that others call ---
-
-    // Computes every output again from the field that is the source of the number.
-    void ChangeNbre();
-    // Reads the source field in its base and writes the other number fields, or what is wrong in all outputs.
-    void ConvNbreBaseD();
-    // Tells, once in a row, that a number has other digits in `baseDest` from one field than from the other.
-    void ReportConversionMismatch(
-        const std::string& fromDecimal, int baseDest, const std::string& fromSource, int baseOrg);
-    // The digits in `baseDest` of a number given in `baseOrg`, or the text of an error.
-    std::string ConvNbreBase(std::string_view nombre, int baseOrg, int baseDest, std::string_view alphabet);
-    // A decimal number as it is shown; a text that is no number comes back unchanged.
-    std::string FormatNbre(std::string_view nombre, bool formatAuto);
-    // Digits in a base as they are shown.
-    std::string FormatType(std::string_view nombre, int base, bool formatAuto);
     // Brings the menus and the controls of both windows in line with Fncts::DrapMenu.
     void EnableMenuBoutons();
-    // Writes the amount in words.
-    void ConvNbreLettresD();
-    // Adds the other ways to copy a number to the control's context menu; those of its base only with the
-    // menu that chooses one.
-    void OfferCopies(TextControl& source, PopupMenu* baseMenu = nullptr);
-    // Asks whether to stop the running calculation and quit; on yes, TimerQuit waits for its end.
-    void AskToStopCalculation();
-    // What the signal or the session's end leaves time for: the settings, and new primes if a file is bound.
-    void SaveWithoutAsking();
-
-    // --- Events ---
 
     void Event_Open() override;
     bool Event_CancelClose(bool appQuitting) override;
     void Event_EnableMenuItems() override;
     bool Event_KeyDown(const std::string& key) override;
 
-    void EditFieldNbre_GotFocus(TextField& champ);
-    void EditFieldNbre_LostFocus(TextField& champ);
-    void EditFieldNbre_TextChange(TextField& champ, ChangedBy who);
-    bool EditFieldNbre_KeyDown(TextField& champ, const std::string& key);
-    void EditFieldBaseOrg_GotFocus(TextField& champ);
-    void EditFieldBaseOrg_LostFocus(TextField& champ);
-    void EditFieldBaseOrg_TextChange(TextField& champ, ChangedBy who);
-    bool EditFieldBaseOrg_KeyDown(TextField& champ, const std::string& key);
-    bool PopupMenuBase_KeyDown(PopupMenu& menu, const std::string& key);
-    void PopupMenuBaseOrg_Change(PopupMenu& menu);
-    void PopupMenuBaseDest_Change(PopupMenu& menu);
-    void RadioButton09AZ_Action(RadioButton& bouton, int index);
-    void CheckBoxFormatAuto_Action(CheckBox& bouton);
-    void PushButtonPressPapBOrg_Action(PushButton& bouton);
-    void PushButtonPressPapBDest_Action(PushButton& bouton);
-    void PushButtonPressPapPrem_Action(PushButton& bouton);
-    void PushButtonPressPapLettr_Action(PushButton& bouton);
-    void BevelButtonListe_Action(BevelButton& bouton);
-    void PushButtDecomposer_Action(PushButton& bouton);
-    void EditFieldMonnaies_TextChange(TextField& champ);
-    void EditFieldMonnaie_TextChange(TextField& champ);
-    void EditFieldCentimes_TextChange(TextField& champ);
-    void EditFieldCentime_TextChange(TextField& champ);
-    void CheckBoxMajusc_Action(CheckBox& bouton);
-    void CheckBoxTrUnion_Action(CheckBox& bouton);
-    void PopupMenuLg_Change(PopupMenu& menu);
-    void TimerTempo_Action(Timer& timer);
-    void TimerQuit_Action(Timer& timer);
-    bool FichChoixFichNbP_Action();
-    bool FichSauvFichNbP_Action();
-    void SocketVerMaJ_PageReceived(HTTPSocket& sender, const std::string& url, int httpStatus,
-        const std::string& headers, const std::string& content);
-    void SocketVerMaJ_Error(HTTPSocket& sender, int code);
-    void TimerVerMaJ_Action(Timer& sender);
+    void CheckBoxFormatAuto_Action();
+    void PushButtonPressPapLettr_Action();
+    void BevelButtonListe_Action();
+    void PushButtDecomposer_Action();
 
     // The menu's commands. Each acts only if its item is enabled, since a shortcut reaches it also when it
     // isn't, and says in any case that the command was handled.
+    bool FichChoixFichNbP_Action();
+    bool FichSauvFichNbP_Action();
     bool AppleAPropos_Action();
     bool AideAide_Action();
     bool AppleDon_Action();
@@ -200,73 +125,25 @@ public:
 
 private:
     void BindEvents();
-    void BindCommandEvents();
-    void BindUpdateCheck();
+    void BindSubjects();
     void SetInitialState();
     void NameForScreenReaders();
     void GiveAltKeys();
     void AddMenuHandlers();
-    void AddHelpMenuHandlers();
     bool MenuItemIsEnabled(const char* name) const;
+    void AddCopyShortcuts();
+    void OfferBaseCopies(TextField& source, const PopupMenu& baseMenu);
+    void TurnWheel(bool& reason, bool on);
 
     bool FindPreferencesFolder();
     void SweepLeftovers();
     void Welcome(bool premierLancement);
-    void StartAutomaticCheck();
-    void FetchVersionFile();
-    void VersionFileHasCome();
-    void TurnWheel(bool& reason, bool on);
 
-    bool ConvertDecimal(std::string& decimal, std::string& source, int baseOrg, std::string_view alphabet);
-    void ConvertSourceBase(std::string& decimal, std::string& source, int baseOrg, std::string_view alphabet);
-    void ShowDestination(
-        const std::string& decimal, const std::string& source, int baseOrg, std::string_view alphabet);
-    bool IsErrorText(std::string_view text) const;
-    void ConvertAgain();
-    void TakeAsSource(bool isDecimal, ChangedBy who);
-    std::string_view Alphabet() const;
-    std::string SourceDigits() const;
-    bool TakeBaseEdit(TextEdit& edit);
-    std::string NumberIn(const TextField& champ);
-    void FollowEdits(TextField& champ);
-    void NoteNumber(const TextField& champ);
-    std::optional<std::string> NumberToRecall(const TextField& champ, bool earlier);
-    bool RecallNumber(TextField& champ, const std::string& key);
-
-    int AskOnTheWayOut(const std::string& message, const std::string& explanation, const std::string& action,
-        const std::string& cancel, const std::string& alternate, int icon);
-    bool AskAboutNewPrimes(bool& enregistrer);
-    void StayOpen();
-    void DecideClose(bool enregistrer);
-
-    void RecomputeWords();
-    void ResetCurrencies();
-    void AddCopyShortcuts();
-
-    NumberField numberField_{EditFieldNbre, fncts};
-    void BindAnnouncements();
-    void AnnounceResultAfterPause();
-    void AnnounceResult();
-
-    Timer typingPause_; // until the user is taken to have typed all
-    // The output that the user went to last, whose text is announced.
-    TextControl* outputOfInterest_ = &TxtAreaLettres;
-    NumberHistory history_;
-    bool recalling_ = false;     // the edit under way brings an earlier number back
-    bool deleting_ = false;      // so did the user at the last edit
-    std::string beforeDeletion_; // the number that stood there before
-    TypedBase typedBase_;
-    bool startIsOver_ = false; // there are settings to save; unlike App.initProg it stays up
-    bool quitQuestionIsUp_ = false;
-    int turnsWaited_ = 0;           // of TimerTempo, by a number for the end of a calculation
-    bool recalculationDue_ = false; // a change of the number that a quit under way has put off
     // ProgressWheel1 turns as long as either holds.
     bool factorsTakeTime_ = false;
     bool checkTakesTime_ = false;
-    Timer slowCheck_; // until a check from the menu has to show that it is under way
-    int fetchesUnderWay_ = 0;
-    NumberOutput factors_{TxtAreaDecomp1er, EditFieldNbre};
-    NumberOutput words_{TxtAreaLettres, EditFieldNbre};
+    NumberOutput factorsOutput_{TxtAreaDecomp1er, EditFieldNbre};
+    NumberOutput wordsOutput_{TxtAreaLettres, EditFieldNbre};
 
 public:
     // Last, so that its thread is joined before anything goes that a task uses.

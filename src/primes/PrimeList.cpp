@@ -1,10 +1,11 @@
 // The slice of the prime table that the list window shows, and the run that extends the table from there.
 
-#include "app/Program.h"
-#include "conversion/WinMain.h"
+#include "platform/CheckBox.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
+#include "primes/Calculation.h"
 #include "primes/WinNbresPremiers.h"
+#include "primes/engine/PrimeTable.h"
 #include "ui/Localisation.h"
 #include "ui/NumberFormat.h"
 
@@ -47,9 +48,7 @@ Slice CutToTable(Slice entered, std::int64_t last, bool garderDebut, std::int64_
 } // namespace
 
 void WinNbresPremiers::FaireListe(bool forcer, bool garderDebut) {
-    WinMain& main = program.winMain();
-    const PrimeTable& table = main.Nbres_Premiers;
-    const std::int32_t last = table.UpperBound();
+    const std::int32_t last = table_.UpperBound();
     if (Ind_DerPrem >= last && !forcer) {
         return;
     }
@@ -64,10 +63,9 @@ void WinNbresPremiers::FaireListe(bool forcer, bool garderDebut) {
     EditFieldAffAu.Text = Str(slice.last + 1);
     const std::string text = ListText(debut_, fin_);
     ShowBinding();
-    StaticTextNbNbre1ers.Text =
-        FormatWhole(static_cast<std::uint64_t>(Ind_DerPrem) + 1, main.CheckBoxFormatAuto.Value) +
-        Localisation::Txt_NombresPremiers();
-    EditFieldFin.Text = FormatWhole(table.Back(), false);
+    StaticTextNbNbre1ers.Text = FormatWhole(static_cast<std::uint64_t>(Ind_DerPrem) + 1, grouped_.Value) +
+                                Localisation::Txt_NombresPremiers();
+    EditFieldFin.Text = FormatWhole(table_.Back(), false);
     TxtAreaListeNbres1ers.Text = Localisation::Txt_Attente() + "   " + Localisation::Txt_Attente();
     TxtAreaListeNbres1ers.Text = text;
 }
@@ -76,7 +74,7 @@ std::string WinNbresPremiers::ListText(std::int32_t debut, std::int32_t fin) con
     if (fin < debut) {
         return {}; // of an empty table
     }
-    PrimeTable::Cursor cursor(program.winMain().Nbres_Premiers, debut);
+    PrimeTable::Cursor cursor(table_, debut);
     std::string text = "\t";
     text += FormatWhole(cursor.Value(), false);
     for (std::int32_t i = debut + 1; i <= fin; ++i) {
@@ -90,42 +88,40 @@ std::string WinNbresPremiers::ListText(std::int32_t debut, std::int32_t fin) con
     return text;
 }
 
-void WinNbresPremiers::PushButtonCalcPrems_Action(PushButton&) {
-    WinMain& main = program.winMain();
+void WinNbresPremiers::PushButtonCalcPrems_Action() {
     const std::uint64_t limit = ToUInt64(Round(Val(WithoutBlanks(EditFieldFin.Text()))));
-    if (main.calculation.CalculEnCours()) {
+    if (calculation_.CalculEnCours()) {
         fncts.Beep();
         return;
     }
-    main.calculation.Begin();
+    calculation_.Begin();
     if (limit > NbreMax) {
         fncts.Beep();
-        EditFieldFin.Text = "Nb Max = " + FormatWhole(NbreMax, main.CheckBoxFormatAuto.Value);
-        main.calculation.End();
+        EditFieldFin.Text = "Nb Max = " + FormatWhole(NbreMax, grouped_.Value);
+        calculation_.End();
         return;
     }
     ProgressWheel2.Visible = true;
-    const auto body = [&calculation = main.calculation](
+    const auto body = [&calculation = calculation_](
                           std::uint64_t end) { calculation.NbresPremCalc(end, false); };
-    main.calculation.RunOnThread({Calculation::listRunHasEnded, limit, ProgressWheel2, StaticTextAvance,
-        limit, true, body, [this](std::uint64_t) { ButtCalcPremsFin(); }});
+    calculation_.RunOnThread({Calculation::listRunHasEnded, limit, ProgressWheel2, StaticTextAvance, limit,
+        true, body, [this](std::uint64_t) { ButtCalcPremsFin(); }});
 }
 
 // Ends a run of this window, on the main thread.
 void WinNbresPremiers::ButtCalcPremsFin() {
-    WinMain& main = program.winMain();
     if (fncts.ArretUrg) {
-        Ind_DerPrem = main.Nbres_Premiers.UpperBound();
+        Ind_DerPrem = table_.UpperBound();
         ShowBinding();
-        EditFieldFin.Text = FormatWhole(main.Nbres_Premiers.Back(), false);
+        EditFieldFin.Text = FormatWhole(table_.Back(), false);
     } else {
         EditFieldAffAu.Text = "0";
         FaireListe(true, false);
     }
     ProgressWheel2.Visible = false;
-    main.calculation.End();
-    main.calculation.TellWhyRunEnded();
-    main.calculation.AnnounceRunEnded(StaticTextNbNbre1ers.Text);
+    calculation_.End();
+    calculation_.TellWhyRunEnded();
+    calculation_.AnnounceRunEnded(StaticTextNbNbre1ers.Text);
 }
 
 } // namespace tessarolyne

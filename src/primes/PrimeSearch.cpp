@@ -1,10 +1,11 @@
 // By keyboard through the list of primes: to a value, and from one slice to the next.
 
-#include "app/Program.h"
-#include "conversion/WinMain.h"
+#include "platform/CheckBox.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
+#include "primes/Calculation.h"
 #include "primes/WinNbresPremiers.h"
+#include "primes/engine/PrimeTable.h"
 #include "ui/Localisation.h"
 #include "ui/NumberFormat.h"
 
@@ -44,15 +45,14 @@ void WinNbresPremiers::AskForValue() {
     EditFieldChercher.Notify(Localisation::Txt_Chercher());
 }
 
-bool WinNbresPremiers::EditFieldChercher_KeyDown(TextField& champ, const std::string& key) {
-    WinMain& main = program.winMain();
+bool WinNbresPremiers::EditFieldChercher_KeyDown(const std::string& key) {
     const bool isReturn = key == Chr(13) || key == Chr(3);
     if (!isReturn && key != Chr(27)) {
         return false;
     }
-    const std::string text = WithoutBlanks(champ.Text());
-    if (main.calculation.CalculEnCours()) {
-        isReturn ? fncts.Beep() : main.calculation.StopOnEscape(key);
+    const std::string text = WithoutBlanks(EditFieldChercher.Text());
+    if (calculation_.CalculEnCours()) {
+        isReturn ? fncts.Beep() : calculation_.StopOnEscape(key);
     } else if (isReturn && !text.empty()) {
         GoToValue(ToUInt64(Val(text)));
     } else {
@@ -61,13 +61,12 @@ bool WinNbresPremiers::EditFieldChercher_KeyDown(TextField& champ, const std::st
     return true;
 }
 
-void WinNbresPremiers::EditFieldChercher_LostFocus(TextField& champ) {
-    champ.Visible = false;
+void WinNbresPremiers::EditFieldChercher_LostFocus() {
+    EditFieldChercher.Visible = false;
     StaticTextNbNbre1ers.Visible = true;
 }
 
 void WinNbresPremiers::GoToValue(std::uint64_t value) {
-    const PrimeTable& table = program.winMain().Nbres_Premiers;
     const auto say = [this](const std::string& text, const std::string& value1, const std::string& value2) {
         const std::string said =
             fncts.FracTexte(text, 1) + value1 + (value2.empty() ? "" : fncts.FracTexte(text, 2) + value2);
@@ -75,13 +74,13 @@ void WinNbresPremiers::GoToValue(std::uint64_t value) {
             .Notify(said);
         fncts.Announce(said);
     };
-    if (value > table.Back()) {
-        say(Localisation::Txt_AuDela(), Shown(table.Back()), "");
+    if (value > table_.Back()) {
+        say(Localisation::Txt_AuDela(), Shown(table_.Back()), "");
         return;
     }
-    const std::int32_t rank = LowerBound(table, value);
+    const std::int32_t rank = LowerBound(table_, value);
     ShowRank(rank);
-    if (table[rank] == value) {
+    if (table_[rank] == value) {
         StaticTextNbNbre1ers.Text = WithRank(rank);
         say("¿%", WithRank(rank), "");
         return;
@@ -99,7 +98,7 @@ void WinNbresPremiers::ShowRank(std::int32_t rank) {
         ShowRanks(debut, debut + largestSlice - 1);
     }
     const std::string& text = TxtAreaListeNbres1ers.Text;
-    const std::string entry = FormatWhole(program.winMain().Nbres_Premiers[rank], false);
+    const std::string entry = FormatWhole(table_[rank], false);
     std::size_t at = 0;
     do {
         at = text.find("\t" + entry, at) + 1;
@@ -111,12 +110,12 @@ void WinNbresPremiers::ShowRank(std::int32_t rank) {
 
 std::string WinNbresPremiers::WithRank(std::int32_t rank) const {
     const std::string text = Localisation::Txt_AvecRang();
-    return fncts.FracTexte(text, 1) + Shown(program.winMain().Nbres_Premiers[rank]) +
-           fncts.FracTexte(text, 2) + Shown(static_cast<std::uint64_t>(rank) + 1) + fncts.FracTexte(text, 3);
+    return fncts.FracTexte(text, 1) + Shown(table_[rank]) + fncts.FracTexte(text, 2) +
+           Shown(static_cast<std::uint64_t>(rank) + 1) + fncts.FracTexte(text, 3);
 }
 
 std::string WinNbresPremiers::Shown(std::uint64_t value) const {
-    return FormatWhole(value, program.winMain().CheckBoxFormatAuto.Value);
+    return FormatWhole(value, grouped_.Value);
 }
 
 void WinNbresPremiers::ShowRanks(std::int64_t debut, std::int64_t fin) {
@@ -126,11 +125,11 @@ void WinNbresPremiers::ShowRanks(std::int64_t debut, std::int64_t fin) {
 }
 
 // The keys go on in the next slice from the last line of this one, and from the first in the one before.
-bool WinNbresPremiers::TxtAreaListeNbres1ers_KeyDown(TextArea& zone, const std::string& key) {
+bool WinNbresPremiers::TxtAreaListeNbres1ers_KeyDown(const std::string& key) {
+    TextArea& zone = TxtAreaListeNbres1ers;
     const std::string& text = zone.Text;
     const auto caret = static_cast<std::size_t>(zone.SelStart() + zone.SelLength());
-    if (key == Chr(12) && text.find(endOfLine, caret) == std::string::npos &&
-        fin_ < program.winMain().Nbres_Premiers.UpperBound()) {
+    if (key == Chr(12) && text.find(endOfLine, caret) == std::string::npos && fin_ < table_.UpperBound()) {
         ShowRanks(std::int64_t{fin_} + 1, std::int64_t{fin_} + largestSlice);
         zone.UserSelected(0, 0);
         return true;

@@ -1,12 +1,12 @@
 #include "primes/WinChargSauvNb1ers.h"
 
-#include "app/Program.h"
-#include "conversion/WinMain.h"
+#include "app/App.h"
 #include "platform/Clock.h"
 #include "platform/EventLoop.h"
 #include "platform/IOException.h"
 #include "platform/MemoryLimits.h"
 #include "platform/Services.h"
+#include "primes/PrimeFileBinding.h"
 #include "ui/FileItems.h"
 #include "ui/HelpTags.h"
 #include "ui/Localisation.h"
@@ -31,8 +31,10 @@ constexpr int ticksToBeSeen = 6;
 
 } // namespace
 
-WinChargSauvNb1ers::WinChargSauvNb1ers(Program& owner)
-    : ModalWindow(owner, "… Lect/Sauv Nombres Premiers …", 400, 72, frame) {
+WinChargSauvNb1ers::WinChargSauvNb1ers(
+    Surroundings& owner, PrimeFileBinding& primeFile, const Window& mainWindow)
+    : ModalWindow(owner, "… Lect/Sauv Nombres Premiers …", 400, 72, frame), primeFile_(primeFile),
+      mainWindow_(mainWindow) {
     StaticTextFormNbre.Text = Localisation::StTextFormNbre();
     ExplainControls(*this);
 }
@@ -86,7 +88,7 @@ void WinChargSauvNb1ers::Work() {
 }
 
 bool WinChargSauvNb1ers::MustStop() {
-    return program.services.loop.IsQuitting() || program.winMain().CloseIsDue() || app.QuitAsked;
+    return program.services.loop.IsQuitting() || mainWindow_.CloseIsDue() || app.QuitAsked;
 }
 
 void WinChargSauvNb1ers::Draw() {
@@ -109,13 +111,12 @@ void WinChargSauvNb1ers::TellFailure(int beeps, const std::string& message) {
 }
 
 void WinChargSauvNb1ers::LoadNb1ers() {
-    WinMain& main = program.winMain();
     Start(Localisation::WinChargNb1ersTitre());
-    if (main.Nbres_Premiers.Size() == 0) {
+    if (primeFile_.Nbres_Premiers.Size() == 0) {
         Reset();
     }
-    main.Nb_NbrePcharg = 0;
-    main.PrimeFile = {};
+    primeFile_.Nb_NbrePcharg = 0;
+    primeFile_.PrimeFile = {};
     app.QuitAsked = false;
     if (PasNil_Existe_Alias(app.FichNbPrems, true)) {
         LoadBoundFile();
@@ -131,7 +132,7 @@ void WinChargSauvNb1ers::LoadBoundFile() {
         return;
     }
     read.Clear();
-    program.winMain().PrimeFile.isForeign = reading != Reading::Nothing;
+    primeFile_.PrimeFile.isForeign = reading != Reading::Nothing;
     switch (reading) {
     case Reading::Other:
         if (UserOverwrites()) {
@@ -154,7 +155,7 @@ void WinChargSauvNb1ers::LoadBoundFile() {
 }
 
 WinChargSauvNb1ers::Reading WinChargSauvNb1ers::ReadInto(PrimeTable& table) {
-    std::optional<FileStamp>& seen = program.winMain().PrimeFile.seen;
+    std::optional<FileStamp>& seen = primeFile_.PrimeFile.seen;
     try {
         seen = app.FichNbPrems->Stamp();
         const auto file = app.FichNbPrems->Files().OpenForReading(app.FichNbPrems->NativePath());
@@ -179,7 +180,7 @@ WinChargSauvNb1ers::Reading WinChargSauvNb1ers::ReadInto(PrimeTable& table) {
 }
 
 void WinChargSauvNb1ers::Take(PrimeTable& read) {
-    program.winMain().Nbres_Premiers.Swap(read);
+    primeFile_.Nbres_Premiers.Swap(read);
     CountAsSaved();
 }
 
@@ -199,13 +200,13 @@ bool WinChargSauvNb1ers::UserOverwrites() {
             Localisation::Btn_Enreg(), Localisation::Btn_NePasEnreg(), "", 0, nullptr);
     if (answer == 2) {
         app.FichNbPrems.reset();
-        program.winMain().PrimeFile = {};
+        primeFile_.PrimeFile = {};
     }
     return answer == 1;
 }
 
 void WinChargSauvNb1ers::Reset() {
-    PrimeTable& table = program.winMain().Nbres_Premiers;
+    PrimeTable& table = primeFile_.Nbres_Premiers;
     table.Clear();
     for (const std::uint64_t prime : {2U, 3U, 5U, 7U}) {
         if (!table.Append(prime)) {
@@ -235,15 +236,13 @@ void WinChargSauvNb1ers::Save(LinkPolicy links) {
 }
 
 void WinChargSauvNb1ers::CountAsSaved() {
-    WinMain& main = program.winMain();
-    main.Nb_NbrePcharg = static_cast<std::uint32_t>(main.Nbres_Premiers.Size());
+    primeFile_.Nb_NbrePcharg = static_cast<std::uint32_t>(primeFile_.Nbres_Premiers.Size());
 }
 
 // False, and the user knows why, if the file has changed since it was seen and is worth more than the table.
 bool WinChargSauvNb1ers::MayReplace() {
-    const WinMain& main = program.winMain();
-    switch (
-        LookBeforeSaving(*app.FichNbPrems, main.PrimeFile, main.Nbres_Premiers, MemoryForTable(), *this)) {
+    switch (LookBeforeSaving(
+        *app.FichNbPrems, primeFile_.PrimeFile, primeFile_.Nbres_Premiers, MemoryForTable(), *this)) {
     case UnseenContent::None:
         return true;
     case UnseenContent::MorePrimes:
@@ -263,11 +262,11 @@ void WinChargSauvNb1ers::Write(LinkPolicy links) {
     if (!app.FichNbPrems) {
         throw IOException("no file is bound");
     }
-    WinMain& main = program.winMain();
     const auto file = app.FichNbPrems->Files().CreateSafely(app.FichNbPrems->NativePath(), links);
-    WritePrimeFile(main.Nbres_Premiers, Localisation::Txt_NbreDeNbPrem(), main.NbreNbPparLigne, *file, *this);
+    WritePrimeFile(primeFile_.Nbres_Premiers, Localisation::Txt_NbreDeNbPrem(), primeFile_.NbreNbPparLigne,
+        *file, *this);
     CommitWhileDrawing(*file);
-    main.PrimeFile = {app.FichNbPrems->Stamp(), false};
+    primeFile_.PrimeFile = {app.FichNbPrems->Stamp(), false};
 }
 
 // The disk may need seconds, in which the window must not look dead.

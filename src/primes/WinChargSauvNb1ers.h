@@ -11,7 +11,7 @@
 
 namespace tessarolyne {
 
-class WinMain;
+class PrimeFileBinding;
 
 // Shows how far the prime file is read or written, and does the one or the other: it lives for one operation,
 // which opens it, reports what went wrong, and closes it. While it is up it is drawn, and only the end of the
@@ -19,7 +19,7 @@ class WinMain;
 // the application shows quietly (QuietShowing), only once the operation has taken that long.
 class WinChargSauvNb1ers final : public ModalWindow, private PrimeFileProgress {
 public:
-    explicit WinChargSauvNb1ers(Program& owner);
+    WinChargSauvNb1ers(Surroundings& owner, PrimeFileBinding& primeFile, const Window& mainWindow);
 
     Label StaticTextFormNbre{*this, "StaticTextFormNbre", {20, 7, 360, 20}, lockLeftTop, NoTabStop(0)};
     ProgressBar ProgressBarNb1ers{*this, "ProgressBarNb1ers", {20, 39, 360, 13}, lockLeftTop, NoTabStop(1)};
@@ -60,6 +60,8 @@ private:
     void CommitWhileDrawing(OutputFile& file);
     void TellFailure(int beeps, const std::string& message);
 
+    PrimeFileBinding& primeFile_;
+    const Window& mainWindow_;  // a close of it stops a reading
     std::int64_t deadline_ = 0; // in ticks, when the window has been up long enough to be seen
     std::int64_t drawn_ = 0;    // in ticks, when it was drawn last
     std::int64_t answered_ = 0; // when the window manager was last answered, in ticks

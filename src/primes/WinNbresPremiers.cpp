@@ -1,12 +1,17 @@
 #include "primes/WinNbresPremiers.h"
 
-#include "app/Program.h"
-#include "conversion/WinMain.h"
+#include "app/App.h"
+#include "app/Quitting.h"
+#include "platform/BevelButton.h"
+#include "platform/CheckBox.h"
 #include "platform/Desktop.h"
 #include "platform/Numbers.h"
 #include "platform/Services.h"
 #include "platform/Stage.h"
 #include "platform/Text.h"
+#include "primes/Calculation.h"
+#include "primes/PrimeFileBinding.h"
+#include "ui/CopyOffers.h"
 #include "ui/FileItems.h"
 #include "ui/HelpTags.h"
 #include "ui/Localisation.h"
@@ -30,8 +35,11 @@ bool IsReturn(const std::string& key) {
 
 } // namespace
 
-WinNbresPremiers::WinNbresPremiers(Program& owner)
-    : ProgramWindow(owner, Localisation::WinNbresTitre(), 520, 585, frame) {
+WinNbresPremiers::WinNbresPremiers(Surroundings& owner, PrimeFileBinding& primeFile, Calculation& calculation,
+    Quitting& quitting, const CheckBox& grouped, BevelButton& listButton)
+    : ProgramWindow(owner, Localisation::WinNbresTitre(), 520, 585, frame), primeFile_(primeFile),
+      table_(primeFile.Nbres_Premiers), calculation_(calculation), quitting_(quitting), grouped_(grouped),
+      listButton_(listButton) {
     SetInitialState();
     ExplainControls(*this);
     BindEvents();
@@ -81,40 +89,33 @@ void WinNbresPremiers::SetInitialState() {
 }
 
 void WinNbresPremiers::BindEvents() {
-    EditFieldFin.KeyDown = [this](const std::string& key) { return EditFieldFin_KeyDown(EditFieldFin, key); };
-    EditFieldAffDu.KeyDown = [this](const std::string& key) {
-        return EditFieldAffDu_KeyDown(EditFieldAffDu, key);
-    };
-    EditFieldAffAu.KeyDown = [this](const std::string& key) {
-        return EditFieldAffAu_KeyDown(EditFieldAffAu, key);
-    };
-    EditFieldChercher.KeyDown = [this](const std::string& key) {
-        return EditFieldChercher_KeyDown(EditFieldChercher, key);
-    };
-    EditFieldChercher.LostFocus = [this] { EditFieldChercher_LostFocus(EditFieldChercher); };
+    EditFieldFin.KeyDown = [this](const std::string& key) { return EditFieldFin_KeyDown(key); };
+    EditFieldAffDu.KeyDown = [this](const std::string& key) { return EditFieldAffDu_KeyDown(key); };
+    EditFieldAffAu.KeyDown = [this](const std::string& key) { return EditFieldAffAu_KeyDown(key); };
+    EditFieldChercher.KeyDown = [this](const std::string& key) { return EditFieldChercher_KeyDown(key); };
+    EditFieldChercher.LostFocus = [this] { EditFieldChercher_LostFocus(); };
     TxtAreaListeNbres1ers.KeyDown = [this](const std::string& key) {
-        return TxtAreaListeNbres1ers_KeyDown(TxtAreaListeNbres1ers, key);
+        return TxtAreaListeNbres1ers_KeyDown(key);
     };
     AddShortcut("Cmd+F", [this] { AskForValue(); });
     for (TextField* field : {&EditFieldFin, &EditFieldAffDu, &EditFieldAffAu, &EditFieldChercher}) {
-        program.winMain().OfferCopies(*field);
+        OfferCopies(*field, fncts);
     }
-    PushButtonCalcPrems.Action = [this] { PushButtonCalcPrems_Action(PushButtonCalcPrems); };
-    PushButtonFichier.Action = [this] { PushButtonFichier_Action(PushButtonFichier); };
+    PushButtonCalcPrems.Action = [this] { PushButtonCalcPrems_Action(); };
+    PushButtonFichier.Action = [this] { PushButtonFichier_Action(); };
 }
 
 void WinNbresPremiers::Event_Open() {
-    WinMain& main = program.winMain();
     LabBlockUI.Open();
     Fncts::DecPosCtrl(*this);
     ShowBinding();
     PlaceWindow();
-    main.BevelButtonListe.Value = true;
+    listButton_.Value = true;
     Ind_DerPrem = 0;
-    EditFieldNbNbresLigne.Text = Str(main.NbreNbPparLigne);
+    EditFieldNbNbresLigne.Text = Str(primeFile_.NbreNbPparLigne);
     EditFieldAffDu.Text = "1";
     EditFieldAffAu.Text = FormatWhole(largestSlice, false);
-    const std::string mask(main.CheckBoxFormatAuto.Value ? groupedMask : plainMask);
+    const std::string mask(grouped_.Value ? groupedMask : plainMask);
     EditFieldAffDu.Format = mask;
     EditFieldAffAu.Format = mask;
     ProgressWheel2.Visible = true;
@@ -139,21 +140,20 @@ void WinNbresPremiers::PlaceWindow() {
 }
 
 bool WinNbresPremiers::Event_CancelClose(bool appQuitting) {
-    WinMain& main = program.winMain();
-    if (main.calculation.CalculEnCours()) {
-        main.AskToStopCalculation();
+    if (calculation_.CalculEnCours()) {
+        quitting_.AskToStopCalculation();
         return true;
     }
     if (appQuitting) {
         if (!app.DrapOkQuit) {
-            main.TimerQuit.Mode = 1;
+            quitting_.Ask();
             return true;
         }
     } else if (!fncts.DrapMenu) {
         fncts.Beep();
         return true;
     }
-    main.BevelButtonListe.Value = false;
+    listButton_.Value = false;
     KeepSettings();
     DefNbreNbPparLigne();
     return false;
@@ -162,16 +162,16 @@ bool WinNbresPremiers::Event_CancelClose(bool appQuitting) {
 void WinNbresPremiers::KeepSettings() {
     app.WinNBP = {ToInt16(Left()), ToInt16(Top()), ToInt16(Width()), ToInt16(Height())};
     if (const std::int16_t perLine = ToInt16(Val(EditFieldNbNbresLigne.Text())); perLine != 0) {
-        program.winMain().NbreNbPparLigne = perLine;
+        primeFile_.NbreNbPparLigne = perLine;
     }
 }
 
 bool WinNbresPremiers::Event_KeyDown(const std::string& key) {
-    program.winMain().calculation.StopOnEscape(key);
+    calculation_.StopOnEscape(key);
     return key != Chr(9);
 }
 
-bool WinNbresPremiers::EditFieldFin_KeyDown(TextField&, const std::string& key) {
+bool WinNbresPremiers::EditFieldFin_KeyDown(const std::string& key) {
     if (!IsReturn(key)) {
         return false;
     }
@@ -179,7 +179,7 @@ bool WinNbresPremiers::EditFieldFin_KeyDown(TextField&, const std::string& key) 
     return true;
 }
 
-bool WinNbresPremiers::EditFieldAffDu_KeyDown(TextField&, const std::string& key) {
+bool WinNbresPremiers::EditFieldAffDu_KeyDown(const std::string& key) {
     if (!IsReturn(key)) {
         return false;
     }
@@ -187,7 +187,7 @@ bool WinNbresPremiers::EditFieldAffDu_KeyDown(TextField&, const std::string& key
     return true;
 }
 
-bool WinNbresPremiers::EditFieldAffAu_KeyDown(TextField&, const std::string& key) {
+bool WinNbresPremiers::EditFieldAffAu_KeyDown(const std::string& key) {
     if (!IsReturn(key)) {
         return false;
     }
@@ -196,7 +196,7 @@ bool WinNbresPremiers::EditFieldAffAu_KeyDown(TextField&, const std::string& key
 }
 
 void WinNbresPremiers::DefNbreNbPparLigne() {
-    std::int16_t& perLine = program.winMain().NbreNbPparLigne;
+    std::int16_t& perLine = primeFile_.NbreNbPparLigne;
     perLine = ToInt16(Val(EditFieldNbNbresLigne.Text()));
     if (perLine == 0) {
         perLine = 10;
@@ -207,9 +207,60 @@ void WinNbresPremiers::DefNbreNbPparLigne() {
     }
 }
 
-void WinNbresPremiers::PushButtonFichier_Action(PushButton&) {
+void WinNbresPremiers::PushButtonFichier_Action() {
     Desktop& desktop = program.services.desktop;
     Btn_Fich(PasNil_Existe_Alias(app.FichNbPrems, true), desktop.OptionKeyIsDown(), desktop.ShiftKeyIsDown());
+}
+
+// Option opens the bound file; Shift swaps what a plain click does.
+void WinNbresPremiers::Btn_Fich(bool fichDispo, bool touchOption, bool touchMaj) {
+    if (touchOption) {
+        primeFile_.OpenBoundFile();
+        return;
+    }
+    DefNbreNbPparLigne();
+    const bool load = fichDispo != touchMaj;
+    if (load ? !ChooseAndLoad() : !primeFile_.ChooseAndSave()) {
+        primeFile_.AskToKeepFile();
+    }
+    ShowBinding();
+}
+
+bool WinNbresPremiers::ChooseAndLoad() {
+    if (!primeFile_.ChooseForLoad()) {
+        return false;
+    }
+    ProgressWheel2.Visible = true;
+    primeFile_.Load();
+    EditFieldAffAu.Text = "0";
+    FaireListe(true, false);
+    ProgressWheel2.Visible = false;
+    return true;
+}
+
+void WinNbresPremiers::ShowBinding() {
+    if (PasNil_Existe_Alias(app.FichNbPrems, true)) {
+        PushButtonFichier.Caption = Localisation::Btn_ChangFich();
+        PushButtonFichier.HelpTag = Localisation::Btn_ChangFich_HT();
+        StaticTextNbNbre1ers.HelpTag = ShownPath(*app.FichNbPrems);
+    } else {
+        PushButtonFichier.Caption = Localisation::Btn_SauvFich();
+        PushButtonFichier.HelpTag = Localisation::Btn_SauvFich_HT() + primeFile_.TextOfUnkeptPrimes();
+        StaticTextNbNbre1ers.HelpTag = Localisation::Txt_PasDeFichNbPremSelect();
+    }
+}
+
+void WinNbresPremiers::Regroup(bool grouped) {
+    const std::string mask(grouped ? groupedMask : plainMask);
+    for (TextField* field : {&EditFieldFin, &EditFieldAffDu, &EditFieldAffAu}) {
+        field->Format = mask;
+    }
+    for (TextField* field : {&EditFieldFin, &EditFieldAffDu, &EditFieldAffAu}) {
+        const std::string bare = WithoutBlanks(field->Text());
+        if (IsNumeric(bare)) { // a message keeps its blanks
+            field->Text = bare;
+        }
+    }
 }
 
 } // namespace tessarolyne

@@ -15,12 +15,21 @@
 
 namespace tessarolyne {
 
-// The list of primes: a slice of the table that the main window owns, at most 2000 at a time, the run that
+class BevelButton;
+class Calculation;
+class CheckBox;
+class PrimeFileBinding;
+class PrimeTable;
+class Quitting;
+
+// The list of primes: a slice of the table, at most 2000 at a time, the run that
 // extends the table up to a limit, and the button to the prime file. The window exists while it is open; it
 // must be asked for only while BevelButtonListe of the main window says so.
 class WinNbresPremiers final : public ProgramWindow {
 public:
-    explicit WinNbresPremiers(Program& owner);
+    // `grouped` says how numbers are shown, `listButton` that the window is open.
+    WinNbresPremiers(Surroundings& owner, PrimeFileBinding& primeFile, Calculation& calculation,
+        Quitting& quitting, const CheckBox& grouped, BevelButton& listButton);
 
     PushButton PushButtonCalcPrems{*this, "PushButtonCalcPrems", {20, 14, 210, 20}, lockLeftTop, TabStop(0)};
     TextField EditFieldFin{*this, "EditFieldFin", {242, 13, 170, 22}, lockLeftTop, TabStop(1)};
@@ -56,6 +65,8 @@ public:
     void FaireListe(bool forcer, bool garderDebut);
     // Takes over the number of primes per line of the file; 0 is refused with a message.
     void DefNbreNbPparLigne();
+    // Shows the numbers in its fields with groups or without.
+    void Regroup(bool grouped);
     // Notes the window's place and the primes per line for the preferences, asking nothing.
     void KeepSettings();
     // Opens, loads or saves the prime file, as the state of the binding and the two keys decide.
@@ -66,14 +77,14 @@ public:
     void Event_Open() override;
     bool Event_CancelClose(bool appQuitting) override;
     bool Event_KeyDown(const std::string& key) override;
-    bool EditFieldFin_KeyDown(TextField& champ, const std::string& key);
-    bool EditFieldAffDu_KeyDown(TextField& champ, const std::string& key);
-    bool EditFieldAffAu_KeyDown(TextField& champ, const std::string& key);
-    bool EditFieldChercher_KeyDown(TextField& champ, const std::string& key);
-    void EditFieldChercher_LostFocus(TextField& champ);
-    bool TxtAreaListeNbres1ers_KeyDown(TextArea& zone, const std::string& key);
-    void PushButtonCalcPrems_Action(PushButton& bouton);
-    void PushButtonFichier_Action(PushButton& bouton);
+    bool EditFieldFin_KeyDown(const std::string& key);
+    bool EditFieldAffDu_KeyDown(const std::string& key);
+    bool EditFieldAffAu_KeyDown(const std::string& key);
+    bool EditFieldChercher_KeyDown(const std::string& key);
+    void EditFieldChercher_LostFocus();
+    bool TxtAreaListeNbres1ers_KeyDown(const std::string& key);
+    void PushButtonCalcPrems_Action();
+    void PushButtonFichier_Action();
 
 private:
     void ButtCalcPremsFin();
@@ -87,12 +98,14 @@ private:
     std::string Shown(std::uint64_t value) const;
     void ShowRanks(std::int64_t debut, std::int64_t fin);
     std::string ListText(std::int32_t debut, std::int32_t fin) const;
-    void OpenBoundFile(bool fichDispo);
-    std::optional<FolderItem> ChooseAndLoad();
-    std::optional<FolderItem> ChooseAndSave();
-    bool CanBeKept(const FolderItem& item);
-    void AskToKeepFile();
-    std::string TextOfUnkeptPrimes();
+    bool ChooseAndLoad();
+
+    PrimeFileBinding& primeFile_;
+    const PrimeTable& table_;
+    Calculation& calculation_;
+    Quitting& quitting_;
+    const CheckBox& grouped_;
+    BevelButton& listButton_;
 
     // The ranks in the list, counted from 0; what the two fields say may be typed since.
     std::int32_t debut_ = 0;

@@ -1,9 +1,8 @@
 #include "ui/Fncts.h"
 
-#include "app/Program.h"
-#include "app/SafeAddress.h"
 #include "app/Version.h"
 #include "platform/Announcer.h"
+#include "platform/Application.h"
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
 #include "platform/EventLoop.h"
@@ -12,6 +11,7 @@
 #include "platform/Text.h"
 #include "ui/FracTexte.h"
 #include "ui/Localisation.h"
+#include "ui/SafeAddress.h"
 
 namespace tessarolyne {
 
@@ -22,12 +22,12 @@ constexpr int ticksBetweenBeeps = 10;
 } // namespace
 
 void Fncts::Beep() {
-    program_.services.sounds.Beep();
+    services_.sounds.Beep();
 }
 
 void Fncts::Announce(const std::string& texte) {
-    if (program_.app.Annonces && !texte.empty()) {
-        program_.services.announcer.Say(texte);
+    if (Annonces && !texte.empty()) {
+        services_.announcer.Say(texte);
     }
 }
 
@@ -44,28 +44,28 @@ void Fncts::Pause(int ticks, bool doEvents) {
     if (doEvents) {
         MsgBox("Error ! Please contact the authors, Fncts - Pause should no longer use App.DoEvents !");
     }
-    Clock& clock = program_.services.clock;
+    Clock& clock = services_.clock;
     const std::int64_t end = clock.Ticks() + ticks;
-    program_.services.loop.WaitUntil([&] { return clock.Ticks() >= end; });
+    services_.loop.WaitUntil([&] { return clock.Ticks() >= end; });
 }
 
 void Fncts::PlayT(Sound& son, bool attendre) {
     Sound clone = son.Clone();
     Sound& played = son.IsPlaying() ? clone : son;
-    played.Play(program_.services.sounds);
+    played.Play(services_.sounds);
     if (attendre) {
-        program_.services.loop.WaitUntil([&] { return !played.IsPlaying(); });
+        services_.loop.WaitUntil([&] { return !played.IsPlaying(); });
     }
 }
 
 void Fncts::PressPapTxt(const std::string& texte) {
-    program_.services.desktop.SetClipboardText(ReplaceLineEndings(texte, endOfLine));
+    services_.desktop.SetClipboardText(ReplaceLineEndings(texte, endOfLine));
 }
 
 void Fncts::ShowURL(const std::string& adresse) {
     const auto show = [this, adresse] { MsgBox(adresse); };
     if (IsSafeAddress(adresse)) {
-        program_.services.desktop.OpenAddress(adresse, show);
+        services_.desktop.OpenAddress(adresse, show);
     } else {
         show();
     }

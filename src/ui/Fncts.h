@@ -9,8 +9,9 @@
 
 namespace tessarolyne {
 
-class Program;
+class Application;
 struct FileDialog;
+struct Services;
 class Window;
 
 // What the buttons of a message say when the pointer rests on them; empty for nothing.
@@ -24,7 +25,7 @@ struct DialogHelpTags {
 // clipboard, and the freezing of commands while something else goes on.
 class Fncts {
 public:
-    explicit Fncts(Program& program) : program_(program) {}
+    Fncts(Application& app, Services& services) : app_(app), services_(services) {}
 
     // Commands may be used: no calculation, dialog, load or save is under way.
     bool DrapMenu = false;
@@ -33,10 +34,8 @@ public:
     std::atomic<bool> ArretUrg = false;
     // One of the dialogs below is up.
     bool DrapDiagBox = false;
-    // The update check reports every outcome, not only a new version.
-    bool AlertVerAjour = false;
-    // The update check's result until it has been dealt with.
-    std::string TexteVerMaJ;
+    // Results are announced to screen readers.
+    bool Annonces = true;
     // The encoding of all text files that the program reads and writes.
     std::string DefAppEncod;
 
@@ -53,12 +52,6 @@ public:
     // Hands an address to the desktop without waiting. One that isn't safe to hand on, or that nothing takes,
     // is shown to the user instead, to copy or not.
     void ShowURL(const std::string& adresse);
-
-    // Deals with what the update check fetched into TexteVerMaJ: tells the user what is to be told, in the
-    // texts and captions that are handed in. True: the program is busy, nothing was done, call again later.
-    bool VrfVerMaJ(const std::string& shortVersion, const std::string& txtAJour, const std::string& txtNouv,
-        const std::string& txtImpo, const std::string& btnOk, const std::string& btnHistoric,
-        const std::string& btnSiteWeb, const std::string& btnFermer);
 
     // Choosers of an existing file, and of a file to save. They begin in `depart` if it is a folder, else in
     // its parent, else in the user's documents; a save suggests the name of a `depart` that is no folder,
@@ -117,7 +110,8 @@ private:
     std::optional<FolderItem> ChooseItem(
         FileDialog dialog, const std::optional<FolderItem>& depart, Window* fenetre, bool toSave);
 
-    Program& program_;
+    Application& app_;
+    Services& services_;
     bool calculationHoldsMenu_ = false;
 };
 

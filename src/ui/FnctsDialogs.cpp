@@ -1,6 +1,7 @@
 #include "ui/Fncts.h"
 
-#include "app/Program.h"
+#include "platform/Application.h"
+
 #include "platform/Dialogs.h"
 #include "platform/Services.h"
 #include "ui/FileItems.h"
@@ -14,15 +15,14 @@ namespace tessarolyne {
 class Fncts::DialogProtocol {
 public:
     explicit DialogProtocol(Fncts& fncts)
-        : fncts_(fncts), step_(fncts.program_.app, nullptr), found_(fncts.DrapMenu),
-          foundDialog_(fncts.DrapDiagBox) {
+        : fncts_(fncts), step_(fncts.app_, nullptr), found_(fncts.DrapMenu), foundDialog_(fncts.DrapDiagBox) {
         fncts_.DrapDiagBox = true;
-        fncts_.program_.app.MouseCursor = Cursor::Standard;
+        fncts_.app_.MouseCursor = Cursor::Standard;
         fncts_.DrapMenu = false;
     }
     ~DialogProtocol() {
         fncts_.RestoreDrapMenu(found_);
-        fncts_.program_.app.MouseCursor = Cursor::None;
+        fncts_.app_.MouseCursor = Cursor::None;
         fncts_.DrapDiagBox = foundDialog_; // a quit may ask over a file chooser
     }
     DialogProtocol(const DialogProtocol&) = delete;
@@ -67,7 +67,7 @@ int Fncts::MyDialogBox(const std::string& message, const std::string& explicatio
     dialog.alternateHelpTag = bulles.alternate;
     dialog.icon = icone;
     dialog.sheetOf = sheet ? fenetre : nullptr;
-    const DialogButton button = program_.services.dialogs.Ask(dialog);
+    const DialogButton button = services_.dialogs.Ask(dialog);
     if (sheet) {
         CtrlDsFenetrDiag(fenetre, false);
     }
@@ -105,7 +105,7 @@ std::optional<FolderItem> Fncts::ChooseItem(
     const bool sheet = CtrlDsFenetrDiag(fenetre, true);
     dialog.sheetOf = sheet ? fenetre : nullptr;
     if (!depart) {
-        dialog.initialFolder = SpecialFolder::Documents(program_.services.files);
+        dialog.initialFolder = SpecialFolder::Documents(services_.files);
     } else if (DossPasPack_f(*depart)) {
         dialog.initialFolder = depart;
     } else if (const auto parent = depart->Parent()) {
@@ -114,17 +114,17 @@ std::optional<FolderItem> Fncts::ChooseItem(
     } else {
         dialog.suggestedName.clear();
     }
-    Dialogs& dialogs = program_.services.dialogs;
+    Dialogs& dialogs = services_.dialogs;
     const auto chosen = toSave ? dialogs.ChooseTarget(dialog) : dialogs.ChooseFile(dialog);
     if (sheet) {
         CtrlDsFenetrDiag(fenetre, false);
     }
-    return chosen ? FolderItem::GetTrueFolderItem(program_.services.files, chosen->URLPath()) : std::nullopt;
+    return chosen ? FolderItem::GetTrueFolderItem(services_.files, chosen->URLPath()) : std::nullopt;
 }
 
 void Fncts::MsgBox(const std::string& texte) {
-    const Application::ModalStep step(program_.app, nullptr);
-    program_.services.dialogs.Tell(texte);
+    const Application::ModalStep step(app_, nullptr);
+    services_.dialogs.Tell(texte);
 }
 
 } // namespace tessarolyne

@@ -1,6 +1,7 @@
 #include "ui/Fncts.h"
 
-#include "app/Program.h"
+#include "platform/Application.h"
+
 #include "platform/Label.h"
 #include "platform/TextField.h"
 #include "ui/BlockingOverlay.h"
@@ -65,7 +66,7 @@ bool Fncts::CtrlDsFenetrDiag(Window* fenetre, bool montrer) {
     if (montrer && (fenetre == nullptr || !fenetre->Visible())) {
         return false;
     }
-    const auto windows = program_.app.Windows();
+    const auto windows = app_.Windows();
     for (auto place = windows.rbegin(); place != windows.rend(); ++place) {
         Window& window = **place;
         if (window.Visible() && &window != fenetre) {

@@ -1,6 +1,5 @@
 #include "ui/ProgramWindow.h"
 
-#include "app/Program.h"
 #include "platform/Services.h"
 
 #include <algorithm>
@@ -15,7 +14,7 @@ constexpr int smallestTop = 38;
 
 } // namespace
 
-ProgramWindow::ProgramWindow(Program& owner, std::string title, int width, int height, WindowFrame frame)
+ProgramWindow::ProgramWindow(Surroundings& owner, std::string title, int width, int height, WindowFrame frame)
     : Window(owner.app, std::move(title), width, height, frame), program(owner), app(owner.app),
       fncts(owner.fncts) {}
 

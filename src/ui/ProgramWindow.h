@@ -4,19 +4,18 @@
 #include "platform/Stage.h"
 #include "platform/Window.h"
 #include "ui/Fncts.h"
+#include "ui/Surroundings.h"
 
 #include <string>
 #include <vector>
 
 namespace tessarolyne {
 
-class Program;
-
-// What every window of the program has at hand: the program that it belongs to, and its two shared objects by
+// What every window of the program has at hand: its surroundings, and the two shared objects by
 // the names under which the handlers speak of them.
 class ProgramWindow : public Window {
 public:
-    ProgramWindow(Program& owner, std::string title, int width, int height, WindowFrame frame);
+    ProgramWindow(Surroundings& owner, std::string title, int width, int height, WindowFrame frame);
 
     // Whether the window can be put back to a place of an earlier run: it is whole on the first screen and
     // below a menu bar there, or whole on another screen that is still there.
@@ -29,7 +28,7 @@ protected:
     // What stays usable during a calculation, or has a rule of its own.
     std::vector<const Control*> AlwaysEnabled;
 
-    Program& program;
+    Surroundings& program;
     App& app;
     Fncts& fncts;
 };

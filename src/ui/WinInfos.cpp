@@ -1,6 +1,6 @@
 #include "ui/WinInfos.h"
 
-#include "app/Program.h"
+#include "app/App.h"
 #include "app/Version.h"
 #include "platform/Text.h"
 #include "ui/HelpTags.h"
@@ -32,15 +32,15 @@ bool IsInside(const Control& control, int x, int y) {
 
 } // namespace
 
-WinInfos::WinInfos(Program& owner)
+WinInfos::WinInfos(Surroundings& owner)
     : ModalWindow(owner, Localisation::Menu_AppleApropos(), 430, 480, AboutFrame()) {
     SetInitialState();
     ExplainControls(*this);
     BindLinks();
     PointAt(BevButtDon);
-    BevButtDon.Action = [this] { BevButtDon_Action(BevButtDon); };
-    BevButtDejDon.Action = [this] { BevButtDejDon_Action(BevButtDejDon); };
-    BoutonOk.Action = [this] { BoutonOk_Action(BoutonOk); };
+    BevButtDon.Action = [this] { BevButtDon_Action(); };
+    BevButtDejDon.Action = [this] { BevButtDejDon_Action(); };
+    BoutonOk.Action = [this] { FermeFentr(); };
 }
 
 void WinInfos::SetInitialState() {
@@ -142,18 +142,14 @@ void WinInfos::AskForDonation() {
 }
 
 // Marked as given before the page is opened, whatever the browser does.
-void WinInfos::BevButtDon_Action(BevelButton&) {
+void WinInfos::BevButtDon_Action() {
     app.DejaDonne = true;
     fncts.ShowURL(donationAddress);
     FermeFentr();
 }
 
-void WinInfos::BevButtDejDon_Action(BevelButton&) {
+void WinInfos::BevButtDejDon_Action() {
     app.DejaDonne = true;
-    FermeFentr();
-}
-
-void WinInfos::BoutonOk_Action(PushButton&) {
     FermeFentr();
 }
 

@@ -17,7 +17,7 @@ namespace tessarolyne {
 // as the donation prompt, with another text and one button more. Nothing depends on a donation.
 class WinInfos final : public ModalWindow {
 public:
-    explicit WinInfos(Program& owner);
+    explicit WinInfos(Surroundings& owner);
 
     Canvas CanvIcon{*this, "CanvIcon", {20, 14, 64, 64}, lockLeftTop, NoTabStop(0)};
     Label StaticTextNomProg{*this, "StaticTextNomProg", {96, 22, 314, 22}, lockLeftTopRight, NoTabStop(1)};
@@ -48,9 +48,8 @@ public:
 
     void Event_Open() override;
     bool Event_CancelClose(bool appQuitting) override;
-    void BevButtDon_Action(BevelButton& bouton);
-    void BevButtDejDon_Action(BevelButton& bouton);
-    void BoutonOk_Action(PushButton& bouton);
+    void BevButtDon_Action();
+    void BevButtDejDon_Action();
 
 private:
     static constexpr Locks lockLeftBottomRight{true, false, true, true};

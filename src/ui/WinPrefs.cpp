@@ -1,8 +1,7 @@
 #include "ui/WinPrefs.h"
 
-#include "app/Program.h"
+#include "app/App.h"
 #include "app/Version.h"
-#include "conversion/WinMain.h"
 #include "platform/Services.h"
 #include "platform/Stage.h"
 #include "ui/HelpTags.h"
@@ -25,8 +24,9 @@ WindowFrame PreferencesFrame() {
 
 } // namespace
 
-WinPrefs::WinPrefs(Program& owner)
-    : ModalWindow(owner, Localisation::WinPref_Title(), 400, 99, PreferencesFrame()) {
+WinPrefs::WinPrefs(Surroundings& owner, const Window& mainWindow)
+    : ModalWindow(owner, Localisation::WinPref_Title(), 400, 99, PreferencesFrame()),
+      mainWindow_(mainWindow) {
     CheckBoxAutoUpdt.Caption = Localisation::Pref_ChBoxAutoUpdt();
     CheckBoxAutoUpdt.AltKey = Localisation::Alt_Pref_ChBoxAutoUpdt();
     if (!offersUpdateCheck) {
@@ -39,37 +39,32 @@ WinPrefs::WinPrefs(Program& owner)
     PushButtAnnuler.Caption = Localisation::Btn_Annuler();
     PushButtAnnuler.AltKey = Localisation::Alt_Btn_Annuler();
     PushButtAnnuler.Cancel = true;
-    PushButtAnnuler.Action = [this] { PushButtAnnuler_Action(PushButtAnnuler); };
+    PushButtAnnuler.Action = [this] { EndModal(); };
     PushButtOk.Caption = Localisation::Btn_Ok();
     PushButtOk.AltKey = Localisation::Alt_Btn_Ok();
     PushButtOk.Default = true;
-    PushButtOk.Action = [this] { PushButtOk_Action(PushButtOk); };
+    PushButtOk.Action = [this] { PushButtOk_Action(); };
 }
 
 // On a screen narrower than the window its right edge stays in sight.
 void WinPrefs::Event_Open() {
     LabBlockUI.Open();
     Fncts::DecPosCtrl(*this);
-    const WinMain& main = program.winMain();
-    const int centred = main.Left() + (main.Width() - Width()) / 2;
-    Top = main.Top() + belowMainWindowsTop;
+    const int centred = mainWindow_.Left() + (mainWindow_.Width() - Width()) / 2;
+    Top = mainWindow_.Top() + belowMainWindowsTop;
     Left = std::min(std::max(centred, 0), program.services.stage.Screen().Width - Width());
     OpenModal();
     CheckBoxAutoUpdt.Value = app.AutoCheckUpdt;
-    CheckBoxAnnonces.Value = app.Annonces;
+    CheckBoxAnnonces.Value = fncts.Annonces;
 }
 
 bool WinPrefs::Event_CancelClose(bool) {
     return RefuseClose();
 }
 
-void WinPrefs::PushButtOk_Action(PushButton&) {
+void WinPrefs::PushButtOk_Action() {
     app.AutoCheckUpdt = CheckBoxAutoUpdt.Value;
-    app.Annonces = CheckBoxAnnonces.Value;
-    EndModal();
-}
-
-void WinPrefs::PushButtAnnuler_Action(PushButton&) {
+    fncts.Annonces = CheckBoxAnnonces.Value;
     EndModal();
 }
 

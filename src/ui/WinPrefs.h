@@ -12,7 +12,8 @@ namespace tessarolyne {
 // show.
 class WinPrefs final : public ModalWindow {
 public:
-    explicit WinPrefs(Program& owner);
+    // It comes up over the main window.
+    WinPrefs(Surroundings& owner, const Window& mainWindow);
 
     CheckBox CheckBoxAutoUpdt{*this, "CheckBoxAutoUpdt", {20, 14, 360, 20}, lockLeftTop, TabStop(0)};
     CheckBox CheckBoxAnnonces{*this, "CheckBoxAnnonces", {20, 36, 360, 20}, lockLeftTop, TabStop(1)};
@@ -22,8 +23,10 @@ public:
 
     void Event_Open() override;
     bool Event_CancelClose(bool appQuitting) override;
-    void PushButtOk_Action(PushButton& bouton);
-    void PushButtAnnuler_Action(PushButton& bouton);
+    void PushButtOk_Action();
+
+private:
+    const Window& mainWindow_;
 };
 
 } // namespace tessarolyne

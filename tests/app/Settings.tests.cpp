@@ -19,8 +19,8 @@ TEST_CASE("Every setting comes from its line of the file, and goes back to it") 
     world.files.AddFile("/home/user/primes.txt", "2\t3\t5\t7\t11\n");
     world.program->Start();
     WinMain& window = world.Main();
-    CHECK(window.Nbres_Premiers.Back() == 11);
-    CHECK((world.program->app.AutoCheckUpdt && !world.program->app.Annonces));
+    CHECK(window.primeFile.Nbres_Premiers.Back() == 11);
+    CHECK((world.program->app.AutoCheckUpdt && !world.program->fncts.Annonces));
     CHECK(std::pair(window.Left(), window.Top()) == std::pair(300, 200));
     CHECK((window.CheckBoxMajusc.Value() && window.CheckBoxTrUnion.Value()));
     CHECK_FALSE(window.CheckBoxFormatAuto.Value());

@@ -25,7 +25,7 @@ TEST_CASE("A second after typing stops, the output that the user went to last is
     world.Type(window.EditFieldNbre, "1.5");
     world.loop.Advance(1000);
     CHECK(world.announcer.said.back() == "#Erreur Nbre !");
-    world.program->app.Annonces = false;
+    world.program->fncts.Annonces = false;
     world.Type(window.EditFieldNbre, "7");
     world.loop.Advance(5000);
     CHECK(world.announcer.said.size() == 3);

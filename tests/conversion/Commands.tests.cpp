@@ -19,7 +19,7 @@ TEST_CASE("A calculation disables what could disturb it and nothing else, shortc
             controls.begin(), controls.end(), [](const Control* control) { return !control->Enabled(); });
     };
     for (const bool running : {true, false, true}) {
-        world.program->fncts.DrapMenu = !running;
+        world.program->fncts.HoldMenuForCalculation(running);
         window.EnableMenuBoutons();
         CHECK(disabled(window) == (running ? 21 : 1)); // the button for factors is off at rest
         CHECK(disabled(world.program->winNbresPremiers()) == (running ? 7 : 0));
@@ -35,7 +35,7 @@ TEST_CASE("A calculation disables what could disturb it and nothing else, shortc
     }
     CHECK(world.http.requests.empty());
     menus.Find("FichierQuitter")->UserChose(world.program->app);
-    CHECK(window.TimerQuit.Mode == 1);
+    CHECK(window.quitting.IsUnderWay());
 }
 
 TEST_CASE("Shortcuts copy in the order of sight, and a field's menu offers its number in other forms") {

@@ -208,7 +208,6 @@ TEST_CASE("Up and Down go through the numbers of this run in both fields, and ba
     CHECK(steps(digits, "^^vvv") == "FF FF 1234 A A"); // no cents in a base
     window.EditFieldNbre.UserFocused();
     CHECK(steps(decimal, "^^^^") == "4660 12.50 255 255");
-    CHECK(window.DrapTimerNbre);
     decimal.UserTyped("7");
     CHECK(steps(decimal, "^") == "10"); // where Up began is a number too
     CHECK(steps(decimal, "v") == "2557");
@@ -235,5 +234,7 @@ TEST_CASE(
     CHECK(window.EditFieldBaseOrg.Text() == errNbre);
     CHECK(window.EditFieldNbre.Text() == "12.50");
     CHECK(window.TxtAreaLettres.Text() == "douze euros cinquante centimes");
-    CHECK(window.TimerTempo.Mode == 0);
+    window.EditFieldBaseOrg.Text = "";
+    world.loop.Advance(100);
+    CHECK(window.EditFieldBaseOrg.Text().empty());
 }

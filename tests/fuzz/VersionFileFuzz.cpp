@@ -1,9 +1,9 @@
 // Any bytes whatever as what the update check fetched: what is read is what a slow and obvious reading finds,
 // doesn't depend on the kind of line ending, and no address passes that could lead elsewhere than it says.
-#include "app/SafeAddress.h"
 #include "app/VersionFile.h"
 #include "fuzz/Must.h"
 #include "platform/Text.h"
+#include "ui/SafeAddress.h"
 
 #include <algorithm>
 #include <vector>

@@ -35,7 +35,7 @@ TEST_CASE("A number at or above the table's last prime is factored on the spot, 
     for (int again = 0; again < 2; ++again) {
         window.decomposition.DecompPremDeb(false);
         CHECK(window.TxtAreaDecomp1er.Text() == "11");
-        CHECK(window.Nbres_Premiers.Back() == 11);
+        CHECK(window.primeFile.Nbres_Premiers.Back() == 11);
         CHECK(!window.calculation.IsOnThread());
     }
     CHECK(window.calculation.TicksFinCalc == world.loop.Ticks() + 30); // half a second

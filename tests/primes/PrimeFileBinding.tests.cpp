@@ -55,7 +55,7 @@ TEST_CASE("The binding, Option and Shift decide what a click does") {
               (load ? Localisation::Txt_SelectFichierNbPrem() : Localisation::Txt_SelectDossSauv()));
         CHECK(world.Bound() == world.files.At(chosen));
         CHECK(world.Caption() == "Changer Fichier");
-        CHECK(world.Main().Nbres_Premiers.Back() == (load ? 13 : 7));
+        CHECK(world.Main().primeFile.Nbres_Premiers.Back() == (load ? 13 : 7));
         CHECK(world.files.entries.at(chosen).content.starts_with(load ? "2\t3" : "Nombre de"));
     }
 }
@@ -75,7 +75,7 @@ TEST_CASE("A cancelled chooser asks what becomes of a bound file, and is silent 
         world.Click(false, false, std::nullopt);
         CHECK(world.Bound().has_value() == (answer != DialogButton::Cancel));
         CHECK(world.Caption() == (answer == DialogButton::Cancel ? "Sauver Fichier" : "Changer Fichier"));
-        CHECK(world.Main().Nbres_Premiers.Back() == 7);
+        CHECK(world.Main().primeFile.Nbres_Premiers.Back() == 7);
     }
 }
 

@@ -82,7 +82,7 @@ TEST_CASE(
         world.dialogs.Expect(DialogButton::Action);
         list.UserClosed();
         world.loop.Advance(1);
-        CHECK(world.Main().NbreNbPparLigne == 10);
+        CHECK(world.Main().primeFile.NbreNbPparLigne == 10);
         CHECK(world.program->app.WinNBP[0] == 120);
     }
 }
@@ -98,9 +98,9 @@ TEST_CASE("A stopped run leaves the list as it was and the last prime in the fie
     open.world.Settle();
     WinMain& window = open.world.Main();
     CHECK(list.TxtAreaListeNbres1ers.Text() == "\t2\t3\t5\t7");
-    CHECK(list.EditFieldFin.Text() == std::to_string(window.Nbres_Premiers.Back()));
+    CHECK(list.EditFieldFin.Text() == std::to_string(window.primeFile.Nbres_Premiers.Back()));
     CHECK(open.world.program->fncts.DrapMenu);
-    CHECK(list.Ind_DerPrem == window.Nbres_Premiers.UpperBound());
+    CHECK(list.Ind_DerPrem == window.primeFile.Nbres_Premiers.UpperBound());
 }
 
 TEST_CASE(

@@ -34,7 +34,7 @@ TEST_CASE("Runs that are stopped at any moment leave the table as one that grew 
     TestWorld world;
     world.memory.available = std::uint64_t{1} << 40; // a long way to where the runs are sent
     WinMain& window = world.Main();
-    PrimeTable& table = window.Nbres_Premiers;
+    PrimeTable& table = window.primeFile.Nbres_Premiers;
     window.BevelButtonListe.UserPressed();
     WinNbresPremiers& list = world.program->winNbresPremiers();
     std::mt19937 random(1);

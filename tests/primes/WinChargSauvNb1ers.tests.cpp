@@ -31,7 +31,7 @@ struct Bound : TestWorld {
     void Save(LinkPolicy links = LinkPolicy::ReplaceTarget) {
         program->winChargSauvNb1ers().SaveNb1ers(links);
     }
-    Numbers Table() { return NumbersOf(Main().Nbres_Premiers); }
+    Numbers Table() { return NumbersOf(Main().primeFile.Nbres_Premiers); }
     std::string Content() { return files.entries[path].content; }
     std::string LastMessage() { return dialogs.asked.empty() ? "" : dialogs.asked.back().message; }
 };
@@ -81,7 +81,7 @@ TEST_CASE("A file of primes becomes the table; any other leaves it, and is named
         }
         world.Load();
         CHECK(world.Table() == file.numbers);
-        CHECK(world.Main().Nb_NbrePcharg == file.known);
+        CHECK(world.Main().primeFile.Nb_NbrePcharg == file.known);
         CHECK(world.program->app.FichNbPrems.has_value() == file.staysBound);
         CHECK(world.Content() == file.content);
         CHECK(world.LastMessage() == (file.answers.empty() ? "" : noPrimes));
@@ -115,7 +115,7 @@ TEST_CASE(
     for (const int way : {0, 1, 2, 3, 4}) {
         CAPTURE(way);
         Bound atStart("2\t3\t5\t7\t11\n");
-        atStart.Main().Nbres_Premiers.Clear();
+        atStart.Main().primeFile.Nbres_Premiers.Clear();
         fail(atStart, way);
         CHECK(atStart.Table() == firstFour);
         CHECK(atStart.program->app.FichNbPrems.has_value());
@@ -194,13 +194,13 @@ TEST_CASE("A save writes the table in the user's line length, to a link's target
         const std::string far = "/home/user/far.txt";
         world.files.AddFile(far);
         world.files.AddLink(path, far);
-        world.Main().NbreNbPparLigne = 4;
+        world.Main().primeFile.NbreNbPparLigne = 4;
         world.Save(links);
         const bool stays = links == LinkPolicy::ReplaceTarget;
         CHECK(world.files.entries[stays ? far : path].content ==
               "Nombre de Nombres Premiers : 6\n2\t3\t5\t7\n11\t13\n");
         CHECK((world.files.entries[path].kind == FileKind::Link) == stays);
-        CHECK(world.Main().Nb_NbrePcharg == 6);
+        CHECK(world.Main().primeFile.Nb_NbrePcharg == 6);
     }
 }
 
@@ -228,13 +228,13 @@ TEST_CASE("A file that changed since it was seen is replaced only if nothing is 
         file.isQuiet ? world.program->EndWithoutAsking() : world.Save();
         CHECK(world.LastMessage() == file.message);
         CHECK(world.Content() == file.content);
-        CHECK((world.Main().Nb_NbrePcharg == 6 || file.isQuiet));
+        CHECK((world.Main().primeFile.Nb_NbrePcharg == 6 || file.isQuiet));
     }
     Bound own("2\t3\t5\t7\n"); // what was saved is seen, too
     own.Load();
     own.Main().calculation.NbresPremCalc(13, false);
     own.Save();
-    own.Main().Nbres_Premiers.Clear();
+    own.Main().primeFile.Nbres_Premiers.Clear();
     own.Save();
     CHECK(own.Content() == "Nombre de Nombres Premiers : 0\n");
 }
@@ -253,7 +253,7 @@ TEST_CASE("A failed save says so with three beeps and leaves table and file as t
         CHECK(world.dialogs.asked.back().icon == 1);
         CHECK(world.sounds.beeps == (beeps += 3));
         CHECK(world.Table() == found);
-        CHECK(world.Main().Nb_NbrePcharg == 6);
+        CHECK(world.Main().primeFile.Nb_NbrePcharg == 6);
         CHECK(world.program->fncts.DrapMenu);
     }
     CHECK(world.Content() == "2\t3\t5\t7\n");

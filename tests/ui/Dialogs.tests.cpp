@@ -74,14 +74,14 @@ TEST_CASE("An empty table, as a load without memory leaves it, is listed as such
     TestWorld world;
     WinMain& window = world.Main();
     WinNbresPremiers& list = world.program->winNbresPremiers();
-    window.Nbres_Premiers.Clear();
+    window.primeFile.Nbres_Premiers.Clear();
     list.FaireListe(true, false);
     CHECK(list.TxtAreaListeNbres1ers.Text().empty());
     list.EditFieldFin.Text = "11";
     list.PushButtonCalcPrems.UserPressed();
     world.Settle();
     CHECK(list.TxtAreaListeNbres1ers.Text() == "\t2\t3\t5\t7\t11");
-    window.Nbres_Premiers.Clear();
+    window.primeFile.Nbres_Premiers.Clear();
     world.Type(window.EditFieldNbre, "91");
     CHECK(window.TxtAreaDecomp1er.Text() == "7 x 13");
 }
@@ -131,7 +131,7 @@ TEST_CASE("A chooser begins where its item stands, and suggests what fits it") {
 TEST_CASE("Two routes of a conversion that disagree are reported, once until others do") {
     TestWorld world;
     const auto disagree = [&](const char* fromSource) {
-        world.Main().ReportConversionMismatch("101", 2, fromSource, 16);
+        world.Main().entry.ReportConversionMismatch("101", 2, fromSource, 16);
     };
     for (const char* fromSource : {"11", "10"}) {
         world.dialogs.Expect(DialogButton::Action);

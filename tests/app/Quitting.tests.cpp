@@ -18,7 +18,7 @@ const std::string primes = "/home/user/primes.txt";
 void BindFileWithNewPrimes(TestWorld& world) {
     world.files.AddFile(primes, "2\t3\t5\t7\n");
     world.program->app.FichNbPrems = world.files.At(primes);
-    world.Main().Nb_NbrePcharg = 4;
+    world.Main().primeFile.Nb_NbrePcharg = 4;
     world.Main().calculation.NbresPremCalc(10000, false);
 }
 
@@ -55,7 +55,7 @@ TEST_CASE("New primes are offered to a bound file: save, drop, or stay") {
         quits ? world.Main().UserClosed() : world.program->app.RequestQuit();
         CHECK(Ended(world) == quits);
         CHECK(world.program->fncts.DrapMenu == !quits);
-        CHECK((quits || world.Main().TimerQuit.Mode == 0));
+        CHECK((quits || !world.Main().quitting.IsUnderWay()));
         const std::string& after = world.files.entries.at(primes).content;
         CHECK(
             (answer == DialogButton::Action ? after.starts_with("Nombre de Nombres Premiers : 1229\n2\t3\t5")
@@ -71,10 +71,10 @@ TEST_CASE("A change of the number under a quit that is then refused is dealt wit
     WinMain& window = world.Main();
     window.EditFieldNbre.UserFocused();
     window.EditFieldNbre.UserTyped("255");
-    window.TimerQuit.Period = 30; // the recalculation comes due first, and is put off
-    world.program->app.RequestQuit();
+    world.loop.Advance(15);
+    world.program->app.RequestQuit(); // the recalculation comes due first, and is put off
     world.dialogs.Expect(DialogButton::Alternate);
-    world.loop.Advance(31);
+    world.loop.Advance(15);
     CHECK(window.EditFieldBaseOrg.Text().empty());
     world.Settle();
     CHECK(window.EditFieldBaseOrg.Text() == "FF");
@@ -128,7 +128,7 @@ TEST_CASE(
             } else if (way == 2) {
                 world.program->app.RequestQuit();
             } else {
-                window.TimerQuit.Mode = 1; // a quit that waits for the calculation
+                window.quitting.Ask(); // a quit that waits for the calculation
                 list.UserClosed();
             }
             CHECK_FALSE(world.program->fncts.ArretUrg);

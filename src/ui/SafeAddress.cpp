@@ -1,4 +1,4 @@
-#include "app/SafeAddress.h"
+#include "ui/SafeAddress.h"
 
 #include "platform/Ascii.h"
 

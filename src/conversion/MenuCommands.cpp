@@ -1,9 +1,10 @@
-// The menu's commands that lead to the small windows and to pages on the web.
+// The menu's commands: the prime file, the small windows, pages on the web.
 
-#include "app/Program.h"
+#include "app/App.h"
 #include "app/Version.h"
 #include "conversion/WinMain.h"
 #include "platform/MenuBar.h"
+#include "primes/WinNbresPremiers.h"
 #include "ui/Localisation.h"
 #include "ui/WinInfos.h"
 #include "ui/WinPrefs.h"
@@ -13,9 +14,11 @@
 
 namespace tessarolyne {
 
-void WinMain::AddHelpMenuHandlers() {
+void WinMain::AddMenuHandlers() {
     using Handler = bool (WinMain::*)();
-    constexpr std::array<std::pair<const char*, Handler>, 5> handlers = {{
+    constexpr std::array<std::pair<const char*, Handler>, 7> handlers = {{
+        {"FichChoixFichNbP", &WinMain::FichChoixFichNbP_Action},
+        {"FichSauvFichNbP", &WinMain::FichSauvFichNbP_Action},
         {"AppleAPropos", &WinMain::AppleAPropos_Action},
         {"AideAide", &WinMain::AideAide_Action},
         {"AppleVMaJ", &WinMain::AppleVMaJ_Action},
@@ -32,6 +35,35 @@ void WinMain::AddHelpMenuHandlers() {
 bool WinMain::MenuItemIsEnabled(const char* name) const {
     const MenuItem* item = app.GetMenuBar()->Find(name);
     return item != nullptr && item->Enabled();
+}
+
+bool WinMain::FichChoixFichNbP_Action() {
+    if (MenuItemIsEnabled("FichChoixFichNbP")) {
+        WinNbresPremiers& list = program.winNbresPremiers();
+        if (!BevelButtonListe.Value) {
+            list.Show();
+        }
+        list.Btn_Fich(true, false, false);
+    }
+    return true;
+}
+
+bool WinMain::FichSauvFichNbP_Action() {
+    if (MenuItemIsEnabled("FichSauvFichNbP")) {
+        WinNbresPremiers& list = program.winNbresPremiers();
+        if (!BevelButtonListe.Value) {
+            list.Show();
+        }
+        list.Btn_Fich(false, false, false);
+    }
+    return true;
+}
+
+bool WinMain::AppleVMaJ_Action() {
+    if (MenuItemIsEnabled("AppleVMaJ")) {
+        updateCheck.Start();
+    }
+    return true;
 }
 
 bool WinMain::AppleAPropos_Action() {

@@ -1,0 +1,168 @@
+#include "app/Quitting.h"
+
+#include "app/App.h"
+#include "conversion/NumberEntry.h"
+#include "platform/BevelButton.h"
+#include "platform/EventLoop.h"
+#include "platform/Numbers.h"
+#include "platform/Services.h"
+#include "primes/Calculation.h"
+#include "primes/PrimeFileBinding.h"
+#include "primes/WinChargSauvNb1ers.h"
+#include "primes/WinNbresPremiers.h"
+#include "ui/FileItems.h"
+#include "ui/Localisation.h"
+#include "ui/NumberFormat.h"
+#include "ui/Surroundings.h"
+
+namespace tessarolyne {
+
+namespace {
+
+constexpr int quitPeriod = 10; // milliseconds
+
+} // namespace
+
+Quitting::Quitting(Window& mainWindow, Surroundings& surroundings, Calculation& calculation,
+    NumberEntry& entry, PrimeFileBinding& primeFile, const BevelButton& BevelButtonListe)
+    : mainWindow_(mainWindow), surroundings_(surroundings), app_(surroundings.app),
+      fncts_(surroundings.fncts), calculation_(calculation), entry_(entry), primeFile_(primeFile),
+      bevelButtonListe_(BevelButtonListe), timerQuit_(surroundings.services.loop, quitPeriod) {
+    timerQuit_.Action = [this] { TimerQuit_Action(); };
+}
+
+bool Quitting::IsUnderWay() const {
+    return app_.DrapOkQuit || timerQuit_.Mode != 0;
+}
+
+bool Quitting::CancelClose(bool appQuitting) {
+    if (app_.DrapOkQuit) {
+        if (!appQuitting) {
+            fncts_.ReportFault("The application should be quitting!");
+        }
+        return false;
+    }
+    if (appQuitting) {
+        timerQuit_.Mode = 1; // turns the request into a close of this window
+        return true;
+    }
+    if (calculation_.CalculEnCours()) {
+        AskToStopCalculation();
+        return true;
+    }
+    if (!fncts_.DrapMenu || questionIsUp_) {
+        fncts_.Beep();
+        return true;
+    }
+    bool enregistrer = false;
+    if (app_.initProg && AskAboutNewPrimes(enregistrer)) {
+        StayOpen();
+    } else {
+        DecideClose(enregistrer);
+    }
+    return true;
+}
+
+// A question about quitting. However often a quit is asked for, one of them is up at a time.
+int Quitting::AskOnTheWayOut(const std::string& message, const std::string& explanation,
+    const std::string& action, const std::string& cancel, const std::string& alternate, int icon) {
+    fncts_.Beep();
+    questionIsUp_ = true;
+    const int answer = fncts_.MyDialogBox(message, explanation, action, cancel, alternate, icon, nullptr);
+    questionIsUp_ = false;
+    return answer;
+}
+
+// What a quit that is declined leaves: none under way, and a change of the number that it had put off is due.
+void Quitting::StayOpen() {
+    timerQuit_.Mode = 0;
+    entry_.GoOn();
+}
+
+// On the answer that stops the calculation, TimerQuit waits for its end.
+void Quitting::AskToStopCalculation() {
+    if (questionIsUp_) {
+        fncts_.Beep();
+        return;
+    }
+    const int answer = AskOnTheWayOut(Localisation::Txt_CalculEnCours(), "", Localisation::Btn_StopEtQuit(),
+        Localisation::Btn_NePasQuit(), "", 1);
+    if (answer != 1) {
+        StayOpen();
+        return;
+    }
+    entry_.PutOff();
+    calculation_.Stop();
+    fncts_.PlayT(fncts_.Zoum, true);
+    timerQuit_.Mode = 1;
+}
+
+// True if the user would rather not quit. No answer, because the program is being ended, decides nothing.
+bool Quitting::AskAboutNewPrimes(bool& enregistrer) {
+    const std::int32_t Nb1ersEnPlus = primeFile_.NewPrimes();
+    if (Nb1ersEnPlus < 0) {
+        fncts_.ReportFault("WinMain.Close, Nb1ersEnPlus = " + Str(Nb1ersEnPlus));
+        return false;
+    }
+    if (Nb1ersEnPlus == 0 || !PasNil_Existe_Alias(app_.FichNbPrems, true)) {
+        return false;
+    }
+    const std::string question = Localisation::Txt_IlYaNouvNbPrem();
+    const std::string count = FormatWhole(static_cast<std::uint64_t>(Nb1ersEnPlus), true);
+    const int answer = AskOnTheWayOut(fncts_.FracTexte(question, 1) + count + fncts_.FracTexte(question, 2),
+        primeFile_.PrimeFile.isForeign ? Localisation::Txt_CeciEffSonCont() : "", Localisation::Btn_Enreg(),
+        Localisation::Btn_NePasEnreg(), Localisation::Btn_NePasQuit(), 0);
+    enregistrer = answer == 1;
+    return answer != 1 && answer != 2;
+}
+
+// All is answered: saves, and leaves the end itself to TimerQuit, so that all of this runs first.
+void Quitting::DecideClose(bool enregistrer) {
+    app_.DrapOkQuit = true;
+    const bool listeVisible = bevelButtonListe_.Value;
+    if (listeVisible) {
+        surroundings_.winNbresPremiers().Close();
+    }
+    if (app_.initProg) {
+        app_.PrefsSauver(listeVisible);
+    }
+    if (enregistrer) {
+        surroundings_.winChargSauvNb1ers().SaveNb1ers();
+    }
+    fncts_.DrapMenu = false;
+    timerQuit_.Mode = 1;
+}
+
+void Quitting::TimerQuit_Action() {
+    if (app_.DrapOkQuit) {
+        app_.Quit(0);
+    } else if (calculation_.CalculEnCours() || surroundings_.HasWinChargSauvNb1ers()) {
+        timerQuit_.Mode = 1;
+        timerQuit_.Reset();
+    } else {
+        const bool found = fncts_.DrapMenu; // low under a modal window, which a quit goes through
+        fncts_.DrapMenu = true;
+        mainWindow_.Close();
+        if (!app_.DrapOkQuit) {
+            fncts_.RestoreDrapMenu(found || !app_.HasModalStep());
+        }
+    }
+}
+
+void Quitting::SaveWithoutAsking() {
+    if (!startIsOver_ || app_.DrapOkQuit) {
+        return; // nothing to save yet, or saved already
+    }
+    app_.DrapOkQuit = true;
+    const bool listeVisible = bevelButtonListe_.Value;
+    surroundings_.services.loop.WaitUntil([this] { return !calculation_.IsOnThread(); });
+    if (listeVisible) {
+        surroundings_.winNbresPremiers().KeepSettings();
+    }
+    app_.SavePreferencesQuietly(listeVisible);
+    if (!surroundings_.HasWinChargSauvNb1ers()) {
+        primeFile_.SaveQuietly();
+    }
+}
+
+} // namespace tessarolyne

@@ -1,0 +1,57 @@
+#pragma once
+
+#include "platform/Timer.h"
+
+#include <string>
+
+namespace tessarolyne {
+
+class App;
+class BevelButton;
+class Calculation;
+class Fncts;
+class NumberEntry;
+class PrimeFileBinding;
+class Surroundings;
+class Window;
+
+// The way out: a close can't finish at once, since a calculation may run and questions may have to be asked.
+class Quitting {
+public:
+    Quitting(Window& mainWindow, Surroundings& surroundings, Calculation& calculation, NumberEntry& entry,
+        PrimeFileBinding& primeFile, const BevelButton& BevelButtonListe);
+
+    // What the main window answers to its close; always true until all is decided.
+    bool CancelClose(bool appQuitting);
+    // Asks whether to stop the running calculation and quit; on yes, TimerQuit waits for its end.
+    void AskToStopCalculation();
+    // Goes on with a request to quit as soon as nothing is in its way any more.
+    void Ask() { timerQuit_.Mode = 1; }
+    bool IsUnderWay() const;
+    // From now on there are settings to save.
+    void StartIsOver() { startIsOver_ = true; }
+    // What the signal or the session's end leaves time for: the settings, and new primes if a file is bound.
+    void SaveWithoutAsking();
+
+private:
+    int AskOnTheWayOut(const std::string& message, const std::string& explanation, const std::string& action,
+        const std::string& cancel, const std::string& alternate, int icon);
+    bool AskAboutNewPrimes(bool& enregistrer);
+    void StayOpen();
+    void DecideClose(bool enregistrer);
+    void TimerQuit_Action();
+
+    Window& mainWindow_;
+    Surroundings& surroundings_;
+    App& app_;
+    Fncts& fncts_;
+    Calculation& calculation_;
+    NumberEntry& entry_;
+    PrimeFileBinding& primeFile_;
+    const BevelButton& bevelButtonListe_;
+    Timer timerQuit_;
+    bool startIsOver_ = false; // unlike App.initProg it stays up
+    bool questionIsUp_ = false;
+};
+
+} // namespace tessarolyne

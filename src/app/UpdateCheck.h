@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/Event.h"
+#include "platform/Http.h"
+#include "platform/Timer.h"
+
+#include <string>
+
+namespace tessarolyne {
+
+class App;
+class Fncts;
+struct Services;
+
+// The look for a new version: the fetch, the hand-over from the socket's event to the main event loop, so
+// that no dialog ever opens inside the former, and what the user is told.
+class UpdateCheck {
+public:
+    UpdateCheck(App& app, Fncts& fncts, Services& services, std::string versionFile);
+
+    // The one that the start makes, once a day, if the user wants it; it speaks only of a new version.
+    void StartAutomatically();
+    // The one from the menu, which reports every outcome.
+    void Start();
+
+    Event<void(bool)> TakesTime; // turns the wheel
+
+private:
+    void Fetch();
+    void HasCome(std::string text);
+    void TimerVerMaJ_Action();
+    bool VrfVerMaJ();
+
+    App& app_;
+    Fncts& fncts_;
+    Services& services_;
+    const std::string versionFile_;
+    bool alertVerAjour_ = false; // every outcome is reported, not only a new version
+    std::string texteVerMaJ_;    // the result until it has been dealt with
+    int fetchesUnderWay_ = 0;
+    Timer slowCheck_; // until a check from the menu has to show that it is under way
+    Timer timerVerMaJ_;
+    HTTPSocket socketVerMaJ_;
+};
+
+} // namespace tessarolyne

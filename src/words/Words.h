@@ -1,0 +1,46 @@
+#pragma once
+
+#include "platform/Event.h"
+
+namespace tessarolyne {
+
+class App;
+class CheckBox;
+class Fncts;
+class NumberOutput;
+class PopupMenu;
+class TextField;
+
+// The controls of the main window that the words have to do with.
+struct WordsControls {
+    TextField& EditFieldNbre;
+    TextField& EditFieldMonnaies;
+    TextField& EditFieldMonnaie;
+    TextField& EditFieldCentimes;
+    TextField& EditFieldCentime;
+    CheckBox& CheckBoxMajusc;
+    CheckBox& CheckBoxTrUnion;
+    PopupMenu& PopupMenuLg;
+};
+
+// The amount in words: what the controls say goes to the spelling, and the text into the output.
+class Words : private WordsControls {
+public:
+    Words(const WordsControls& controls, NumberOutput& output, App& app, Fncts& fncts);
+
+    // Writes the amount in words.
+    void ConvNbreLettresD();
+    // Offers to put the language's own currency back.
+    void ResetCurrencies();
+
+    Event<void()> Recomputed; // after a change of the currency, the language or the form
+
+private:
+    void Recompute();
+
+    NumberOutput& output_;
+    App& app_;
+    Fncts& fncts_;
+};
+
+} // namespace tessarolyne
