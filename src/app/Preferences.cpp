@@ -1,11 +1,11 @@
 // The settings between two runs: from the preferences file into the properties and controls, and back.
 
-#include "app/App.h"
 #include "app/PreferencesFile.h"
 #include "conversion/WinMain.h"
 #include "platform/IOException.h"
 #include "platform/Services.h"
 #include "platform/Stage.h"
+#include "ui/App.h"
 #include "ui/FileItems.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"

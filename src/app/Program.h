@@ -1,6 +1,6 @@
 #pragma once
 
-#include "app/App.h"
+#include "ui/App.h"
 #include "ui/Fncts.h"
 #include "ui/Surroundings.h"
 

@@ -1,6 +1,5 @@
 #include "app/Quitting.h"
 
-#include "app/App.h"
 #include "conversion/NumberEntry.h"
 #include "platform/BevelButton.h"
 #include "platform/EventLoop.h"
@@ -10,6 +9,7 @@
 #include "primes/PrimeFileBinding.h"
 #include "primes/WinChargSauvNb1ers.h"
 #include "primes/WinNbresPremiers.h"
+#include "ui/App.h"
 #include "ui/FileItems.h"
 #include "ui/Localisation.h"
 #include "ui/NumberFormat.h"

@@ -1,7 +1,7 @@
 // Everything from the making of the main window until the event loop is idle.
 
-#include "app/App.h"
 #include "app/PreferencesFile.h"
+#include "app/Version.h"
 #include "conversion/WinMain.h"
 #include "platform/Clock.h"
 #include "platform/EventLoop.h"
@@ -10,8 +10,10 @@
 #include "platform/Text.h"
 #include "primes/WinChargSauvNb1ers.h"
 #include "primes/WinNbresPremiers.h"
+#include "ui/App.h"
 #include "ui/FileItems.h"
 #include "ui/Localisation.h"
+#include "ui/WinInfos.h"
 
 #include <set>
 
@@ -104,6 +106,24 @@ bool WinMain::FindPreferencesFolder() {
     fncts.DrapMenu = true;
     Close();
     return false;
+}
+
+// What the program says by itself, before the user may do anything.
+void WinMain::Welcome(bool premierLancement) {
+    if (premierLancement) {
+        fncts.MyDialogBox(
+            Localisation::Txt_SiVsVoulezConservNbPrem(), "", Localisation::Btn_Ok(), "", "", 0, nullptr);
+    } else if (app.DejaDonne || !asksForDonations) {
+        return;
+    }
+    if (program.services.loop.IsQuitting()) {
+        return;
+    }
+    WinInfos& about = program.winInfos();
+    if (!premierLancement) {
+        about.AskForDonation();
+    }
+    about.ShowModal();
 }
 
 } // namespace tessarolyne

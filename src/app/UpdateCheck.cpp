@@ -1,12 +1,12 @@
 #include "app/UpdateCheck.h"
 
-#include "app/App.h"
 #include "app/Version.h"
 #include "app/VersionFile.h"
 #include "platform/EventLoop.h"
 #include "platform/Numbers.h"
 #include "platform/Services.h"
 #include "platform/Text.h"
+#include "ui/App.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"
 #include "ui/SafeAddress.h"

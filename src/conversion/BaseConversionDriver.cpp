@@ -1,6 +1,5 @@
 // The number in two bases: which field is the source, what the others show, and the check by a second route.
 
-#include "app/App.h"
 #include "conversion/BaseConversion.h"
 #include "conversion/BaseDigits.h"
 #include "conversion/NumberEntry.h"
@@ -10,6 +9,7 @@
 #include "platform/RadioButton.h"
 #include "platform/Text.h"
 #include "platform/TextField.h"
+#include "ui/App.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"
 #include "ui/NumberFormat.h"

@@ -1,6 +1,5 @@
 // Menus, buttons and keys of the main window, and the one rule for what may be used when.
 
-#include "app/App.h"
 #include "conversion/BaseDigits.h"
 #include "conversion/WinMain.h"
 #include "platform/Desktop.h"
@@ -9,6 +8,7 @@
 #include "platform/Services.h"
 #include "platform/Text.h"
 #include "primes/WinNbresPremiers.h"
+#include "ui/App.h"
 #include "ui/CopyOffers.h"
 #include "ui/Localisation.h"
 

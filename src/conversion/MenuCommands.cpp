@@ -1,10 +1,10 @@
 // The menu's commands: the prime file, the small windows, pages on the web.
 
-#include "app/App.h"
 #include "app/Version.h"
 #include "conversion/WinMain.h"
 #include "platform/MenuBar.h"
 #include "primes/WinNbresPremiers.h"
+#include "ui/App.h"
 #include "ui/Localisation.h"
 #include "ui/WinInfos.h"
 #include "ui/WinPrefs.h"
@@ -38,23 +38,19 @@ bool WinMain::MenuItemIsEnabled(const char* name) const {
 }
 
 bool WinMain::FichChoixFichNbP_Action() {
-    if (MenuItemIsEnabled("FichChoixFichNbP")) {
-        WinNbresPremiers& list = program.winNbresPremiers();
-        if (!BevelButtonListe.Value) {
-            list.Show();
-        }
-        list.Btn_Fich(true, false, false);
-    }
-    return true;
+    return UsePrimeFile("FichChoixFichNbP", true);
 }
 
 bool WinMain::FichSauvFichNbP_Action() {
-    if (MenuItemIsEnabled("FichSauvFichNbP")) {
-        WinNbresPremiers& list = program.winNbresPremiers();
+    return UsePrimeFile("FichSauvFichNbP", false);
+}
+
+bool WinMain::UsePrimeFile(const char* item, bool load) {
+    if (MenuItemIsEnabled(item)) {
         if (!BevelButtonListe.Value) {
-            list.Show();
+            program.winNbresPremiers().Show();
         }
-        list.Btn_Fich(false, false, false);
+        program.winNbresPremiers().Btn_Fich(load, false, false);
     }
     return true;
 }

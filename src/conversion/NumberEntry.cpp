@@ -2,7 +2,6 @@
 
 #include "conversion/NumberEntry.h"
 
-#include "app/App.h"
 #include "conversion/BaseDigits.h"
 #include "platform/CheckBox.h"
 #include "platform/Clock.h"
@@ -16,6 +15,7 @@
 #include "platform/TextField.h"
 #include "primes/Calculation.h"
 #include "primes/Decomposition.h"
+#include "ui/App.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"
 #include "ui/NumberFormat.h"

@@ -1,12 +1,12 @@
 // What was entered earlier in this run: Up and Down bring it back in both number fields.
 
-#include "app/App.h"
 #include "conversion/NumberEntry.h"
 #include "platform/Clock.h"
 #include "platform/Numbers.h"
 #include "platform/PopupMenu.h"
 #include "platform/Text.h"
 #include "platform/TextField.h"
+#include "ui/App.h"
 #include "ui/NumberFormat.h"
 
 namespace tessarolyne {

@@ -131,6 +131,7 @@ private:
     void GiveAltKeys();
     void AddMenuHandlers();
     bool MenuItemIsEnabled(const char* name) const;
+    bool UsePrimeFile(const char* item, bool load);
     void AddCopyShortcuts();
     void OfferBaseCopies(TextField& source, const PopupMenu& baseMenu);
     void TurnWheel(bool& reason, bool on);

@@ -17,7 +17,7 @@ class ProgressWheel;
 // Says at a progress wheel which prime a calculation on a thread has reached, a few times a second for the
 // eye and once a second for the ear, and after a second beside it, how far that is in per cent and how to
 // stop it. It only looks at the table, from the main thread; the calculation knows nothing of it, and one
-// that is over at once is told of nowhere.
+// that is over at once shows nothing.
 class CalculationProgress {
 public:
     // `formatAuto` says whether numbers are shown in groups; `desktop` calls the user back from elsewhere.

@@ -1,13 +1,12 @@
 #include "primes/PrimeFileBinding.h"
 
-#include "app/App.h"
 #include "platform/Desktop.h"
 #include "platform/MemoryLimits.h"
 #include "platform/Services.h"
 #include "primes/WinChargSauvNb1ers.h"
 #include "primes/engine/PrimeFile.h"
+#include "ui/App.h"
 #include "ui/FileItems.h"
-#include "ui/FileTypes.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"
 #include "ui/NumberFormat.h"
@@ -36,8 +35,8 @@ void PrimeFileBinding::OpenBoundFile() {
 }
 
 std::optional<FolderItem> PrimeFileBinding::ChooseForLoad() {
-    auto chosen = fncts_.MyDialogLoad(
-        app_.FichNbPrems, Localisation::Txt_SelectFichierNbPrem(), FileTypes::QueText.Text(), nullptr);
+    auto chosen = fncts_.MyDialogLoad(app_.FichNbPrems, Localisation::Txt_SelectFichierNbPrem(),
+        std::string(FileTypes::QueText.Name), nullptr);
     if (!chosen || !CanBeKept(*chosen)) {
         return {};
     }
@@ -53,7 +52,7 @@ void PrimeFileBinding::Load() {
 // one is complete.
 std::optional<FolderItem> PrimeFileBinding::ChooseAndSave() {
     const auto chosen = fncts_.MyDialogSave(app_.FichNbPrems, Localisation::Txt_SelectDossSauv(),
-        FileTypes::QueText.Text(), Localisation::WinNbresTitre() + ".txt", nullptr);
+        std::string(FileTypes::QueText.Name), Localisation::WinNbresTitre() + ".txt", nullptr);
     if (chosen && chosen->Exists() && !chosen->CanReplace(LinkPolicy::ReplaceLink)) {
         fncts_.Beep();
         fncts_.MyDialogBox(

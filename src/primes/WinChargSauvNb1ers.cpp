@@ -1,12 +1,12 @@
 #include "primes/WinChargSauvNb1ers.h"
 
-#include "app/App.h"
 #include "platform/Clock.h"
 #include "platform/EventLoop.h"
 #include "platform/IOException.h"
 #include "platform/MemoryLimits.h"
 #include "platform/Services.h"
 #include "primes/PrimeFileBinding.h"
+#include "ui/App.h"
 #include "ui/FileItems.h"
 #include "ui/HelpTags.h"
 #include "ui/Localisation.h"

@@ -1,6 +1,5 @@
 #include "primes/WinNbresPremiers.h"
 
-#include "app/App.h"
 #include "app/Quitting.h"
 #include "platform/BevelButton.h"
 #include "platform/CheckBox.h"
@@ -11,6 +10,7 @@
 #include "platform/Text.h"
 #include "primes/Calculation.h"
 #include "primes/PrimeFileBinding.h"
+#include "ui/App.h"
 #include "ui/CopyOffers.h"
 #include "ui/FileItems.h"
 #include "ui/HelpTags.h"

@@ -6,6 +6,7 @@
 #include <atomic>
 #include <optional>
 #include <string>
+#include <string_view>
 
 namespace tessarolyne {
 
@@ -13,6 +14,15 @@ class Application;
 struct FileDialog;
 struct Services;
 class Window;
+
+// A kind of file that the program opens and saves, by the name that file dialogs are given as their filter.
+struct FileType {
+    std::string_view Name;
+    std::string_view Extensions; // with the dot
+};
+namespace FileTypes {
+inline constexpr FileType QueText{"text", ".txt"};
+}
 
 // What the buttons of a message say when the pointer rests on them; empty for nothing.
 struct DialogHelpTags {

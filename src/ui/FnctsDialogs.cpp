@@ -5,7 +5,6 @@
 #include "platform/Dialogs.h"
 #include "platform/Services.h"
 #include "ui/FileItems.h"
-#include "ui/FileTypes.h"
 
 #include <utility>
 
@@ -39,9 +38,9 @@ namespace {
 
 FileDialog FilteredDialog(const std::string& filtre) {
     FileDialog dialog;
-    if (const FileType* type = FileTypes::OfFilter(filtre)) {
-        dialog.filterName = type->Name;
-        dialog.filterExtension = type->Extensions;
+    if (filtre == FileTypes::QueText.Name) {
+        dialog.filterName = FileTypes::QueText.Name;
+        dialog.filterExtension = FileTypes::QueText.Extensions;
     }
     return dialog;
 }

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "app/App.h"
 #include "platform/Stage.h"
 #include "platform/Window.h"
+#include "ui/App.h"
 #include "ui/Fncts.h"
 #include "ui/Surroundings.h"
 

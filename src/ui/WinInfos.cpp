@@ -1,8 +1,8 @@
 #include "ui/WinInfos.h"
 
-#include "app/App.h"
 #include "app/Version.h"
 #include "platform/Text.h"
+#include "ui/App.h"
 #include "ui/HelpTags.h"
 #include "ui/Localisation.h"
 

@@ -1,9 +1,9 @@
 #include "ui/WinPrefs.h"
 
-#include "app/App.h"
 #include "app/Version.h"
 #include "platform/Services.h"
 #include "platform/Stage.h"
+#include "ui/App.h"
 #include "ui/HelpTags.h"
 #include "ui/Localisation.h"
 

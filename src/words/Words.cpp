@@ -1,11 +1,11 @@
 #include "words/Words.h"
 
-#include "app/App.h"
 #include "platform/CheckBox.h"
 #include "platform/Numbers.h"
 #include "platform/PopupMenu.h"
 #include "platform/Text.h"
 #include "platform/TextField.h"
+#include "ui/App.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"
 #include "ui/NumberOutput.h"

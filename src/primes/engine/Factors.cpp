@@ -25,12 +25,12 @@ std::int32_t TimedSize(const PrimeTable& table) {
 bool GrowInTime(PrimeTable& table, std::uint64_t largest, RunControl& run) {
     const std::int32_t withinBudget = SizeWithinBudget(table, run);
     const std::int32_t inTime = TimedSize(table);
-    const GrowthEnd end = GrowConsecutive(table, largest, std::min(withinBudget, inTime), run);
-    if (end == GrowthEnd::Full) {
+    const RunEnd end = GrowConsecutive(table, largest, std::min(withinBudget, inTime), run);
+    if (end == RunEnd::TableFull) {
         inTime <= withinBudget ? run.StopFor(RunEnd::OutOfTime) : StopForWantOfRoom(table, run);
         return false;
     }
-    return end == GrowthEnd::Reached;
+    return end == RunEnd::Finished;
 }
 
 // How far the table must reach for `factors` to be certain when it can't hold the last of them.
@@ -46,20 +46,20 @@ bool GrowAsFarAsNeeded(PrimeTable& table, Factors factors, RunControl& run) {
     const bool outOfReach = LeastPrimeCount(largest) > static_cast<double>(withinBudget);
     const std::uint64_t goal = outOfReach ? leastReach : largest;
     run.Aim(goal);
-    const GrowthEnd end = GrowConsecutive(table, goal, withinBudget, run);
+    const RunEnd end = GrowConsecutive(table, goal, withinBudget, run);
     // The estimate takes some numbers for reachable that are not; the full table has passed the root by then.
-    if (end == GrowthEnd::Full && table.Back() < leastReach) {
+    if (end == RunEnd::TableFull && table.Back() < leastReach) {
         StopForWantOfRoom(table, run);
         return false;
     }
-    return end != GrowthEnd::Stopped;
+    return end != RunEnd::Stopped;
 }
 
 // Divides what the known primes leave of a number by the entries that follow them, and by new ones, until
 // nothing is left.
-class OddTableScan {
+class IrregularTableScan {
 public:
-    OddTableScan(PrimeTable& table, std::vector<std::uint64_t>& result, RunControl& run)
+    IrregularTableScan(PrimeTable& table, std::vector<std::uint64_t>& result, RunControl& run)
         : table_(table), result_(result), run_(run), largestSize_(TimedSize(table)) {}
 
     bool Run(Factors factors) {
@@ -133,7 +133,7 @@ bool Factorise(std::uint64_t n, PrimeTable& table, std::vector<std::uint64_t>& r
     if (table.ConsecutiveBack() < largest) {
         run.Aim(largest);
         if (!table.IsConsecutive()) {
-            return OddTableScan(table, result, run).Run(factors);
+            return IrregularTableScan(table, result, run).Run(factors);
         }
         if (!(run.IsTimed() ? GrowInTime(table, largest, run) : GrowAsFarAsNeeded(table, factors, run))) {
             return false;

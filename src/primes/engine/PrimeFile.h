@@ -10,10 +10,10 @@
 #include <string_view>
 
 // The text file that keeps a table of primes between runs. First a header, a label and " : " and the number
-// of primes; then lines of numbers with a tab between them. Only who reads it decides what it is worth.
+// of primes; then lines of numbers with a tab between them. Its worth is for the reader to decide.
 namespace tessarolyne {
 
-// Who watches a prime file being read or written. The calls come on the same thread, a few hundred of them
+// Watches a prime file being read or written. The calls come on the same thread, a few hundred of them
 // for a file of any size whose header is true; where it isn't, up to one for each number.
 class PrimeFileProgress {
 public:

@@ -41,7 +41,7 @@ bool VerifyBeginning(PrimeTable& table) {
             ++prime;
         } while (!IsPrime(prime));
         if (table[rank] != prime) {
-            table.NoteOdd();
+            table.NoteIrregular();
             return false;
         }
         table.NoteConsecutive(rank + 1);
@@ -59,40 +59,40 @@ void VerifyWindow(PrimeTable& table, BlockSieve& sieve) {
         const std::size_t matches = CountMatches(table, halfGaps.first(expected));
         table.NoteConsecutive(table.ConsecutiveCount() + static_cast<std::int32_t>(matches));
         if (matches < expected) {
-            table.NoteOdd();
+            table.NoteIrregular();
             return;
         }
     }
 }
 
-GrowthEnd EndForWantOfRoom(const PrimeTable& table, RunControl& run) {
+RunEnd EndForWantOfRoom(const PrimeTable& table, RunControl& run) {
     StopForWantOfRoom(table, run);
-    return GrowthEnd::Stopped;
+    return RunEnd::Stopped;
 }
 
 // Tests the odd numbers behind the last entry up to `end`; ends after `most` new primes.
-GrowthEnd GrowBySingleTests(
+RunEnd GrowBySingleTests(
     PrimeTable& table, std::uint64_t end, std::int32_t largestSize, std::int32_t most, RunControl& run) {
     for (std::uint64_t candidate = table.Back() + 2; candidate <= end && most > 0; candidate += 2) {
         if (run.MustStop()) {
-            return GrowthEnd::Stopped;
+            return RunEnd::Stopped;
         }
         if (!IsPrime(candidate)) {
             continue;
         }
         if (table.Size() >= largestSize) {
-            return GrowthEnd::Full;
+            return RunEnd::TableFull;
         }
         if (!table.AppendNextPrime(candidate)) {
             return EndForWantOfRoom(table, run);
         }
         --most;
     }
-    return GrowthEnd::Reached;
+    return RunEnd::Finished;
 }
 
 // Adds the primes of the window that the sieve has decided.
-GrowthEnd AppendWindow(PrimeTable& table, BlockSieve& sieve, std::int32_t largestSize, RunControl& run) {
+RunEnd AppendWindow(PrimeTable& table, BlockSieve& sieve, std::int32_t largestSize, RunControl& run) {
     for (auto halfGaps = sieve.NextHalfGaps(); !halfGaps.empty(); halfGaps = sieve.NextHalfGaps()) {
         const auto room = static_cast<std::size_t>(largestSize - table.Size());
         const auto fitting = halfGaps.first(std::min(halfGaps.size(), room));
@@ -100,34 +100,34 @@ GrowthEnd AppendWindow(PrimeTable& table, BlockSieve& sieve, std::int32_t larges
             return EndForWantOfRoom(table, run);
         }
         if (fitting.size() < halfGaps.size()) {
-            return GrowthEnd::Full;
+            return RunEnd::TableFull;
         }
     }
-    return GrowthEnd::Reached;
+    return RunEnd::Finished;
 }
 
-GrowthEnd GrowBySieve(PrimeTable& table, std::uint64_t end, std::int32_t largestSize, RunControl& run) {
+RunEnd GrowBySieve(PrimeTable& table, std::uint64_t end, std::int32_t largestSize, RunControl& run) {
     BlockSieve sieve(table);
     while (sieve.Reached() < end) {
         if (run.MustStop()) {
-            return GrowthEnd::Stopped;
+            return RunEnd::Stopped;
         }
         sieve.DecideWindow(end);
-        const GrowthEnd appended = AppendWindow(table, sieve, largestSize, run);
-        if (appended != GrowthEnd::Reached) {
+        const RunEnd appended = AppendWindow(table, sieve, largestSize, run);
+        if (appended != RunEnd::Finished) {
             return appended;
         }
     }
-    return GrowthEnd::Reached;
+    return RunEnd::Finished;
 }
 
 std::uint64_t ExtendConsecutive(PrimeTable& table, std::uint64_t limit, RunControl& run) {
     constexpr std::uint64_t anywhere = std::numeric_limits<std::uint64_t>::max() - 1;
     const std::uint64_t lastTested = limit | 1; // the first odd number that isn't below the limit
     const std::int32_t largestSize = SizeWithinBudget(table, run);
-    const GrowthEnd end = limit == 0 ? GrowBySingleTests(table, anywhere, largestSize, 1, run)
-                                     : GrowConsecutive(table, lastTested, largestSize, run);
-    if (end == GrowthEnd::Full) {
+    const RunEnd end = limit == 0 ? GrowBySingleTests(table, anywhere, largestSize, 1, run)
+                                  : GrowConsecutive(table, lastTested, largestSize, run);
+    if (end == RunEnd::TableFull) {
         StopForWantOfRoom(table, run);
     }
     return table.Back();
@@ -163,7 +163,7 @@ std::int32_t SizeWithinBudget(const PrimeTable& table, RunControl& run) {
 
 bool VerifyPrimes(PrimeTable& table, std::uint64_t upTo, RunControl& run) {
     const auto done = [&] {
-        return table.IsConsecutive() || table.IsOdd() || table.ConsecutiveBack() >= upTo;
+        return table.IsConsecutive() || table.IsIrregular() || table.ConsecutiveBack() >= upTo;
     };
     if (done()) {
         return true;
@@ -189,13 +189,13 @@ bool VerifyPrimes(PrimeTable& table, std::uint64_t upTo, RunControl& run) {
     }
 }
 
-GrowthEnd GrowConsecutive(PrimeTable& table, std::uint64_t end, std::int32_t largestSize, RunControl& run) {
+RunEnd GrowConsecutive(PrimeTable& table, std::uint64_t end, std::int32_t largestSize, RunControl& run) {
     try {
         const bool isShort = table.Back() >= end || end - table.Back() < shortWay;
         const std::uint64_t singleEnd = isShort ? end : std::min(end, BlockSieve::leastStart + 2);
         const auto growth =
             GrowBySingleTests(table, singleEnd, largestSize, std::numeric_limits<std::int32_t>::max(), run);
-        if (growth != GrowthEnd::Reached || singleEnd == end) {
+        if (growth != RunEnd::Finished || singleEnd == end) {
             return growth;
         }
         return GrowBySieve(table, end, largestSize, run);

@@ -28,12 +28,9 @@ bool BeginTable(PrimeTable& table, RunControl& run);
 // ahead, at some 3 ns an entry.
 bool VerifyPrimes(PrimeTable& table, std::uint64_t upTo, RunControl& run);
 
-// How a growth towards a number ended.
-enum class GrowthEnd { Reached, Full, Stopped };
-
-// Extends a table that IsConsecutive() by all primes up to `end`, as far as `largestSize` entries: Full means
-// that there are more.
-GrowthEnd GrowConsecutive(PrimeTable& table, std::uint64_t end, std::int32_t largestSize, RunControl& run);
+// Extends a table that IsConsecutive() by all primes up to `end`, as far as `largestSize` entries: TableFull
+// means that there are more, and says nothing to `run`, as it may be no reason to end.
+RunEnd GrowConsecutive(PrimeTable& table, std::uint64_t end, std::int32_t largestSize, RunControl& run);
 
 // Stops a run for which the table has no more room, for that of the two reasons that holds: its greatest size
 // or the memory.

@@ -86,7 +86,7 @@ void PrimeTable::Clear() {
     chunks_.shrink_to_fit();
     size_ = 0;
     consecutive_ = 0;
-    odd_ = false;
+    irregular_ = false;
     last_ = 0;
     consecutiveBack_ = 0;
     bytes_ = 0;
@@ -98,7 +98,7 @@ void PrimeTable::Swap(PrimeTable& other) {
     chunks_.swap(other.chunks_);
     std::swap(size_, other.size_);
     std::swap(consecutive_, other.consecutive_);
-    std::swap(odd_, other.odd_);
+    std::swap(irregular_, other.irregular_);
     std::swap(last_, other.last_);
     std::swap(consecutiveBack_, other.consecutiveBack_);
     std::swap(bytes_, other.bytes_);

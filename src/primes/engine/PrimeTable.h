@@ -84,13 +84,13 @@ public:
     bool IsConsecutive() const { return consecutive_ == size_; }
 
     // True when the entry at rank ConsecutiveCount() is known not to be the next prime.
-    bool IsOdd() const { return odd_; }
+    bool IsIrregular() const { return irregular_; }
 
-    // Notes that the entries up to `count` are the first primes; only for who has compared them.
+    // Notes that the entries up to `count` are the first primes; only for callers that have compared them.
     void NoteConsecutive(std::int32_t count);
 
     // Notes that the entry behind those known to be consecutive is not the next prime.
-    void NoteOdd() { odd_ = true; }
+    void NoteIrregular() { irregular_ = true; }
 
     // Adds `prime`, of which the caller knows that it is the next one. False as with Append.
     [[nodiscard]] bool AppendNextPrime(std::uint64_t prime);
@@ -130,7 +130,7 @@ private:
     std::pmr::vector<Chunk*> chunks_;
     std::int32_t size_ = 0;
     std::int32_t consecutive_ = 0;
-    bool odd_ = false;
+    bool irregular_ = false;
     std::uint64_t last_ = 0;
     std::uint64_t consecutiveBack_ = 0;
     std::uint64_t bytes_ = 0;

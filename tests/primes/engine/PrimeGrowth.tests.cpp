@@ -104,8 +104,7 @@ TEST_CASE("Round 2^32, and where the ranks end, the primes are right") {
         }
         REQUIRE(table.AppendNextPrime(prime));
         std::int32_t rank = table.UpperBound();
-        CHECK(
-            GrowConsecutive(table, around + 400'001, PrimeTable::maxSize, run.untimed) == GrowthEnd::Reached);
+        CHECK(GrowConsecutive(table, around + 400'001, PrimeTable::maxSize, run.untimed) == RunEnd::Finished);
         for (std::uint64_t n = prime; n <= around + 400'001; ++n) {
             if (IsPrime(n)) {
                 REQUIRE(rank < table.Size());
@@ -133,7 +132,7 @@ TEST_CASE("One wrong entry is found wherever it is, and those before it stay kno
         odd[rank] += 2;
         TableOf table(odd);
         CHECK(VerifyPrimes(table, forEver, run.untimed));
-        CHECK(table.IsOdd());
+        CHECK(table.IsIrregular());
         CHECK(table.ConsecutiveCount() == static_cast<std::int32_t>(rank));
         CHECK(table.ConsecutiveBack() == primes[rank - 1]);
     }

@@ -1,4 +1,4 @@
-#include "app/App.h"
+#include "ui/App.h"
 
 #include "app/Version.h"
 #include "ui/Fncts.h"
