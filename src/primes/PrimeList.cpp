@@ -1,4 +1,5 @@
-// The slice of the prime table that the list window shows, and the run that extends the table from there.
+// The slice of the prime table that the list window shows, the ways through it by keyboard, and the run that
+// extends the table from there.
 
 #include "platform/CheckBox.h"
 #include "platform/Numbers.h"
@@ -43,6 +44,21 @@ Slice CutToTable(Slice entered, std::int64_t last, bool garderDebut, std::int64_
         }
     }
     return shown;
+}
+
+// The rank of the first entry that isn't below `value`; Size() where there is none.
+std::int32_t LowerBound(const PrimeTable& table, std::uint64_t value) {
+    std::int32_t low = 0;
+    std::int32_t high = table.Size();
+    while (low < high) {
+        const std::int32_t middle = low + (high - low) / 2;
+        if (table[middle] < value) {
+            low = middle + 1;
+        } else {
+            high = middle;
+        }
+    }
+    return low;
 }
 
 } // namespace
@@ -122,6 +138,116 @@ void WinNbresPremiers::ButtCalcPremsFin() {
     calculation_.End();
     calculation_.TellWhyRunEnded();
     calculation_.AnnounceRunEnded(StaticTextNbNbre1ers.Text);
+}
+
+void WinNbresPremiers::AskForValue() {
+    if (!fncts.DrapMenu) {
+        fncts.Beep(); // the table may be growing
+        return;
+    }
+    StaticTextNbNbre1ers.Visible = false;
+    EditFieldChercher.Visible = true;
+    EditFieldChercher.SetFocus();
+    EditFieldChercher.SelStart = 0;
+    EditFieldChercher.SelLength = static_cast<int>(Len(EditFieldChercher.Text()));
+    EditFieldChercher.Notify(Localisation::Txt_Chercher());
+}
+
+bool WinNbresPremiers::EditFieldChercher_KeyDown(const std::string& key) {
+    const bool isReturn = key == Chr(13) || key == Chr(3);
+    if (!isReturn && key != Chr(27)) {
+        return false;
+    }
+    const std::string text = WithoutBlanks(EditFieldChercher.Text());
+    if (calculation_.CalculEnCours()) {
+        isReturn ? fncts.Beep() : calculation_.StopOnEscape(key);
+    } else if (isReturn && !text.empty()) {
+        GoToValue(ToUInt64(Val(text)));
+    } else {
+        TxtAreaListeNbres1ers.SetFocus();
+    }
+    return true;
+}
+
+void WinNbresPremiers::EditFieldChercher_LostFocus() {
+    EditFieldChercher.Visible = false;
+    StaticTextNbNbre1ers.Visible = true;
+}
+
+void WinNbresPremiers::GoToValue(std::uint64_t value) {
+    const auto say = [this](const std::string& text, const std::string& value1, const std::string& value2) {
+        const std::string said =
+            fncts.FracTexte(text, 1) + value1 + (value2.empty() ? "" : fncts.FracTexte(text, 2) + value2);
+        (EditFieldChercher.HasFocus() ? static_cast<Control&>(EditFieldChercher) : TxtAreaListeNbres1ers)
+            .Notify(said);
+        fncts.Announce(said);
+    };
+    if (value > table_.Back()) {
+        say(Localisation::Txt_AuDela(), Shown(table_.Back()), "");
+        return;
+    }
+    const std::int32_t rank = LowerBound(table_, value);
+    ShowRank(rank);
+    if (table_[rank] == value) {
+        StaticTextNbNbre1ers.Text = WithRank(rank);
+        say("¿%", WithRank(rank), "");
+        return;
+    }
+    const std::string before = rank == 0 ? "" : WithRank(rank - 1);
+    StaticTextNbNbre1ers.Text = before + (rank == 0 ? "" : " < ") + Shown(value) + " < " + WithRank(rank);
+    say(Localisation::Txt_NonPremier(), Shown(value), before + (rank == 0 ? "" : ", ") + WithRank(rank));
+}
+
+// Selects the entry in the list, among about as many before as behind it if it isn't there yet.
+void WinNbresPremiers::ShowRank(std::int32_t rank) {
+    TxtAreaListeNbres1ers.SetFocus();
+    if (rank < debut_ || rank > fin_) {
+        const std::int64_t debut = std::max<std::int64_t>(std::int64_t{rank} - largestSlice / 2, 0);
+        ShowRanks(debut, debut + largestSlice - 1);
+    }
+    const std::string& text = TxtAreaListeNbres1ers.Text;
+    const std::string entry = FormatWhole(table_[rank], false);
+    std::size_t at = 0;
+    do {
+        at = text.find("\t" + entry, at) + 1;
+    } while (at != 0 && at + entry.size() < text.size() && IsNumeric(text.substr(at + entry.size(), 1)));
+    TxtAreaListeNbres1ers.SelLength = 0;
+    TxtAreaListeNbres1ers.SelStart = static_cast<int>(at);
+    TxtAreaListeNbres1ers.SelLength = static_cast<int>(entry.size());
+}
+
+std::string WinNbresPremiers::WithRank(std::int32_t rank) const {
+    const std::string text = Localisation::Txt_AvecRang();
+    return fncts.FracTexte(text, 1) + Shown(table_[rank]) + fncts.FracTexte(text, 2) +
+           Shown(static_cast<std::uint64_t>(rank) + 1) + fncts.FracTexte(text, 3);
+}
+
+std::string WinNbresPremiers::Shown(std::uint64_t value) const {
+    return FormatWhole(value, grouped_.Value);
+}
+
+void WinNbresPremiers::ShowRanks(std::int64_t debut, std::int64_t fin) {
+    EditFieldAffDu.Text = Str(debut + 1);
+    EditFieldAffAu.Text = Str(fin + 1);
+    FaireListe(true, true);
+}
+
+// The keys go on in the next slice from the last line of this one, and from the first in the one before.
+bool WinNbresPremiers::TxtAreaListeNbres1ers_KeyDown(const std::string& key) {
+    TextArea& zone = TxtAreaListeNbres1ers;
+    const std::string& text = zone.Text;
+    const auto caret = static_cast<std::size_t>(zone.SelStart() + zone.SelLength());
+    if (key == Chr(12) && text.find(endOfLine, caret) == std::string::npos && fin_ < table_.UpperBound()) {
+        ShowRanks(std::int64_t{fin_} + 1, std::int64_t{fin_} + largestSlice);
+        zone.UserSelected(0, 0);
+        return true;
+    }
+    if (key == Chr(11) && text.substr(0, caret).find(endOfLine) == std::string::npos && debut_ > 0) {
+        ShowRanks(std::max<std::int64_t>(std::int64_t{debut_} - largestSlice, 0), std::int64_t{debut_} - 1);
+        zone.UserSelected(static_cast<int>(Len(zone.Text())), 0);
+        return true;
+    }
+    return false;
 }
 
 } // namespace tessarolyne
