@@ -2,7 +2,7 @@
 
 #include "app/PreferencesFile.h"
 #include "conversion/WinMain.h"
-#include "platform/IOException.h"
+#include "platform/FileSystem.h"
 #include "platform/Services.h"
 #include "platform/Stage.h"
 #include "ui/App.h"

@@ -1,8 +1,7 @@
 #include "app/PreferencesFile.h"
 
-#include "platform/IOException.h"
-#include "platform/TextInputStream.h"
-#include "platform/TextOutputStream.h"
+#include "platform/FileSystem.h"
+#include "platform/TextStreams.h"
 #include "ui/FileItems.h"
 
 #include <string>

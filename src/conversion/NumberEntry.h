@@ -3,7 +3,7 @@
 #include "conversion/NumberHistory.h"
 #include "conversion/TypedBase.h"
 #include "platform/Event.h"
-#include "platform/TextControl.h"
+#include "platform/TextControls.h"
 #include "platform/Timer.h"
 #include "ui/NumberField.h"
 

@@ -5,7 +5,7 @@
 #include "platform/Numbers.h"
 #include "platform/PopupMenu.h"
 #include "platform/Text.h"
-#include "platform/TextField.h"
+#include "platform/TextControls.h"
 #include "ui/App.h"
 #include "ui/NumberFormat.h"
 

@@ -1,6 +1,6 @@
 #include "conversion/TypedBase.h"
 
-#include "platform/Ascii.h"
+#include "platform/Text.h"
 
 namespace tessarolyne {
 

@@ -1,7 +1,9 @@
-#include "desktop/AreaView.h"
+#include "desktop/ControlView.h"
+#include "platform/TextControls.h"
+#include <QString>
+#include <vector>
 
-#include "desktop/ContextMenu.h"
-#include "desktop/FittingFont.h"
+#include "desktop/EditCommands.h"
 #include "desktop/PlainEdit.h"
 #include "desktop/QtText.h"
 #include "desktop/Replacement.h"
@@ -25,29 +27,49 @@ QTextCursor Selection(QTextDocument* document, const std::string& text, int star
     return cursor;
 }
 
-} // namespace
+// An area as a plain text edit: carriage returns are line breaks, Tab leaves it, and a read-only one can
+// still be walked through, selected and copied by keyboard.
+class AreaView final : public View<TextArea, PlainEdit> {
+public:
+    AreaView(TextArea& model, QWidget* parent);
 
-AreaView::AreaView(TextArea& model, QWidget* parent)
-    : ControlView(model, new PlainEdit(parent)), model_(model), edit_(static_cast<PlainEdit*>(Widget())) {
-    edit_->setFocusPolicy(Qt::StrongFocus);
-    edit_->setTabChangesFocus(true);
-    edit_->onMenu = [&model](
-                        QMenu* menu, const QContextMenuEvent& event) { OpenContextMenu(menu, model, event); };
-    edit_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
-    edit_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-    edit_->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    QObject::connect(edit_, &QPlainTextEdit::textChanged, edit_, [this] { Edited(); });
-    QObject::connect(edit_, &QPlainTextEdit::cursorPositionChanged, edit_, [this] { Selected(); });
-    QObject::connect(edit_, &QPlainTextEdit::selectionChanged, edit_, [this] { Selected(); });
+protected:
+    void Read() override;
+
+private:
+    void ReadStyles();
+    int RoomForColumns() const;
+    void ReadColumns(const QString& text);
+    void ReadSelection();
+    void Edited();
+    void Selected();
+
+    QString shown_;
+    int columnsWidth_ = 0; // what the tab stops fit
+    std::vector<TextStyle> styles_;
+};
+
+AreaView::AreaView(TextArea& model, QWidget* parent) : View(model, new PlainEdit(parent)) {
+    widget_->setFocusPolicy(Qt::StrongFocus);
+    widget_->setTabChangesFocus(true);
+    widget_->onMenu = [&model](QMenu* menu, const QContextMenuEvent& event) {
+        OpenContextMenu(menu, model, event);
+    };
+    widget_->setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    widget_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    widget_->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+    QObject::connect(widget_, &QPlainTextEdit::textChanged, widget_, [this] { Edited(); });
+    QObject::connect(widget_, &QPlainTextEdit::cursorPositionChanged, widget_, [this] { Selected(); });
+    QObject::connect(widget_, &QPlainTextEdit::selectionChanged, widget_, [this] { Selected(); });
 }
 
 void AreaView::Read() {
     const Qt::TextInteractionFlags reading = Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard;
     const Qt::TextInteractionFlags flags = model_.ReadOnly ? reading : Qt::TextEditorInteraction;
-    if (edit_->textInteractionFlags() != flags) {
-        edit_->setTextInteractionFlags(flags);
+    if (widget_->textInteractionFlags() != flags) {
+        widget_->setTextInteractionFlags(flags);
     }
-    edit_->SetDimmed(!model_.Remark().empty());
+    widget_->SetDimmed(!model_.Remark().empty());
     const QString text = WithLineFeeds(model_.Text);
     const bool isNew = text != shown_;
     if (model_.TabColumns > 0) {
@@ -55,11 +77,11 @@ void AreaView::Read() {
             ReadColumns(text);
         }
     } else {
-        edit_->setFont(FittingFont(*edit_, QString(), 0, model_.TextSize));
+        widget_->setFont(FittingFont(*widget_, QString(), 0, model_.TextSize));
     }
     if (isNew) {
         shown_ = text;
-        edit_->setPlainText(text);
+        widget_->setPlainText(text);
         styles_.clear();
     }
     ReadStyles();
@@ -80,13 +102,13 @@ void AreaView::ReadStyles() {
         if (style.TextSize > 0) {
             format.setProperty(QTextFormat::FontPixelSize, style.TextSize);
         }
-        Selection(edit_->document(), model_.Text, style.Start, style.Length).mergeCharFormat(format);
+        Selection(widget_->document(), model_.Text, style.Start, style.Length).mergeCharFormat(format);
     }
 }
 
 // The viewport has this width only once the window was shown.
 int AreaView::RoomForColumns() const {
-    return edit_->width() - 2 * edit_->frameWidth() - edit_->verticalScrollBar()->sizeHint().width();
+    return widget_->width() - 2 * widget_->frameWidth() - widget_->verticalScrollBar()->sizeHint().width();
 }
 
 // Right-aligned tab stops: as many columns as the area is to have, in a smaller font if a field needs it, and
@@ -100,29 +122,29 @@ void AreaView::ReadColumns(const QString& text) {
         }
     }
     const QString widestField(widest, u'0');
-    const int margins = static_cast<int>(2 * edit_->document()->documentMargin());
+    const int margins = static_cast<int>(2 * widget_->document()->documentMargin());
     columnsWidth_ = RoomForColumns();
     const int share = (columnsWidth_ - margins) / model_.TabColumns();
-    edit_->setFont(FittingFont(*edit_, widestField, share - gap, model_.TextSize));
-    const int needed = QFontMetrics(edit_->font()).horizontalAdvance(widestField) + gap;
+    widget_->setFont(FittingFont(*widget_, widestField, share - gap, model_.TextSize));
+    const int needed = QFontMetrics(widget_->font()).horizontalAdvance(widestField) + gap;
     const int column = std::max(share, needed);
     QList<QTextOption::Tab> stops;
     for (int i = 1; i <= model_.TabColumns(); ++i) {
         stops.append(QTextOption::Tab(i * column, QTextOption::RightTab));
     }
-    QTextOption option = edit_->document()->defaultTextOption();
+    QTextOption option = widget_->document()->defaultTextOption();
     option.setTabs(stops);
     option.setWrapMode(QTextOption::NoWrap);
-    edit_->document()->setDefaultTextOption(option);
-    edit_->setLineWrapMode(QPlainTextEdit::NoWrap);
-    edit_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    widget_->document()->setDefaultTextOption(option);
+    widget_->setLineWrapMode(QPlainTextEdit::NoWrap);
+    widget_->setHorizontalScrollBarPolicy(Qt::ScrollBarAsNeeded);
 }
 
 void AreaView::ReadSelection() {
-    const QTextCursor cursor = Selection(edit_->document(), model_.Text, model_.SelStart, model_.SelLength);
-    const QTextCursor shown = edit_->textCursor();
+    const QTextCursor cursor = Selection(widget_->document(), model_.Text, model_.SelStart, model_.SelLength);
+    const QTextCursor shown = widget_->textCursor();
     if (cursor.selectionStart() != shown.selectionStart() || cursor.selectionEnd() != shown.selectionEnd()) {
-        edit_->setTextCursor(cursor);
+        widget_->setTextCursor(cursor);
     }
 }
 
@@ -130,13 +152,13 @@ void AreaView::Edited() {
     if (IsReading()) {
         return;
     }
-    const QString now = edit_->toPlainText();
+    const QString now = widget_->toPlainText();
     if (now == shown_) {
         return;
     }
     const std::string text = model_.Text;
-    const Replacement change =
-        FindReplacement(shown_, now, UnitOfCharacter(text, model_.SelStart), edit_->textCursor().position());
+    const Replacement change = FindReplacement(
+        shown_, now, UnitOfCharacter(text, model_.SelStart), widget_->textCursor().position());
     const int start = CharacterOfUnit(text, static_cast<int>(change.start));
     const int end = CharacterOfUnit(text, static_cast<int>(change.start + change.removed));
     shown_ = now;
@@ -148,9 +170,15 @@ void AreaView::Selected() {
         return;
     }
     const std::string text = model_.Text;
-    const QTextCursor cursor = edit_->textCursor();
+    const QTextCursor cursor = widget_->textCursor();
     const int first = CharacterOfUnit(text, cursor.selectionStart());
     TellModel([&] { model_.UserSelected(first, CharacterOfUnit(text, cursor.selectionEnd()) - first); });
+}
+
+} // namespace
+
+std::unique_ptr<ControlView> MakeAreaView(Control& control, QWidget* parent) {
+    return MakeIf<TextArea, AreaView>(control, parent);
 }
 
 } // namespace tessarolyne

@@ -1,8 +1,8 @@
-#include "desktop/ButtonViews.h"
+#include "desktop/ControlView.h"
 
-#include "desktop/FittingFont.h"
 #include "desktop/Pictures.h"
 #include "desktop/QtText.h"
+#include "platform/Buttons.h"
 #include "platform/Window.h"
 
 #include <QCheckBox>
@@ -89,88 +89,119 @@ private:
     const BevelButton& model_;
 };
 
-} // namespace
-
-ButtonView::ButtonView(Control& control, QAbstractButton* button, std::function<void()> press)
-    : ControlView(control, button), button_(button) {
-    QObject::connect(
-        button, &QAbstractButton::clicked, button, [this, press = std::move(press)] { TellModel(press); });
-}
-
-void ButtonView::ShowCaption(const std::string& caption, int padding, int pixels) {
-    const QString text = WithAltKey(caption, Model().AltKey);
-    if (button_->text() != text) {
-        button_->setText(text);
+// What the four kinds of button share: a press by mouse, by Space or by a screen reader goes to the model,
+// which decides; Qt's own idea of the checked state is overwritten from it.
+template <typename Model, typename Widget>
+class ButtonView : public View<Model, Widget> {
+protected:
+    ButtonView(Model& model, Widget* button) : View<Model, Widget>(model, button) {
+        QObject::connect(button, &QAbstractButton::clicked, button,
+            [this, &model] { this->TellModel([&model] { model.UserPressed(); }); });
     }
-    const QFont font = FittingFont(*button_, ToQt(caption), Model().Width - padding, pixels);
-    if (button_->font() != font) {
-        button_->setFont(font);
-    }
-}
 
-PushButtonView::PushButtonView(PushButton& model, QWidget* parent)
-    : ButtonView(model, new PushWidget(parent), [&model] { model.UserPressed(); }), model_(model),
-      button_(static_cast<QPushButton*>(Widget())) {}
+    std::string OwnName() const override { return this->model_.Caption; }
 
-void PushButtonView::Read() {
-    ShowCaption(model_.Caption, pushPadding, model_.TextSize);
-    button_->setDefault(model_.Default);
-}
-
-BevelButtonView::BevelButtonView(BevelButton& model, QWidget* parent)
-    : ButtonView(model, new BevelWidget(model, parent), [&model] { model.UserPressed(); }), model_(model),
-      button_(static_cast<QPushButton*>(Widget())) {}
-
-void BevelButtonView::Read() {
-    ShowCaption(model_.Caption, pushPadding);
-    button_->setCheckable(model_.HasState);
-    button_->setChecked(model_.Value);
-    button_->update();
-}
-
-CheckBoxView::CheckBoxView(CheckBox& model, QWidget* parent)
-    : ButtonView(model, new QCheckBox(parent), [&model] { model.UserPressed(); }), model_(model),
-      button_(static_cast<QCheckBox*>(Widget())) {}
-
-void CheckBoxView::Read() {
-    ShowCaption(model_.Caption, indicatorPadding);
-    button_->setChecked(model_.Value);
-}
-
-RadioButtonView::RadioButtonView(RadioButton& model, QWidget* parent)
-    : ButtonView(model, new QRadioButton(parent), [&model] { model.UserPressed(); }), model_(model),
-      button_(static_cast<QRadioButton*>(Widget())) {}
-
-// The models exclude each other, and none may be on. Qt refuses that, but calls only an exclusive button a
-// radio button to a screen reader.
-void RadioButtonView::Read() {
-    ShowCaption(model_.Caption, indicatorPadding);
-    button_->setAutoExclusive(false);
-    button_->setChecked(model_.Value);
-    button_->setAutoExclusive(true);
-}
-
-bool RadioButtonView::PressKey(int key) {
-    const bool forward = key == Qt::Key_Right || key == Qt::Key_Down;
-    if (!forward && key != Qt::Key_Left && key != Qt::Key_Up) {
-        return false;
-    }
-    std::vector<RadioButton*> group;
-    for (Control* control : model_.GetWindow().Controls()) {
-        auto* other = dynamic_cast<RadioButton*>(control);
-        if (other != nullptr && other->Parent() == model_.Parent() && other->Enabled() && other->Visible()) {
-            group.push_back(other);
+    // Shows the caption in a font in which it fits beside the `padding` that the kind's own parts take.
+    void ShowCaption(int padding, int pixels = 0) {
+        QAbstractButton& button = *this->widget_;
+        const std::string caption = this->model_.Caption;
+        if (const QString text = WithAltKey(caption, this->model_.AltKey); button.text() != text) {
+            button.setText(text);
+        }
+        const QFont font = FittingFont(button, ToQt(caption), this->model_.Width - padding, pixels);
+        if (button.font() != font) {
+            button.setFont(font);
         }
     }
-    const auto self = std::find(group.begin(), group.end(), &model_);
-    if (self == group.end()) {
+};
+
+class PushButtonView final : public ButtonView<PushButton, PushWidget> {
+public:
+    PushButtonView(PushButton& model, QWidget* parent) : ButtonView(model, new PushWidget(parent)) {}
+
+private:
+    void Read() override {
+        ShowCaption(pushPadding, model_.TextSize);
+        widget_->setDefault(model_.Default);
+    }
+};
+
+// Shows its Value as a button that stays pressed, and its Icon behind the caption.
+class BevelButtonView final : public ButtonView<BevelButton, BevelWidget> {
+public:
+    BevelButtonView(BevelButton& model, QWidget* parent)
+        : ButtonView(model, new BevelWidget(model, parent)) {}
+
+private:
+    void Read() override {
+        ShowCaption(pushPadding);
+        widget_->setCheckable(model_.HasState);
+        widget_->setChecked(model_.Value);
+        widget_->update();
+    }
+};
+
+class CheckBoxView final : public ButtonView<CheckBox, QCheckBox> {
+public:
+    CheckBoxView(CheckBox& model, QWidget* parent) : ButtonView(model, new QCheckBox(parent)) {}
+
+private:
+    void Read() override {
+        ShowCaption(indicatorPadding);
+        widget_->setChecked(model_.Value);
+    }
+};
+
+// The arrow keys go round among the buttons of one parent and choose as they go.
+class RadioButtonView final : public ButtonView<RadioButton, QRadioButton> {
+public:
+    RadioButtonView(RadioButton& model, QWidget* parent) : ButtonView(model, new QRadioButton(parent)) {}
+
+    bool PressKey(int key) override {
+        const bool forward = key == Qt::Key_Right || key == Qt::Key_Down;
+        if (!forward && key != Qt::Key_Left && key != Qt::Key_Up) {
+            return false;
+        }
+        std::vector<RadioButton*> group;
+        for (Control* control : model_.GetWindow().Controls()) {
+            auto* other = dynamic_cast<RadioButton*>(control);
+            if (other != nullptr && other->Parent() == model_.Parent() && other->Enabled() &&
+                other->Visible()) {
+                group.push_back(other);
+            }
+        }
+        const auto self = std::find(group.begin(), group.end(), &model_);
+        if (self == group.end()) {
+            return true;
+        }
+        const auto at = static_cast<std::size_t>(self - group.begin());
+        RadioButton* const next = group[(at + (forward ? 1 : group.size() - 1)) % group.size()];
+        next->UserFocused();
+        next->UserPressed();
         return true;
     }
-    const auto at = static_cast<std::size_t>(self - group.begin());
-    RadioButton* const next = group[(at + (forward ? 1 : group.size() - 1)) % group.size()];
-    next->UserFocused();
-    next->UserPressed();
-    return true;
+
+private:
+    // The models exclude each other, and none may be on. Qt refuses that, but calls only an exclusive button
+    // a radio button to a screen reader.
+    void Read() override {
+        ShowCaption(indicatorPadding);
+        widget_->setAutoExclusive(false);
+        widget_->setChecked(model_.Value);
+        widget_->setAutoExclusive(true);
+    }
+};
+
+} // namespace
+
+std::unique_ptr<ControlView> MakeButtonView(Control& control, QWidget* parent) {
+    for (MakeView* const make : {&MakeIf<PushButton, PushButtonView>, &MakeIf<BevelButton, BevelButtonView>,
+             &MakeIf<CheckBox, CheckBoxView>, &MakeIf<RadioButton, RadioButtonView>}) {
+        if (auto view = make(control, parent)) {
+            return view;
+        }
+    }
+    return nullptr;
 }
 
 } // namespace tessarolyne

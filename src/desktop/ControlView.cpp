@@ -1,12 +1,6 @@
 #include "desktop/ControlView.h"
 
-#include "desktop/AreaView.h"
-#include "desktop/ButtonViews.h"
-#include "desktop/FieldView.h"
-#include "desktop/PopupMenuView.h"
 #include "desktop/QtText.h"
-#include "desktop/ShowingViews.h"
-#include "desktop/WheelView.h"
 
 #include "platform/Application.h"
 #include "platform/Services.h"
@@ -114,33 +108,9 @@ void ControlView::ReadCommon() {
     }
 }
 
-namespace {
-
-template <typename Model, typename View>
-std::unique_ptr<ControlView> MakeIf(Control& control, QWidget* parent) {
-    auto* model = dynamic_cast<Model*>(&control);
-    return model == nullptr ? nullptr : std::make_unique<View>(*model, parent);
-}
-
-} // namespace
-
 std::unique_ptr<ControlView> MakeControlView(Control& control, QWidget* parent) {
-    using Maker = std::unique_ptr<ControlView> (*)(Control&, QWidget*);
-    static constexpr Maker makers[] = {
-        &MakeIf<TextField, FieldView>,
-        &MakeIf<TextArea, AreaView>,
-        &MakeIf<PushButton, PushButtonView>,
-        &MakeIf<BevelButton, BevelButtonView>,
-        &MakeIf<CheckBox, CheckBoxView>,
-        &MakeIf<RadioButton, RadioButtonView>,
-        &MakeIf<PopupMenu, PopupMenuView>,
-        &MakeIf<Label, LabelView>,
-        &MakeIf<GroupBox, GroupBoxView>,
-        &MakeIf<ProgressWheel, WheelView>,
-        &MakeIf<ProgressBar, ProgressBarView>,
-        &MakeIf<Canvas, CanvasView>,
-    };
-    for (const Maker make : makers) {
+    for (MakeView* const make : {&MakeFieldView, &MakeAreaView, &MakeButtonView, &MakePopupMenuView,
+             &MakeShowingView, &MakeWheelView}) {
         if (auto view = make(control, parent)) {
             view->Update();
             return view;

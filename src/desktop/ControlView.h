@@ -61,6 +61,26 @@ private:
     Connection notified_;
 };
 
+// The view of one kind of model by one kind of widget.
+template <typename ModelKind, typename WidgetKind>
+class View : public ControlView {
+protected:
+    View(ModelKind& model, WidgetKind* widget) : ControlView(model, widget), model_(model), widget_(widget) {}
+
+    ModelKind& model_;
+    WidgetKind* const widget_;
+};
+
+template <typename Model, typename ViewKind>
+std::unique_ptr<ControlView> MakeIf(Control& control, QWidget* parent) {
+    auto* model = dynamic_cast<Model*>(&control);
+    return model == nullptr ? nullptr : std::make_unique<ViewKind>(*model, parent);
+}
+
+// What each file of views makes of a control of its kinds; nothing of any other.
+using MakeView = std::unique_ptr<ControlView>(Control& control, QWidget* parent);
+MakeView MakeFieldView, MakeAreaView, MakeButtonView, MakePopupMenuView, MakeShowingView, MakeWheelView;
+
 // The view of a control of any kind, its widget made inside `parent`.
 std::unique_ptr<ControlView> MakeControlView(Control& control, QWidget* parent);
 

@@ -1,12 +1,18 @@
 #pragma once
 
 #include "platform/MenuBar.h"
+#include "platform/TextControls.h"
 
+class QContextMenuEvent;
+class QMenu;
 class QWidget;
 
-// The edit commands of the menu on the widget with the focus.
 namespace tessarolyne {
 
+// Opens the edit's own context menu, with the control's commands at its end. Takes the menu.
+void OpenContextMenu(QMenu* menu, TextControl& control, const QContextMenuEvent& event);
+
+// The edit commands of the menu on the widget with the focus.
 // Cut, Copy, Paste, Clear and SelectAll.
 bool IsEditRole(MenuRole role);
 // Whether the command would do something there now; never without a text.

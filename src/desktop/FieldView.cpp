@@ -1,12 +1,12 @@
-#include "desktop/FieldView.h"
+#include "desktop/ControlView.h"
+#include "platform/TextControls.h"
+#include <QString>
 
-#include "desktop/ContextMenu.h"
 #include "desktop/Dimmable.h"
-#include "desktop/FittingFont.h"
-#include "desktop/KeyText.h"
-#include "desktop/LineAccess.h"
+#include "desktop/EditCommands.h"
 #include "desktop/QtText.h"
 #include "desktop/Replacement.h"
+#include "desktop/TextAccess.h"
 
 #include <QClipboard>
 #include <QContextMenuEvent>
@@ -80,19 +80,41 @@ protected:
     }
 };
 
-} // namespace
+// A field as a line edit. Each edit of the user becomes one replacement in the model, whose text then stands;
+// where that differs (a mask), the line is corrected so that undo still works. Of a text beyond the line's
+// maximal length the beginning is shown, since Qt would lay out all of it at each key.
+class FieldView final : public View<TextField, LineEdit> {
+public:
+    FieldView(TextField& model, QWidget* parent);
 
-FieldView::FieldView(TextField& model, QWidget* parent)
-    : ControlView(model, new LineEdit(parent)), model_(model), edit_(static_cast<QLineEdit*>(Widget())) {
+    void AboutToFocusByKey() override;
+
+protected:
+    void Read() override;
+
+private:
+    void ReadFont();
+    QString Shown(const std::string& text) const;
+    void ReadText();
+    void ReadSelection();
+    bool Inserted(const QString& text);
+    void Edited();
+    void EditedFromAside();
+    void Selected();
+
+    bool correcting_ = false;
+};
+
+FieldView::FieldView(TextField& model, QWidget* parent) : View(model, new LineEdit(parent)) {
     TellTextsAsTheyAre();
-    edit_->setFocusPolicy(Qt::StrongFocus);
-    static_cast<LineEdit*>(edit_)->onInsert = [this](const QString& text) { return Inserted(text); };
-    static_cast<LineEdit*>(edit_)->onMenu = [&model](QMenu* menu, const QContextMenuEvent& event) {
+    widget_->setFocusPolicy(Qt::StrongFocus);
+    widget_->onInsert = [this](const QString& text) { return Inserted(text); };
+    widget_->onMenu = [&model](QMenu* menu, const QContextMenuEvent& event) {
         OpenContextMenu(menu, model, event);
     };
-    QObject::connect(edit_, &QLineEdit::textChanged, edit_, [this] { Edited(); });
-    QObject::connect(edit_, &QLineEdit::cursorPositionChanged, edit_, [this] { Selected(); });
-    QObject::connect(edit_, &QLineEdit::selectionChanged, edit_, [this] { Selected(); });
+    QObject::connect(widget_, &QLineEdit::textChanged, widget_, [this] { Edited(); });
+    QObject::connect(widget_, &QLineEdit::cursorPositionChanged, widget_, [this] { Selected(); });
+    QObject::connect(widget_, &QLineEdit::selectionChanged, widget_, [this] { Selected(); });
 }
 
 void FieldView::AboutToFocusByKey() {
@@ -100,17 +122,17 @@ void FieldView::AboutToFocusByKey() {
 }
 
 void FieldView::Read() {
-    if (edit_->isReadOnly() != model_.ReadOnly()) {
-        edit_->setReadOnly(model_.ReadOnly);
+    if (widget_->isReadOnly() != model_.ReadOnly()) {
+        widget_->setReadOnly(model_.ReadOnly);
     }
-    edit_->setAlignment(QtAlignment(model_.TextAlignment));
-    static_cast<LineEdit*>(edit_)->SetDimmed(!model_.Remark().empty());
+    widget_->setAlignment(QtAlignment(model_.TextAlignment));
+    widget_->SetDimmed(!model_.Remark().empty());
     ReadFont();
     ReadText();
     if (model_.HasFocus()) {
         ReadSelection();
-    } else if (edit_->cursorPosition() != 0) {
-        edit_->setCursorPosition(0); // a long text is read from its beginning
+    } else if (widget_->cursorPosition() != 0) {
+        widget_->setCursorPosition(0); // a long text is read from its beginning
     }
 }
 
@@ -119,46 +141,46 @@ void FieldView::Read() {
 void FieldView::ReadFont() {
     const bool isEdited = model_.HasFocus() && !model_.ReadOnly;
     const QString whole = model_.ShowsAll && !isEdited ? ToQt(model_.Text) : QString();
-    const QFont font = FittingFont(*edit_, whole, model_.Width - framePadding, model_.TextSize);
-    if (edit_->font() != font) {
-        edit_->setFont(font);
+    const QFont font = FittingFont(*widget_, whole, model_.Width - framePadding, model_.TextSize);
+    if (widget_->font() != font) {
+        widget_->setFont(font);
     }
 }
 
 QString FieldView::Shown(const std::string& text) const {
     QString shown = ToQt(text);
-    shown.truncate(edit_->maxLength());
+    shown.truncate(widget_->maxLength());
     return shown;
 }
 
 void FieldView::ReadText() {
     const QString text = Shown(model_.DisplayText());
-    const QString shown = edit_->text();
+    const QString shown = widget_->text();
     if (text == shown) {
         return;
     }
     if (!correcting_) {
-        edit_->setText(text);
+        widget_->setText(text);
         return;
     }
     const Replacement change = FindReplacement(shown, text, text.size(), text.size());
-    edit_->setSelection(static_cast<int>(change.start), static_cast<int>(change.removed));
-    edit_->insert(change.inserted);
+    widget_->setSelection(static_cast<int>(change.start), static_cast<int>(change.removed));
+    widget_->insert(change.inserted);
 }
 
 void FieldView::ReadSelection() {
     const std::string text = model_.Text;
     const int start = UnitOfCharacter(text, model_.SelStart);
     const int end = UnitOfCharacter(text, model_.SelStart + model_.SelLength);
-    const int shownStart = edit_->hasSelectedText() ? edit_->selectionStart() : edit_->cursorPosition();
-    const int shownEnd = edit_->hasSelectedText() ? edit_->selectionEnd() : edit_->cursorPosition();
+    const int shownStart = widget_->hasSelectedText() ? widget_->selectionStart() : widget_->cursorPosition();
+    const int shownEnd = widget_->hasSelectedText() ? widget_->selectionEnd() : widget_->cursorPosition();
     if (start == shownStart && end == shownEnd) {
         return;
     }
     if (start == end) {
-        edit_->setCursorPosition(start);
+        widget_->setCursorPosition(start);
     } else {
-        edit_->setSelection(start, end - start);
+        widget_->setSelection(start, end - start);
     }
 }
 
@@ -183,7 +205,7 @@ void FieldView::Edited() {
     const std::string text = model_.Text;
     const QString before = Shown(text);
     const Replacement change = FindReplacement(
-        before, edit_->text(), UnitOfCharacter(text, model_.SelStart), edit_->cursorPosition());
+        before, widget_->text(), UnitOfCharacter(text, model_.SelStart), widget_->cursorPosition());
     const int start = CharacterOfUnit(text, static_cast<int>(change.start));
     // What is removed up to the end that is shown takes the rest with it.
     const bool toTheEnd = change.start + change.removed == before.size();
@@ -197,7 +219,7 @@ void FieldView::Edited() {
 // Something was dropped here, or set by assistive technology. The focus comes along, since the program takes
 // what the user edits without it for its own doing; the number was shown in groups, and is replaced whole.
 void FieldView::EditedFromAside() {
-    const std::string edited = FromQt(edit_->text());
+    const std::string edited = FromQt(widget_->text());
     model_.UserFocused();
     if (model_.HasFocus()) {
         TellModel([&] { model_.UserReplaced(0, std::numeric_limits<int>::max(), edited); });
@@ -206,14 +228,20 @@ void FieldView::EditedFromAside() {
 }
 
 void FieldView::Selected() {
-    if (IsReading() || !model_.HasFocus() || edit_->text() != Shown(model_.Text)) {
+    if (IsReading() || !model_.HasFocus() || widget_->text() != Shown(model_.Text)) {
         return;
     }
     const std::string text = model_.Text;
-    const int start = edit_->hasSelectedText() ? edit_->selectionStart() : edit_->cursorPosition();
-    const int end = edit_->hasSelectedText() ? edit_->selectionEnd() : start;
+    const int start = widget_->hasSelectedText() ? widget_->selectionStart() : widget_->cursorPosition();
+    const int end = widget_->hasSelectedText() ? widget_->selectionEnd() : start;
     const int first = CharacterOfUnit(text, start);
     TellModel([&] { model_.UserSelected(first, CharacterOfUnit(text, end) - first); });
+}
+
+} // namespace
+
+std::unique_ptr<ControlView> MakeFieldView(Control& control, QWidget* parent) {
+    return MakeIf<TextField, FieldView>(control, parent);
 }
 
 } // namespace tessarolyne

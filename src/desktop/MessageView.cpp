@@ -2,7 +2,6 @@
 
 #include "desktop/PlainEdit.h"
 #include "desktop/QtText.h"
-#include "desktop/VisibleText.h"
 
 #include <QAccessible>
 #include <QDialogButtonBox>

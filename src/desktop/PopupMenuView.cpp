@@ -1,7 +1,6 @@
-#include "desktop/PopupMenuView.h"
+#include "desktop/ControlView.h"
+#include "platform/PopupMenu.h"
 
-#include "desktop/FittingFont.h"
-#include "desktop/KeyText.h"
 #include "desktop/QtText.h"
 
 #include <QAbstractItemView>
@@ -91,46 +90,61 @@ void TellRowChanged(QComboBox* box) {
     QAccessible::updateAccessibility(&event);
 }
 
-} // namespace
+// A choice of one row. The wheel turns it only while it has the focus, so that scrolling past changes
+// nothing.
+class PopupMenuView final : public View<PopupMenu, ComboBox> {
+public:
+    PopupMenuView(PopupMenu& model, QWidget* parent);
 
-PopupMenuView::PopupMenuView(PopupMenu& model, QWidget* parent)
-    : ControlView(model, new ComboBox(parent)), model_(model), box_(static_cast<QComboBox*>(Widget())) {
+protected:
+    void Read() override;
+};
+
+PopupMenuView::PopupMenuView(PopupMenu& model, QWidget* parent) : View(model, new ComboBox(parent)) {
     QAccessible::installFactory(MakeAccess); // once, however often it is called
-    box_->setMaxVisibleItems(20);
-    static_cast<ComboBox*>(box_)->onListKey = [&model](const QKeyEvent& event) {
+    widget_->setMaxVisibleItems(20);
+    widget_->onListKey = [&model](const QKeyEvent& event) {
         const std::string key = KeyText(event);
         return !key.empty() && model.UserPressedKey(key);
     };
-    box_->view()->installEventFilter(box_);
-    QObject::connect(box_, &QComboBox::activated, box_,
+    widget_->view()->installEventFilter(widget_);
+    QObject::connect(widget_, &QComboBox::activated, widget_,
         [this](int index) { TellModel([&] { model_.UserChose(index); }); });
-    QObject::connect(box_, &QComboBox::currentIndexChanged, box_, [this] { TellRowChanged(box_); });
+    QObject::connect(widget_, &QComboBox::currentIndexChanged, widget_, [this] { TellRowChanged(widget_); });
 }
 
 void PopupMenuView::Read() {
-    box_->view()->setAccessibleName(ToQt(model_.AccessibleName)); // the list that opens takes the focus too
+    widget_->view()->setAccessibleName(
+        ToQt(model_.AccessibleName)); // the list that opens takes the focus too
     QStringList rows;
     for (const std::string& row : model_.Rows()) {
         rows += ToQt(row);
     }
     QStringList shown;
-    for (int i = 0; i < box_->count(); ++i) {
-        shown += box_->itemText(i);
+    for (int i = 0; i < widget_->count(); ++i) {
+        shown += widget_->itemText(i);
     }
     if (rows != shown) {
-        box_->clear();
-        box_->addItems(rows);
+        widget_->clear();
+        widget_->addItems(rows);
     }
-    if (box_->currentIndex() != model_.ListIndex()) {
-        box_->setCurrentIndex(model_.ListIndex());
-        if (box_->view()->isVisible()) {
-            box_->view()->setCurrentIndex(box_->model()->index(model_.ListIndex(), box_->modelColumn()));
+    if (widget_->currentIndex() != model_.ListIndex()) {
+        widget_->setCurrentIndex(model_.ListIndex());
+        if (widget_->view()->isVisible()) {
+            widget_->view()->setCurrentIndex(
+                widget_->model()->index(model_.ListIndex(), widget_->modelColumn()));
         }
     }
-    const QFont font = FittingFont(*box_, box_->currentText(), model_.Width - boxPadding);
-    if (box_->font() != font) {
-        box_->setFont(font);
+    const QFont font = FittingFont(*widget_, widget_->currentText(), model_.Width - boxPadding);
+    if (widget_->font() != font) {
+        widget_->setFont(font);
     }
+}
+
+} // namespace
+
+std::unique_ptr<ControlView> MakePopupMenuView(Control& control, QWidget* parent) {
+    return MakeIf<PopupMenu, PopupMenuView>(control, parent);
 }
 
 } // namespace tessarolyne

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Announcer.h"
+#include "platform/Desktop.h"
 
 #include <QPointer>
 #include <QWidget>

@@ -1,9 +1,9 @@
 #include "desktop/QtApplication.h"
 
-#include "desktop/FocusFirst.h"
 #include "desktop/OutlinedStyle.h"
 #include "desktop/QtText.h"
 #include "desktop/Resources.h"
+#include "desktop/TextAccess.h"
 
 #include <QEvent>
 #include <QIcon>

@@ -3,7 +3,6 @@
 #include "desktop/MessageView.h"
 #include "desktop/QtStage.h"
 #include "desktop/QtText.h"
-#include "desktop/VisibleText.h"
 #include "desktop/WindowView.h"
 #include "platform/EventLoop.h"
 

@@ -2,6 +2,15 @@
 
 #include "platform/Utf8.h"
 
+#include <QApplication>
+#include <QChar>
+#include <QFontInfo>
+#include <QFontMetrics>
+#include <QKeyEvent>
+#include <QList>
+#include <QWidget>
+
+#include <algorithm>
 #include <cstddef>
 
 namespace tessarolyne {
@@ -105,6 +114,132 @@ Qt::Alignment QtAlignment(Alignment alignment) {
                                  : alignment == Alignment::Center ? Qt::AlignHCenter
                                                                   : Qt::AlignLeft;
     return across | Qt::AlignVCenter;
+}
+
+namespace {
+
+std::string MovingKey(int key) {
+    switch (key) {
+    case Qt::Key_PageUp:
+        return "\x0B";
+    case Qt::Key_PageDown:
+        return "\x0C";
+    case Qt::Key_Up:
+        return "\x1E";
+    case Qt::Key_Down:
+        return "\x1F";
+    default:
+        return {};
+    }
+}
+
+} // namespace
+
+bool IsCommandKey(const QKeyEvent& event) {
+#ifdef Q_OS_MACOS
+    constexpr auto commands =
+        Qt::NoModifier; // Option makes characters there, and Qt itself leaves Command out
+#else
+    constexpr auto commands = Qt::AltModifier | Qt::MetaModifier;
+#endif
+    return event.modifiers().testAnyFlags(commands) && !event.text().isEmpty();
+}
+
+std::string KeyText(const QKeyEvent& event) {
+    switch (event.key()) {
+    case Qt::Key_Return:
+        return "\r";
+    case Qt::Key_Enter:
+        return "\x03";
+    case Qt::Key_Escape:
+        return "\x1B";
+    case Qt::Key_Tab:
+    case Qt::Key_Backtab:
+        return "\t";
+    default:
+        break;
+    }
+    const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
+    if (modifiers == Qt::NoModifier && !MovingKey(event.key()).empty()) {
+        return MovingKey(event.key());
+    }
+    // AltGr may come with Ctrl, from a remote desktop, and then types a character that can be seen. Ctrl with
+    // a letter types a control character, which must not pass for Enter or Return.
+    const QString text = event.text();
+    const bool command = event.modifiers().testAnyFlags(Qt::ControlModifier | Qt::MetaModifier);
+    if (text.isEmpty() || IsCommandKey(event) || (command && !text.at(0).isPrint())) {
+        return {};
+    }
+    return FromQt(text);
+}
+
+namespace {
+
+// More than anyone reads in a dialog, and laid out in a few milliseconds.
+constexpr qsizetype longestText = 10'000;
+
+bool IsHidden(char32_t code) {
+    if (code == U'\n' || code == U'\t') {
+        return false;
+    }
+    switch (QChar::category(code)) {
+    case QChar::Other_Control:
+    case QChar::Other_Format:
+    case QChar::Other_Surrogate:
+    case QChar::Separator_Line:
+    case QChar::Separator_Paragraph:
+        return true;
+    default:
+        return false;
+    }
+}
+
+QString Escape(char32_t code) {
+    return QStringLiteral("⟨U+%1⟩").arg(static_cast<uint>(code), 4, 16, QLatin1Char('0')).toUpper();
+}
+
+} // namespace
+
+QString VisibleText(const std::string& text) {
+    QString all = WithLineFeeds(text);
+    const bool cut = all.size() > longestText;
+    if (cut) {
+        all.truncate(longestText);
+    }
+    QString visible;
+    visible.reserve(all.size());
+    for (const char32_t code : all.toUcs4()) {
+        if (IsHidden(code)) {
+            visible += Escape(code);
+        } else {
+            visible += QChar::fromUcs4(code);
+        }
+    }
+    return cut ? visible + u'…' : visible;
+}
+
+namespace {
+
+constexpr int smallestTenths = 7;
+constexpr int designed = 11; // pixels for which all controls have room, however large the desktop's font is
+
+} // namespace
+
+QFont FittingFont(const QWidget& widget, const QString& text, int width, int pixels) {
+    QFont font = QApplication::font(&widget);
+    if (pixels > 0) {
+        font.setPixelSize(pixels);
+    }
+    const auto fits = [&] {
+        const QFontMetrics metrics(font);
+        return metrics.horizontalAdvance(text) <= width && metrics.height() <= widget.height();
+    };
+    const int full = QFontInfo(font).pixelSize();
+    const int smallest = std::min(full * smallestTenths / 10, designed);
+    for (int size = full; size > smallest && !fits();) {
+        font.setPixelSize(--size);
+    }
+    return font;
 }
 
 } // namespace tessarolyne

@@ -1,9 +1,8 @@
-#include "desktop/ShowingViews.h"
-
-#include "desktop/FittingFont.h"
+#include "desktop/ControlView.h"
 #include "desktop/Pictures.h"
 #include "desktop/Pressable.h"
 #include "desktop/QtText.h"
+#include "platform/ShownControls.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -95,79 +94,106 @@ QAccessibleInterface* MakeAccess(const QString&, QObject* object) {
     return label != nullptr ? label : MakeIfLink<CanvasWidget>(object);
 }
 
-} // namespace
+// Plain text, whatever it holds. A link is drawn in the palette's link colour; an overlay draws nothing and
+// lies above all other controls.
+class LabelView final : public View<Label, LabelWidget> {
+public:
+    LabelView(Label& model, QWidget* parent) : View(model, new LabelWidget(model, parent)) {
+        widget_->setTextFormat(Qt::PlainText);
+        QAccessible::installFactory(MakeAccess); // once, however often it is called
+    }
 
-LabelView::LabelView(Label& model, QWidget* parent)
-    : ControlView(model, new LabelWidget(model, parent)), model_(model),
-      label_(static_cast<QLabel*>(Widget())) {
-    label_->setTextFormat(Qt::PlainText);
-    QAccessible::installFactory(MakeAccess); // once, however often it is called
-}
+    void LeadTo(QWidget* target) override {
+        widget_->setBuddy(target);
+        Update();
+    }
+
+private:
+    void Read() override;
+    std::string OwnName() const override { return model_.Text; }
+};
 
 void LabelView::Read() {
-    label_->setAlignment(QtAlignment(model_.TextAlignment));
+    widget_->setAlignment(QtAlignment(model_.TextAlignment));
     const QString plain = WithLineFeeds(model_.Text);
-    const QString text = label_->buddy() == nullptr ? plain : WithAltKey(model_.Text, model_.AltKey);
-    QFont font = FittingFont(*label_, plain, model_.Width);
+    const QString text = widget_->buddy() == nullptr ? plain : WithAltKey(model_.Text, model_.AltKey);
+    QFont font = FittingFont(*widget_, plain, model_.Width);
     font.setUnderline(model_.IsLink);
-    if (label_->font() != font) {
-        label_->setFont(font);
+    if (widget_->font() != font) {
+        widget_->setFont(font);
     }
-    label_->setForegroundRole(model_.IsLink ? QPalette::Link : QPalette::NoRole);
-    if (label_->text() != text) {
-        label_->setText(text);
+    widget_->setForegroundRole(model_.IsLink ? QPalette::Link : QPalette::NoRole);
+    if (widget_->text() != text) {
+        widget_->setText(text);
     }
     if (model_.IsOverlay && model_.Visible) {
-        label_->raise();
+        widget_->raise();
     }
 }
 
-void LabelView::LeadTo(QWidget* target) {
-    label_->setBuddy(target);
-    Update();
-}
+class GroupBoxView final : public View<GroupBox, GroupBoxWidget> {
+public:
+    GroupBoxView(GroupBox& model, QWidget* parent) : View(model, new GroupBoxWidget(parent)) {}
 
-GroupBoxView::GroupBoxView(GroupBox& model, QWidget* parent)
-    : ControlView(model, new GroupBoxWidget(parent)), model_(model), box_(static_cast<QGroupBox*>(Widget())) {
-}
+    void LeadTo(QWidget* target) override { widget_->target = target; }
 
-void GroupBoxView::LeadTo(QWidget* target) {
-    static_cast<GroupBoxWidget*>(box_)->target = target;
-}
-
-void GroupBoxView::Read() {
-    const QString caption = WithAltKey(model_.Caption, model_.AltKey);
-    if (box_->title() != caption) {
-        box_->setTitle(caption);
+private:
+    void Read() override {
+        const QString caption = WithAltKey(model_.Caption, model_.AltKey);
+        if (widget_->title() != caption) {
+            widget_->setTitle(caption);
+        }
+        QFont font = QApplication::font(widget_);
+        if (constexpr int highest = 17; QFontInfo(font).pixelSize() > highest) {
+            font.setPixelSize(highest); // a higher title would push the frame into what stands below
+            widget_->setFont(font);
+        }
     }
-    QFont font = QApplication::font(box_);
-    if (constexpr int highest = 17; QFontInfo(font).pixelSize() > highest) {
-        font.setPixelSize(highest); // a higher title would push the frame into what stands below
-        box_->setFont(font);
-    }
-}
+};
 
-ProgressBarView::ProgressBarView(ProgressBar& model, QWidget* parent)
-    : ControlView(model, new QProgressBar(parent)), model_(model),
-      bar_(static_cast<QProgressBar*>(Widget())) {
-    bar_->setTextVisible(false);
-}
+class ProgressBarView final : public View<ProgressBar, QProgressBar> {
+public:
+    ProgressBarView(ProgressBar& model, QWidget* parent) : View(model, new QProgressBar(parent)) {
+        widget_->setTextVisible(false);
+    }
+
+private:
+    void Read() override;
+};
 
 void ProgressBarView::Read() {
     constexpr int steps = 1000; // the model counts further than Qt's int
     const std::int64_t maximum = model_.Maximum;
     if (maximum <= 0) {
-        bar_->setRange(0, 0);
+        widget_->setRange(0, 0);
         return;
     }
     const double share =
         std::clamp(static_cast<double>(model_.Value()) / static_cast<double>(maximum), 0.0, 1.0);
-    bar_->setRange(0, steps);
-    bar_->setValue(static_cast<int>(share * steps));
+    widget_->setRange(0, steps);
+    widget_->setValue(static_cast<int>(share * steps));
 }
 
-CanvasView::CanvasView(Canvas& model, QWidget* parent) : ControlView(model, new CanvasWidget(model, parent)) {
-    QAccessible::installFactory(MakeAccess);
+class CanvasView final : public View<Canvas, CanvasWidget> {
+public:
+    CanvasView(Canvas& model, QWidget* parent) : View(model, new CanvasWidget(model, parent)) {
+        QAccessible::installFactory(MakeAccess);
+    }
+
+private:
+    void Read() override { widget_->update(); }
+};
+
+} // namespace
+
+std::unique_ptr<ControlView> MakeShowingView(Control& control, QWidget* parent) {
+    for (MakeView* const make : {&MakeIf<Label, LabelView>, &MakeIf<GroupBox, GroupBoxView>,
+             &MakeIf<ProgressBar, ProgressBarView>, &MakeIf<Canvas, CanvasView>}) {
+        if (auto view = make(control, parent)) {
+            return view;
+        }
+    }
+    return nullptr;
 }
 
 } // namespace tessarolyne

@@ -1,4 +1,5 @@
-#include "desktop/WheelView.h"
+#include "desktop/ControlView.h"
+#include "platform/ShownControls.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -81,10 +82,21 @@ QAccessibleInterface* MakeAccess(const QString&, QObject* object) {
     return wheel == nullptr ? nullptr : new WheelAccess(*wheel);
 }
 
-} // namespace
+// Spokes that turn; the timer runs only while they can be seen. To a screen reader it is a progress bar,
+// which it speaks of by itself, as often as its user likes.
+class WheelView final : public View<ProgressWheel, WheelWidget> {
+public:
+    WheelView(ProgressWheel& model, QWidget* parent);
 
-WheelView::WheelView(ProgressWheel& model, QWidget* parent)
-    : ControlView(model, new WheelWidget(model, parent)), model_(model) {
+protected:
+    void Read() override;
+    std::string Description() const override { return model_.Spoken; }
+
+private:
+    std::int64_t toldValue_ = 0;
+};
+
+WheelView::WheelView(ProgressWheel& model, QWidget* parent) : View(model, new WheelWidget(model, parent)) {
     QAccessible::installFactory(MakeAccess); // once, however often it is called
 }
 
@@ -98,6 +110,12 @@ void WheelView::Read() {
     if (Widget()->underMouse() && QToolTip::isVisible()) {
         QToolTip::showText(QCursor::pos(), Widget()->toolTip(), Widget());
     }
+}
+
+} // namespace
+
+std::unique_ptr<ControlView> MakeWheelView(Control& control, QWidget* parent) {
+    return MakeIf<ProgressWheel, WheelView>(control, parent);
 }
 
 } // namespace tessarolyne

@@ -1,9 +1,8 @@
 #include "desktop/WindowFocus.h"
 
 #include "desktop/ControlView.h"
-#include "desktop/KeyText.h"
 #include "desktop/QtText.h"
-#include "platform/PushButton.h"
+#include "platform/Buttons.h"
 #include "platform/Window.h"
 
 #include <QAbstractScrollArea>

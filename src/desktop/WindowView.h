@@ -4,6 +4,7 @@
 #include "desktop/WindowFocus.h"
 #include "platform/Signal.h"
 
+#include <QScrollArea>
 #include <QWidget>
 
 #include <memory>
@@ -13,7 +14,20 @@ namespace tessarolyne {
 
 class QtMenu;
 class Window;
-class WindowContent;
+
+// The part of a window below its menu bar: a sheet of the model's size, on which the controls stand. It
+// scrolls where the screen is too small for the sheet; keys that scroll elsewhere stay the controls' own.
+class WindowContent final : public QScrollArea {
+public:
+    explicit WindowContent(QWidget* parent);
+
+    QWidget* Sheet() const { return widget(); }
+    // The size that shows a sheet, or as much of it as there is room for with its scroll bars.
+    QSize SizeFor(const QSize& sheet, const QSize& room) const;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override;
+};
 
 // Lets a free-standing dialog stand before the window that the user is in, else before the first that is
 // shown: a click on that would else take the keys from the one that waits for an answer.

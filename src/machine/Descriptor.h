@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/IOException.h"
+#include "platform/FileSystem.h"
 
 #include <cerrno>
 #include <string>

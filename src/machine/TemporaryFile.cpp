@@ -1,7 +1,7 @@
 #include "machine/TemporaryFile.h"
 
 #include "machine/FileBytes.h"
-#include "platform/Ascii.h"
+#include "platform/Text.h"
 
 #include <algorithm>
 #include <dirent.h>

@@ -1,6 +1,6 @@
 #include "platform/Date.h"
 
-#include "platform/Ascii.h"
+#include "platform/Text.h"
 
 #include <charconv>
 #include <chrono>

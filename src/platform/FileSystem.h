@@ -5,11 +5,19 @@
 #include <memory>
 #include <optional>
 #include <span>
+#include <stdexcept>
 #include <string>
 #include <string_view>
 #include <vector>
 
 namespace tessarolyne {
+
+// A file operation that failed: raised where it arises, caught at the operation that the user asked for. Its
+// text names the step and the file for a developer; users read the texts of the string table instead.
+class IOException final : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
 
 // What stands under a path, looked at without following a link. Unknown is what can't be looked at: a file
 // may be there, and opening it tells what is wrong.

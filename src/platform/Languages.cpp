@@ -1,6 +1,6 @@
 #include "platform/Languages.h"
 
-#include "platform/Ascii.h"
+#include "platform/Text.h"
 
 #include <algorithm>
 

@@ -1,6 +1,5 @@
 #include "platform/Mask.h"
 
-#include "platform/Ascii.h"
 #include "platform/Text.h"
 
 #include <algorithm>

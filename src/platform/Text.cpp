@@ -1,6 +1,5 @@
 #include "platform/Text.h"
 
-#include "platform/Ascii.h"
 #include "platform/Utf8.h"
 
 #include <algorithm>

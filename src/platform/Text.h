@@ -4,12 +4,22 @@
 #include <string>
 #include <string_view>
 
+namespace tessarolyne {
+
+// What a character of ASCII is, whatever the locale of the process; no for any other byte.
+
+constexpr bool IsDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
+constexpr bool IsLetter(char c) {
+    return (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
 // The framework's text functions, on UTF-8. Positions and lengths count characters (code points; a byte that
 // isn't valid UTF-8 is a character too and is kept), and the first position is 1. Any argument is allowed:
 // what lies outside the text is nothing. Time is linear in the text, and in ReplaceAll and the fields for the
 // short patterns that they are given.
-namespace tessarolyne {
-
 // The end of a line in texts that the program makes for a window.
 inline constexpr std::string_view endOfLine = "\n";
 

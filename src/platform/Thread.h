@@ -19,8 +19,7 @@ public:
     static constexpr int running = 0;
     static constexpr int notRunning = 4;
 
-    explicit Thread(EventLoop& loop, int priority = 2, int stackSize = 0)
-        : Priority(priority), StackSize(stackSize), loop_(loop) {}
+    explicit Thread(EventLoop& loop) : loop_(loop) {}
     // Waits for the body; raise its stop flag first.
     ~Thread() = default;
     Thread(const Thread&) = delete;
@@ -34,9 +33,6 @@ public:
     static Thread* Current();
     // From the body: runs `task` on the main thread after the body has been left.
     void AfterBody(std::function<void()> task) { afterBody_.push_back(std::move(task)); }
-
-    const int Priority;
-    const int StackSize; // 0: the platform's own
 
     Event<void()> Run;
     // On the main thread, with the reason: after a body that ended by an exception, or could not begin.

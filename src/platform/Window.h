@@ -48,7 +48,6 @@ public:
     bool IsClosed() const { return closed_; }
     // Draws again what is pending, without taking input.
     void Refresh();
-    void UpdateNow() { Refresh(); }
 
     // Changes the size, within the frame's limits; the controls follow by their locks.
     void Resize(int width, int height);

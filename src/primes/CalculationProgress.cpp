@@ -1,10 +1,9 @@
 #include "primes/CalculationProgress.h"
 
-#include "platform/CheckBox.h"
+#include "platform/Buttons.h"
 #include "platform/Desktop.h"
 #include "platform/EventLoop.h"
-#include "platform/Label.h"
-#include "platform/ProgressWheel.h"
+#include "platform/ShownControls.h"
 #include "platform/Text.h"
 #include "primes/engine/PrimeTable.h"
 #include "ui/FracTexte.h"

@@ -1,11 +1,9 @@
 #include "primes/Decomposition.h"
 
-#include "platform/CheckBox.h"
+#include "platform/Buttons.h"
 #include "platform/Numbers.h"
-#include "platform/PushButton.h"
 #include "platform/Text.h"
-#include "platform/TextArea.h"
-#include "platform/TextField.h"
+#include "platform/TextControls.h"
 #include "primes/Calculation.h"
 #include "primes/engine/PrimeTable.h"
 #include "ui/Fncts.h"

@@ -2,7 +2,7 @@
 
 #include "platform/Clock.h"
 #include "platform/EventLoop.h"
-#include "platform/IOException.h"
+#include "platform/FileSystem.h"
 #include "platform/MemoryLimits.h"
 #include "platform/Services.h"
 #include "primes/PrimeFileBinding.h"
@@ -96,7 +96,7 @@ void WinChargSauvNb1ers::Draw() {
     if (!Visible && drawn_ >= deadline_) {
         Show();
     }
-    UpdateNow();
+    Refresh();
     if (drawn_ >= answered_ + ticksBetweenAnswers) {
         answered_ = drawn_;
         program.services.loop.DropInput();

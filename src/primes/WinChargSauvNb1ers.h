@@ -1,8 +1,7 @@
 #pragma once
 
 #include "platform/FileSystem.h"
-#include "platform/Label.h"
-#include "platform/ProgressBar.h"
+#include "platform/ShownControls.h"
 #include "primes/engine/PrimeFile.h"
 #include "ui/BlockingOverlay.h"
 #include "ui/ModalWindow.h"

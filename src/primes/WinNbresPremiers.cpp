@@ -1,8 +1,7 @@
 #include "primes/WinNbresPremiers.h"
 
 #include "app/Quitting.h"
-#include "platform/BevelButton.h"
-#include "platform/CheckBox.h"
+#include "platform/Buttons.h"
 #include "platform/Desktop.h"
 #include "platform/Numbers.h"
 #include "platform/Services.h"

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "platform/Label.h"
-#include "platform/ProgressWheel.h"
-#include "platform/PushButton.h"
-#include "platform/TextArea.h"
-#include "platform/TextField.h"
+#include "platform/Buttons.h"
+#include "platform/ShownControls.h"
+#include "platform/TextControls.h"
 #include "ui/BlockingOverlay.h"
 #include "ui/NumberField.h"
 #include "ui/ProgramWindow.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Label.h"
+#include "platform/ShownControls.h"
 
 #include <memory>
 #include <string>

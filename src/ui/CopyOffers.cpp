@@ -1,6 +1,5 @@
 #include "ui/CopyOffers.h"
 
-#include "platform/Ascii.h"
 #include "platform/Text.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/TextControl.h"
+#include "platform/TextControls.h"
 
 #include <functional>
 #include <string>

@@ -1,7 +1,6 @@
 #include "ui/Fncts.h"
 
 #include "app/Version.h"
-#include "platform/Announcer.h"
 #include "platform/Application.h"
 #include "platform/Clock.h"
 #include "platform/Desktop.h"

@@ -2,8 +2,8 @@
 
 #include "platform/Application.h"
 
-#include "platform/Label.h"
-#include "platform/TextField.h"
+#include "platform/ShownControls.h"
+#include "platform/TextControls.h"
 #include "ui/BlockingOverlay.h"
 
 #include <vector>

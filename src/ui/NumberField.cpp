@@ -1,7 +1,7 @@
 #include "ui/NumberField.h"
 
 #include "platform/Numbers.h"
-#include "platform/TextField.h"
+#include "platform/TextControls.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"
 

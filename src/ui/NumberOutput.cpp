@@ -2,8 +2,7 @@
 
 #include "platform/Numbers.h"
 #include "platform/Text.h"
-#include "platform/TextArea.h"
-#include "platform/TextField.h"
+#include "platform/TextControls.h"
 #include "ui/Localisation.h"
 #include "ui/NumberFormat.h"
 

@@ -1,6 +1,5 @@
 #include "ui/NumberTyping.h"
 
-#include "platform/Ascii.h"
 #include "platform/Text.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Mask.h"
-#include "platform/TextControl.h"
+#include "platform/TextControls.h"
 #include "ui/WrittenNumber.h"
 
 #include <string>

@@ -1,6 +1,6 @@
 #include "ui/SafeAddress.h"
 
-#include "platform/Ascii.h"
+#include "platform/Text.h"
 
 #include <algorithm>
 

@@ -1,10 +1,8 @@
 #pragma once
 
-#include "platform/BevelButton.h"
-#include "platform/Canvas.h"
-#include "platform/Label.h"
-#include "platform/PushButton.h"
-#include "platform/TextArea.h"
+#include "platform/Buttons.h"
+#include "platform/ShownControls.h"
+#include "platform/TextControls.h"
 #include "ui/BlockingOverlay.h"
 #include "ui/ModalWindow.h"
 

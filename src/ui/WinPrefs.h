@@ -1,7 +1,6 @@
 #pragma once
 
-#include "platform/CheckBox.h"
-#include "platform/PushButton.h"
+#include "platform/Buttons.h"
 #include "ui/BlockingOverlay.h"
 #include "ui/ModalWindow.h"
 

@@ -1,6 +1,5 @@
 #include "ui/WrittenNumber.h"
 
-#include "platform/Ascii.h"
 #include "platform/Text.h"
 #include "platform/Utf8.h"
 

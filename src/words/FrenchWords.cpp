@@ -1,6 +1,5 @@
 #include "words/FrenchWords.h"
 
-#include "platform/Ascii.h"
 #include "platform/Text.h"
 
 #include <algorithm>

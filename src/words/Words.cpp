@@ -1,10 +1,10 @@
 #include "words/Words.h"
 
-#include "platform/CheckBox.h"
+#include "platform/Buttons.h"
 #include "platform/Numbers.h"
 #include "platform/PopupMenu.h"
 #include "platform/Text.h"
-#include "platform/TextField.h"
+#include "platform/TextControls.h"
 #include "ui/App.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"

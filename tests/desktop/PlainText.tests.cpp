@@ -1,5 +1,4 @@
 #include "desktop/QtText.h"
-#include "desktop/VisibleText.h"
 
 #include <QString>
 

@@ -2,7 +2,7 @@
 // where the chunks end, and comes back from the file that is written of it.
 #include "app/PreferencesText.h"
 #include "fuzz/Must.h"
-#include "platform/TextInputStream.h"
+#include "platform/TextStreams.h"
 #include "platform/Utf8.h"
 #include "support/MemoryFileSystem.h"
 

@@ -1,8 +1,7 @@
 #include "machine/PosixFileSystem.h"
 #include "machine/FailingCalls.h"
-#include "machine/MountedVolumes.h"
 #include "machine/TemporaryFolder.h"
-#include "platform/IOException.h"
+#include "platform/FileSystem.h"
 
 #include <doctest/doctest.h>
 

@@ -1,7 +1,7 @@
 #include "machine/FailingCalls.h"
 #include "machine/PosixFileSystem.h"
 #include "machine/TemporaryFolder.h"
-#include "platform/IOException.h"
+#include "platform/FileSystem.h"
 
 #include <doctest/doctest.h>
 

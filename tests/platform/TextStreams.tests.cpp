@@ -1,6 +1,5 @@
-#include "platform/IOException.h"
-#include "platform/TextInputStream.h"
-#include "platform/TextOutputStream.h"
+#include "platform/TextStreams.h"
+#include "platform/FileSystem.h"
 #include "support/MemoryFileSystem.h"
 
 #include <doctest/doctest.h>

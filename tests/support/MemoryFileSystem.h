@@ -2,7 +2,6 @@
 
 #include "platform/FileSystem.h"
 #include "platform/FolderItem.h"
-#include "platform/IOException.h"
 
 #include <algorithm>
 #include <map>

@@ -2,7 +2,6 @@
 
 #include "app/Program.h"
 #include "conversion/WinMain.h"
-#include "platform/Announcer.h"
 #include "platform/Desktop.h"
 #include "platform/Dialogs.h"
 #include "platform/Http.h"

@@ -1,6 +1,6 @@
-#include "platform/Ascii.h"
-#include "platform/IOException.h"
+#include "platform/FileSystem.h"
 #include "platform/Numbers.h"
+#include "platform/Text.h"
 #include "primes/engine/DigitNeighbourhood.h"
 #include "primes/engine/PrimeFile.h"
 

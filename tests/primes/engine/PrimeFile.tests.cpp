@@ -1,4 +1,4 @@
-#include "platform/IOException.h"
+#include "platform/FileSystem.h"
 #include "primes/RunFixture.h"
 #include "primes/engine/PlainPrimeFile.h"
 #include "primes/engine/Reference.h"

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Control.h"
+#include "platform/Mask.h"
 
 #include <functional>
 #include <string>
@@ -75,6 +76,74 @@ protected:
 
 private:
     ChangedBy changing_ = ChangedBy::Program; // of the change of Text under way
+};
+
+// One line of text. The mask binds the user alone; the program may set any text. While the field is without
+// the focus, a number in it is shown through Format, if there is one; the text itself stays as it is.
+class TextField final : public TextControl {
+public:
+    using TextControl::TextControl;
+
+    // What the field shows now.
+    std::string DisplayText() const;
+
+    Property<std::string> Mask{*this};
+    Property<std::string> Format{*this};
+    Property<Alignment> TextAlignment{*this, Alignment::Left};
+
+    // Shows the whole of its text, in smaller type where it must, but while it is being edited.
+    Property<bool> ShowsAll{*this, false};
+
+protected:
+    // Line ends and other controls are left out of what comes in, and the rest must fit the mask.
+    bool Takes(TextEdit& edit) const override;
+};
+
+// A stretch of a styled text, in characters.
+struct TextStyle {
+    int Start = 0;
+    int Length = 0;
+    bool Bold = false;
+    bool Underline = false;
+    int TextSize = 0; // points; 0 is the area's own
+
+    bool operator==(const TextStyle&) const = default;
+};
+
+// Several lines of text with a vertical scroll bar. Line breaks are CR, LF or both.
+class TextArea final : public TextControl {
+public:
+    using TextControl::TextControl;
+
+    // Styles of the selection, as they were set; a new Text starts without any.
+    void SetSelBold(bool bold) { StyleOfSelection().Bold = bold, Changed(); }
+    void SetSelUnderline(bool underline) { StyleOfSelection().Underline = underline, Changed(); }
+    void SetSelTextSize(int size) { StyleOfSelection().TextSize = size, Changed(); }
+    const std::vector<TextStyle>& Styles() const { return styles_; }
+
+    // Into how many columns tab stops divide the area's width, the text behind each tab ending at its stop; 0
+    // is the platform's own way.
+    Property<int> TabColumns{*this, 0};
+
+protected:
+    void PropertyChanged(const void* property) override {
+        if (property == &Text) {
+            styles_.clear();
+        }
+        TextControl::PropertyChanged(property);
+    }
+
+private:
+    TextStyle& StyleOfSelection() {
+        for (TextStyle& style : styles_) {
+            if (style.Start == SelStart() && style.Length == SelLength()) {
+                return style;
+            }
+        }
+        return styles_.emplace_back(TextStyle{SelStart, SelLength, false, false, 0});
+    }
+
+    std::vector<TextStyle> styles_;
 };
 
 } // namespace tessarolyne

@@ -1,5 +1,6 @@
-#include "platform/TextControl.h"
+#include "platform/TextControls.h"
 
+#include "platform/Numbers.h"
 #include "platform/Text.h"
 
 #include <algorithm>
@@ -55,6 +56,19 @@ void TextControl::PropertyChanged(const void* property) {
     if (property == &Text) {
         TextChange(changedBy);
     }
+}
+
+std::string TextField::DisplayText() const {
+    if (Format().empty() || HasFocus() || !IsNumeric(Text())) {
+        return Text();
+    }
+    return LTrim(tessarolyne::Format(CDbl(Text()), Format()));
+}
+
+bool TextField::Takes(TextEdit& edit) const {
+    const bool inserts = !edit.inserted.empty();
+    edit.inserted = OneLine(edit.inserted);
+    return !inserts || (!edit.inserted.empty() && tessarolyne::Mask(Mask()).Holds(edit.After()));
 }
 
 } // namespace tessarolyne

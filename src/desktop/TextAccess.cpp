@@ -1,7 +1,8 @@
-#include "desktop/LineAccess.h"
+#include "desktop/TextAccess.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
+#include <QApplication>
 #include <QFontMetrics>
 #include <QLineEdit>
 
@@ -127,6 +128,30 @@ QAccessibleInterface* MakeAccess(const QString& className, QObject* object) {
 
 void TellTextsAsTheyAre() {
     QAccessible::installFactory(MakeAccess); // once, however often it is called
+}
+
+namespace {
+
+// Who has the focus; unlike QApplication::focusWidget() only once its own handler of the focus has returned.
+const QObject* focused = nullptr;
+
+void Tell(QAccessibleEvent* event) {
+    const bool isOfCaret =
+        event->type() == QAccessible::TextCaretMoved || event->type() == QAccessible::TextSelectionChanged;
+    if (isOfCaret && (event->object() != focused || focused != QApplication::focusWidget())) {
+        return;
+    }
+    QAccessible::installUpdateHandler(nullptr); // Qt's own, which has no name, is what stands in its place
+    QAccessible::updateAccessibility(event);
+    QAccessible::installUpdateHandler(Tell);
+}
+
+} // namespace
+
+void TellFocusBeforeCaret() {
+    QAccessible::installUpdateHandler(Tell);
+    QObject::connect(
+        qApp, &QApplication::focusChanged, qApp, [](const QWidget*, const QWidget* now) { focused = now; });
 }
 
 } // namespace tessarolyne

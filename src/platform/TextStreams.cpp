@@ -1,6 +1,6 @@
-#include "platform/TextInputStream.h"
+#include "platform/TextStreams.h"
 
-#include "platform/IOException.h"
+#include "platform/FileSystem.h"
 
 #include <string_view>
 #include <utility>
@@ -66,6 +66,10 @@ std::string TextInputStream::ReadLine(std::size_t longest) {
         }
     }
     return line;
+}
+
+TextOutputStream TextOutputStream::Create(const FolderItem& item, LinkPolicy links) {
+    return TextOutputStream(item.Files().CreateSafely(item.NativePath(), links));
 }
 
 } // namespace tessarolyne

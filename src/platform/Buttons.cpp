@@ -1,8 +1,15 @@
-#include "platform/RadioButton.h"
+#include "platform/Buttons.h"
 
 #include "platform/Window.h"
 
 namespace tessarolyne {
+
+void CheckBox::PropertyChanged(const void* property) {
+    Control::PropertyChanged(property);
+    if (property == &Value) {
+        Action();
+    }
+}
 
 void RadioButton::PropertyChanged(const void* property) {
     if (property == &Value && Value()) {
