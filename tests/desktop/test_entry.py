@@ -10,6 +10,7 @@ class Entry(ProgramTestCase):
         subprocess.run(
             ["xclip", "-in", "-selection", "clipboard"], env=self.screen.environment, input=text, text=True, check=True
         )
+        self.program.wait_for(lambda: self.screen.clipboard() == text, "the clipboard to have its owner")
         self.screen.press("ctrl+v")
 
     def tips(self):

@@ -1,16 +1,14 @@
-"""The about window, the preferences, the help and the update check, as a user meets them."""
+"""The about window, the preferences and the help, as a user meets them."""
 
 from pathlib import Path
 
 from case import ProgramTestCase
 from program import PROGRAM
-from version_site import VERSION_FILE, Site, page
 
 AUTHOR_SITE = "http://www.tessarolyne.example"
 AUTHOR_SITE_2 = "http://www2.tessarolyne.example"
 QUESTIONS = f"{AUTHOR_SITE}/prg/Xojo/Tessarolyne_FAQ.html"
 BUILD_TOOL_SITE = "http://www.buildtool.example"
-DOWNLOAD = "http://download.example/"
 
 
 class SmallWindows(ProgramTestCase):
@@ -92,47 +90,3 @@ class SmallWindows(ProgramTestCase):
         self.screen.press("ctrl+q")
         self.assertEqual(self.program.wait_for_end(), 0)
         self.assertIn("Auto Check Update :@: True", self.preferences_file.read_text())
-
-
-class UpdateCheck(ProgramTestCase):
-    """The program of the same parts at a site of the tests' own, with a deadline of five seconds."""
-
-    PREFERENCES = SmallWindows.PREFERENCES + "Auto Check Update :@: True\nDate Launch :@: 2020-02-02 02:02:02\n"
-
-    @classmethod
-    def setUpClass(cls):
-        cls.site = Site()
-        cls.addClassCleanup(cls.site.end)
-        super().setUpClass()
-
-    @classmethod
-    def command(cls):
-        return [PROGRAM.parent / "tests" / "desktop" / "ProgramAtSite", cls.site.address + VERSION_FILE]
-
-    def version_file(self, version):
-        return page(f"Release Notes\r\n{DOWNLOAD}\r\n{version}\r\n-- Plus vite -- Plus sûr\r\n")
-
-    def test_a_start_on_a_new_day_tells_of_a_new_version_and_the_menu_of_every_outcome(self):
-        self.site.answer(self.version_file("v.9.9"))
-        self.find("text", "Une nouvelle mise à jour est disponible.\nv.9.9\n• Plus vite\n• Plus sûr")
-        self.click("push button", "Site Web")
-        self.wait_until_opened(DOWNLOAD)
-
-        self.choose_command("Vérifier les mises à jour")
-        self.site.answer(self.version_file("v.1.0.0"))
-        self.find("text", "Cette version est à jour.\nv.1.0.0")
-        self.click("push button", "Historique")
-        self.wait_until_opened(self.site.address + "/prg/Xojo/Tessarolyne_AffV.html")
-
-        self.choose_command("Vérifier les mises à jour")
-        self.site.answer(page("<html>Not Found</html>"))
-        bad = self.find("text", "Impossible de vérifier les mises à jour")
-        self.assertNotIn("Server Error", bad.text)
-        self.click("push button", "Ok")
-
-        self.choose_command("Vérifier les mises à jour")
-        self.assertEqual(self.find("progress bar", "Recherche d'une mise à jour").description, "")
-        silent = self.find_with_keyboard("text", "Impossible de vérifier les mises à jour")
-        self.assertTrue(silent.text.endswith("\n\nServer Error 102"))
-        self.screen.press("Return")
-        self.wait_until_gone("push button", "Ok")

@@ -4,6 +4,8 @@
 #include "primes/engine/Wheel30.h"
 
 #include <algorithm>
+#include <type_traits>
+#include <utility>
 
 namespace tessarolyne {
 
@@ -35,51 +37,19 @@ inline void StrikeTurns(std::uint8_t* bytes, std::uint32_t size, std::uint32_t q
 
 // Strikes from the product at byte `at` with cofactor bit `cofactor` to the end of the stretch; gives the
 // cofactor bit of the first product behind it and leaves its byte in `at`.
-template <unsigned Class>
-inline unsigned StrikeFrom(
-    unsigned cofactor, std::uint8_t* bytes, std::uint32_t size, std::uint32_t quotient, std::uint32_t& at) {
-    for (;; cofactor = 0) {
-        switch (cofactor) {
-        case 0:
+template <unsigned Class, unsigned... Bits>
+inline unsigned StrikeFrom(std::integer_sequence<unsigned, Bits...>, unsigned cofactor, std::uint8_t* bytes,
+    std::uint32_t size, std::uint32_t quotient, std::uint32_t& at) {
+    for (unsigned behind = 0;; cofactor = 0) {
+        if (cofactor == 0) {
             StrikeTurns<Class>(bytes, size, quotient, at);
-            if (!StrikeOnce<Class, 0>(bytes, size, quotient, at)) {
-                return 0;
-            }
-            [[fallthrough]];
-        case 1:
-            if (!StrikeOnce<Class, 1>(bytes, size, quotient, at)) {
-                return 1;
-            }
-            [[fallthrough]];
-        case 2:
-            if (!StrikeOnce<Class, 2>(bytes, size, quotient, at)) {
-                return 2;
-            }
-            [[fallthrough]];
-        case 3:
-            if (!StrikeOnce<Class, 3>(bytes, size, quotient, at)) {
-                return 3;
-            }
-            [[fallthrough]];
-        case 4:
-            if (!StrikeOnce<Class, 4>(bytes, size, quotient, at)) {
-                return 4;
-            }
-            [[fallthrough]];
-        case 5:
-            if (!StrikeOnce<Class, 5>(bytes, size, quotient, at)) {
-                return 5;
-            }
-            [[fallthrough]];
-        case 6:
-            if (!StrikeOnce<Class, 6>(bytes, size, quotient, at)) {
-                return 6;
-            }
-            [[fallthrough]];
-        default:
-            if (!StrikeOnce<Class, 7>(bytes, size, quotient, at)) {
-                return 7;
-            }
+        }
+        const auto strike = [&]<unsigned Bit>(std::integral_constant<unsigned, Bit>) {
+            behind = Bit;
+            return Bit < cofactor || StrikeOnce<Class, Bit>(bytes, size, quotient, at);
+        };
+        if (!(strike(std::integral_constant<unsigned, Bits>()) && ...)) {
+            return behind;
         }
     }
 }
@@ -100,20 +70,17 @@ template <unsigned Class>
 void StrikeList::StrikeClass(std::vector<Striker>& strikers, std::uint8_t* bytes, std::uint32_t size) {
     for (Striker& striker : strikers) {
         std::uint32_t at = striker.place / 8;
-        const unsigned cofactor = StrikeFrom<Class>(striker.place % 8, bytes, size, striker.quotient, at);
+        const unsigned cofactor = StrikeFrom<Class>(
+            std::make_integer_sequence<unsigned, 8>(), striker.place % 8, bytes, size, striker.quotient, at);
         striker.place = 8 * (at - size) + cofactor;
     }
 }
 
 void StrikeList::Strike(std::uint8_t* bytes, std::uint32_t size) {
-    StrikeClass<0>(classes_[0], bytes, size);
-    StrikeClass<1>(classes_[1], bytes, size);
-    StrikeClass<2>(classes_[2], bytes, size);
-    StrikeClass<3>(classes_[3], bytes, size);
-    StrikeClass<4>(classes_[4], bytes, size);
-    StrikeClass<5>(classes_[5], bytes, size);
-    StrikeClass<6>(classes_[6], bytes, size);
-    StrikeClass<7>(classes_[7], bytes, size);
+    [&]<std::size_t... Classes>(std::index_sequence<Classes...>) {
+        (StrikeClass<Classes>(classes_[Classes], bytes, size), ...);
+    }
+    (std::make_index_sequence<8>());
 }
 
 } // namespace tessarolyne
