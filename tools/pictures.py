@@ -109,7 +109,7 @@ class Session:
     def _take_list(self):
         self._program.click(self._program.find("check box", "Liste", "Prime"))
         window = self._new_window()
-        limit = self._program.find("text", "Calculer", "Calculate")
+        limit = self._program.find("text", "Calculer", "Compute")
         self._program.wait_for(lambda: limit.focused, "the list to take the keyboard")
         self._run_list_to(LIST_LIMIT)
         self._program.find("label", "78 498")

@@ -79,9 +79,3 @@ TEST_CASE("Who has given, or says so, isn't asked again, whatever the browser do
         CHECK(world.Saves("Don 03 :@: True"));
     }
 }
-
-TEST_CASE("A quit during the donation prompt goes through and sends no request") {
-    const Prompted world([](Prompted& self, WinInfos&) { self.program->app.RequestQuit(); });
-    CHECK(world.loop.ExitCode() == 0);
-    CHECK(world.http.requests.empty());
-}

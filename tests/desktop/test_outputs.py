@@ -11,23 +11,6 @@ class Outputs(ProgramTestCase):
         self.clear("EditFieldNbre")
         self.screen.type(number)
 
-    def test_bases_and_alphabets(self):
-        self.enter("255")
-        self.wait_for_text("EditFieldBaseOrg", "FF")
-        self.wait_for_text("EditFieldBaseDest", "1111 1111")
-        self.choose("PopupMenuBaseDest", 6)
-        self.wait_for_text("EditFieldBaseDest", "377")
-        self.focus("EditFieldBaseOrg")  # what the program writes where the caret is counts as typed no more than elsewhere
-        self.choose("PopupMenuBaseOrg", 0)
-        self.wait_for_text("EditFieldBaseOrg", "1111 1111")
-        self.press_button("RadioButton09AZ 1")
-        self.wait_for_text("EditFieldBaseOrg", "BBBB BBBB")
-        self.focus("EditFieldNbre")
-        self.press_button("CheckBoxFormatAuto")
-        self.wait_for_text("EditFieldBaseOrg", "BBBBBBBB")
-        self.press_button("CheckBoxFormatAuto")
-        self.wait_for_text("EditFieldBaseOrg", "BBBB BBBB")
-
     def test_bases_that_make_another_number_leave_the_factors_dimmed(self):
         factors = self.control("TxtAreaDecomp1er")
         left, top, _, _ = factors.bounds

@@ -49,12 +49,6 @@ class Window(ProgramTestCase):
         sizes = re.findall(r"Icon \((\d+) x \1\)", properties)
         self.assertEqual(["16", "22", "24", "32", "48", "64", "128"], sorted(sizes, key=int))
 
-    def test_the_window_cannot_be_resized(self):
-        before = self.program.size
-        hints = self.screen.run("xprop", "-id", self.program.window, "WM_NORMAL_HINTS")
-        self.assertIn(f"minimum size: {before[0]} by {before[1]}", hints)
-        self.assertIn(f"maximum size: {before[0]} by {before[1]}", hints)
-
     def test_the_window_comes_back_where_it_was_and_does_not_creep(self):
         self.program.move(173, 91)
         place = self.program.position

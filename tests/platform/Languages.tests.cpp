@@ -15,16 +15,13 @@ TEST_CASE("The first wanted language that there is decides, and a region falls b
         {{"fr_FR", "en_US"}, {}},
         {{"de"}, {}},
         {{"de_CH", "fr_CH", "en"}, {"fr_CH"}},
-        // a region's catalogue serves that region alone
         {{"pt_PT", "en"}, {"en"}},
-        // spellings of the environment, of the desktop, and wrong ones
         {{"en_GB.UTF-8"}, {"en_GB", "en"}},
         {{"fr_CH.utf8@euro"}, {"fr_CH"}},
         {{"EN-us"}, {"en_US", "en"}},
         {{"en-Latn-GB"}, {"en_GB", "en"}},
         {{"en-u-ca-gregory"}, {"en"}},
         {{"english", "e", "e1", "_GB", "", "-", "fr_BE"}, {"fr_BE"}},
-        // these name no language
         {{"tlh", "C", "en"}, {"en"}},
     };
     for (const auto& row : rows) {

@@ -50,15 +50,6 @@ TEST_CASE("A header and lines of numbers with tabs between them are written") {
           "Label : 2\n9007199254740992\n18446744073709551616\n");
 }
 
-TEST_CASE("What was written is read again, at every length of the lines") {
-    const Numbers primes = Primes(2'000'000);
-    for (const int perLine : {0, 1, 9, 10, static_cast<int>(primes.size())}) {
-        const std::string bytes = WrittenNumbers(primes, perLine);
-        CHECK(ReadQuickly(bytes, 256 * 1024).numbers == primes);
-        CHECK(ReadQuickly(bytes, 1000).numbers == primes);
-    }
-}
-
 TEST_CASE("A file that others wrote gives the numbers that it holds") {
     const std::pair<std::string, Numbers> cases[] = {
         {"", {}},
