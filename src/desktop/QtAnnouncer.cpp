@@ -43,17 +43,27 @@ QWidget* WindowToSpeakFrom() {
 
 } // namespace
 
-// A reader asks for the text a moment after it was told that the box shows, so that it has to stay.
+// Not at once: where a run ends, all controls come back, and a reader that many events reach together passes
+// over some of them, Orca over all but those of the focus.
 void QtAnnouncer::Say(const std::string& text) {
+    constexpr int rest = 400; // milliseconds
+    text_ = WithLineFeeds(text);
+    if (QAccessible::isActive()) {
+        rest_.start(rest);
+    }
+}
+
+// A reader asks for the text a moment after it was told that the box shows, so that it has to stay.
+void QtAnnouncer::Show() {
     QWidget* const window = WindowToSpeakFrom();
-    if (!QAccessible::isActive() || window == nullptr) {
+    if (window == nullptr) {
         return;
     }
     QAccessible::installFactory(MakeAccess); // once, however often it is called
     delete last_;
     auto* const box = new NoticePart(QAccessible::Notification, window);
     auto* const label = new NoticePart(QAccessible::StaticText, box);
-    label->setAccessibleName(WithLineFeeds(text));
+    label->setAccessibleName(text_);
     last_ = box;
     box->show();
 }

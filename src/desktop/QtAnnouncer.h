@@ -3,6 +3,8 @@
 #include "platform/Desktop.h"
 
 #include <QPointer>
+#include <QString>
+#include <QTimer>
 #include <QWidget>
 
 namespace tessarolyne {
@@ -12,9 +14,18 @@ namespace tessarolyne {
 // focus is.
 class QtAnnouncer final : public Announcer {
 public:
+    QtAnnouncer() {
+        rest_.setSingleShot(true);
+        rest_.callOnTimeout([this] { Show(); });
+    }
+
     void Say(const std::string& text) override;
 
 private:
+    void Show();
+
+    QString text_;
+    QTimer rest_;            // until it is shown
     QPointer<QWidget> last_; // it goes with its window
 };
 

@@ -34,6 +34,11 @@ public:
         state.selected = line_.hasSelectedText();
         return state;
     }
+    // A caption that leads here by its letter may say less than the name, and a reader would prefer it.
+    QVector<QPair<QAccessibleInterface*, QAccessible::Relation>> relations(
+        QAccessible::Relation match) const override {
+        return QAccessibleWidget::relations(match & ~QAccessible::Label);
+    }
     QString text(QAccessible::Text kind) const override {
         return kind == QAccessible::Value ? line_.text() : QAccessibleWidget::text(kind);
     }

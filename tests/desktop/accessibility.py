@@ -74,6 +74,10 @@ class Control:
         return self._accessible.get_description()
 
     @property
+    def labelled(self):
+        return any(r.get_relation_type() == Atspi.RelationType.LABELLED_BY for r in self._accessible.get_relation_set())
+
+    @property
     def value(self):
         """How far a progress bar is."""
         return int(Atspi.Value.get_current_value(self._accessible))

@@ -62,6 +62,7 @@ class ScreenReaderTestCase(ProgramTestCase):
         self.assertEqual([e for e in spoken if e[0] == "focused"], [])
         field = self.find("text", number)
         self.assertEqual(field.run_of_attributes(1), (0, 3))  # a reader speaks run by run
+        self.assertFalse(field.labelled)  # a reader prefers a label to the name
         before = self.hear(lambda: self.screen.press("Tab"), ("focused", "text", source))[:-1]
         self.assertEqual([e for e in before if e[0].startswith("text-") and e[3] == source], [])
         before = self.hear(lambda: self.screen.press("shift+Tab"), ("focused", "text", number))[:-1]
