@@ -23,7 +23,7 @@ float Between(float from, float to) {
     return from + (to - from) * towardsText;
 }
 
-// Fusion makes the outline of the colour of the window, which these elements show nothing else of.
+// Fusion derives the outline from the colour of the window, which these elements use for nothing else.
 template <typename Option>
 Option WithOutline(const Option& option) {
     Option outlined(option);

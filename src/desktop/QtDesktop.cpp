@@ -31,7 +31,7 @@ bool AskOpener(const QUrl& url, const std::function<void()>& refused) {
     if (opener.isEmpty()) {
         return false;
     }
-    // Nobody's child: destroyed while it runs, it would be killed, and the browser with it.
+    // Without a parent: a process that is destroyed while it runs is killed, and the browser with it.
     auto* const process = new QProcess;
     process->setStandardInputFile(QProcess::nullDevice());
     process->setStandardOutputFile(QProcess::nullDevice());

@@ -23,7 +23,7 @@ constexpr int longestDrop = 100;
 
 const QEvent::Type taskPosted = static_cast<QEvent::Type>(QEvent::registerEventType());
 
-// Keeps what the user does from everybody, but for the wish to quit.
+// Drops all input of the user, except the wish to quit.
 class InputSink final : public QObject {
 protected:
     bool eventFilter(QObject*, QEvent* event) override {

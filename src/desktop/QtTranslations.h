@@ -21,8 +21,8 @@ class QtTranslations final : public Translations {
 public:
     // The catalogues beside the program, in the languages of the user's desktop.
     QtTranslations();
-    // The catalogues "tessarolyne_<language>.qm" of `folder`, for a desktop that wants these languages, the
-    // dearest first.
+    // The catalogues "tessarolyne_<language>.qm" of `folder`, for a desktop that wants these languages, in
+    // the order of preference.
     QtTranslations(const QString& folder, const std::vector<std::string>& wanted);
 
     std::optional<std::string> Find(std::string_view key, std::string_view language) const override;

@@ -34,7 +34,7 @@ private:
 };
 
 // Any number of observers of one fact. Observers may come and go while the signal is being given; it isn't
-// for the program's own handlers, of which there is one a control (see Event).
+// for the program's own handlers, of which each control has one (see Event).
 template <typename... Args>
 class Signal {
 public:
