@@ -245,9 +245,12 @@ void WindowView::PullOntoScreen() {
     const QRect available = screen()->availableGeometry();
     const QRect frame = frameGeometry();
     const QPoint lastPlace(available.right() + 1 - frame.width(), available.bottom() + 1 - frame.height());
-    if (PlacesWindows()) {
-        move(std::max(std::min(frame.left(), lastPlace.x()), available.left()),
-            std::max(std::min(frame.top(), lastPlace.y()), available.top()));
+    const QPoint place(std::max(std::min(frame.left(), lastPlace.x()), available.left()),
+        std::max(std::min(frame.top(), lastPlace.y()), available.top()));
+    // A window without a place of its own gets one from the window manager, maybe only now: a move would undo
+    // it.
+    if (testAttribute(Qt::WA_Moved) && PlacesWindows()) {
+        move(place);
     }
     TellPlace();
 }
