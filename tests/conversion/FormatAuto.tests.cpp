@@ -32,6 +32,9 @@ TEST_CASE("The switch brings what is shown into line both ways, but for the edit
     window.EditFieldMonnaie.UserFocused();
     window.CheckBoxFormatAuto.UserPressed();
     CHECK(window.EditFieldNbre.Text() == "1 234.50");
+    window.EditFieldNbre.UserFocused();
+    CHECK(window.EditFieldNbre.Text() == "1234.50");
+    window.EditFieldMonnaie.UserFocused();
     CHECK(window.EditFieldBaseOrg.Text() == "#Erreur Nbre !");
     CHECK(window.EditFieldBaseDest.Text() == "#Erreur Nbre !");
 }
