@@ -29,10 +29,12 @@ std::optional<std::string> ListOf(const std::string& path) {
     return list;
 }
 
-// An empty list takes away what a new file may have from its folder.
+// An empty list takes away what a new file may have from its folder. Where a sandbox is given a file, even
+// that is refused, and there is nothing to take away.
 bool SetList(int file, const std::string& list) {
     if (list.empty()) {
-        return ::fremovexattr(file, accessList) == 0 || SaysNone(errno);
+        return ::fremovexattr(file, accessList) == 0 ||
+               (::fgetxattr(file, accessList, nullptr, 0) < 0 && SaysNone(errno));
     }
     return ::fsetxattr(file, accessList, list.data(), list.size(), 0) == 0;
 }

@@ -20,6 +20,9 @@ bool Sync(int file);
 // An empty file without a name, for the user alone, gone when it is closed. Throws IOException.
 Descriptor NamelessFile();
 
+// Whether the folder has the open file under this name, and it is a regular one.
+bool IsNamed(int folder, const std::string& name, int file);
+
 // Puts the content of one open file into another that stays what it is, with its name, owner, permissions and
 // further names. Its old content is kept aside meanwhile and put back if this fails; only the end of the
 // process in the middle leaves it in part. Throws IOException.

@@ -29,16 +29,6 @@ Locked TryLock(int file) {
     return errno == EWOULDBLOCK ? Locked::ByAnother : Locked::No;
 }
 
-// Whether the folder still has the open file under this name. Two sweeps may meet: the first removes the
-// name, and a new save takes it before the second has its lock.
-bool StillNamed(int folder, const std::string& name, int file) {
-    struct stat open {};
-    struct stat named {};
-    return ::fstat(file, &open) == 0 && S_ISREG(open.st_mode) &&
-           ::fstatat(folder, name.c_str(), &named, AT_SYMLINK_NOFOLLOW) == 0 && open.st_dev == named.st_dev &&
-           open.st_ino == named.st_ino;
-}
-
 // Whether a name is one that TemporaryFile gives.
 bool IsOurs(std::string_view name) {
     if (!name.starts_with(prefix) || name.size() == prefix.size()) {
@@ -52,7 +42,9 @@ void Sweep(int folder, const std::string& name) {
     // Open for writing, as network file systems want it for an exclusive lock.
     constexpr int flags = O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
     const Descriptor file(Uninterrupted([&] { return ::openat(folder, name.c_str(), flags); }));
-    if (file.IsOpen() && TryLock(*file) == Locked::Yes && StillNamed(folder, name, *file)) {
+    // Two sweeps may meet: the first removes the name, and a new save takes it before the second has its
+    // lock.
+    if (file.IsOpen() && TryLock(*file) == Locked::Yes && IsNamed(folder, name, *file)) {
         ::unlinkat(folder, name.c_str(), 0);
     }
 }
@@ -96,7 +88,7 @@ bool TemporaryFile::Lock() {
     if (::fstat(*file_, &status) != 0) {
         ThrowErrno("look at the temporary file");
     }
-    if (status.st_nlink > 0 || StillNamed(folder_, name_, *file_)) {
+    if (status.st_nlink > 0 || IsNamed(folder_, name_, *file_)) {
         return true;
     }
     name_.clear(); // it may be another save's by now
@@ -107,7 +99,7 @@ bool TemporaryFile::TakeName(const std::string& name) {
     // Over a network the answer may get lost: what counts is whose name it is.
     const bool renamed = ::renameat(folder_, name_.c_str(), folder_, name.c_str()) == 0;
     const int error = errno;
-    if (!renamed && !StillNamed(folder_, name, *file_)) {
+    if (!renamed && !IsNamed(folder_, name, *file_)) {
         errno = error;
         return false;
     }

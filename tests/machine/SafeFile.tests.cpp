@@ -175,7 +175,8 @@ TEST_CASE("Where the file system can do less, a save does with less") {
     const Row rows[] = {{{{"fchmod", EPERM}, {"flock", EINVAL}, {"fchown", EIO}}, 0600, 0600},
         {{{"fchmod", EPERM}}, 0644, 0600}, {{{"fsync", EINVAL}}, 0644, 0644},
         {{{"lgetxattr", EOPNOTSUPP}, {"fremovexattr", EOPNOTSUPP}}, 0644, 0644},
-        {{{"lgetxattr", EIO}}, 0644, 0644, true}, {{{"fremovexattr", EIO}}, 0644, 0644, true},
+        {{{"lgetxattr", EIO}}, 0644, 0644, true}, {{{"fremovexattr", EPERM}}, 0644, 0644},
+        {{{"openat, no link", ELOOP}, {"renameat", EBUSY}}, 0644, 0644, true},
         {{{"renameat", EPERM}}, 0600, 0600, true}, {noRename, 0644, 0644, true}};
     for (const Row& row : rows) {
         for (const std::string& text : {newText, std::string("short")}) {
@@ -282,9 +283,12 @@ TEST_CASE("A file keeps its access control list, and doesn't get its folder's") 
         MESSAGE("skipped: no access control lists here");
         return;
     }
-    CHECK(disk.Save(newText));
-    CHECK(listOf().empty());
-    CHECK(disk.Permissions() == 0640);
+    for (const char* refused : {"nothing", "fremovexattr"}) {
+        CHECK(disk.SaveFailing({{refused, EPERM}}, refused));
+        CHECK(disk.Left() == refused);
+        CHECK(listOf().empty());
+        CHECK(disk.Permissions() == 0640);
+    }
     const auto list = listWith(nobody);
     REQUIRE(::setxattr((disk / "f").c_str(), accessList, list.data(), list.size(), 0) == 0);
     for (const char* refused : {"nothing", "fsetxattr"}) {
