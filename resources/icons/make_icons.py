@@ -1,10 +1,12 @@
 #!/usr/bin/env python3
-"""Makes the hicolor icons beside this script from pictures/IconApp.svg. Needs rsvg-convert (librsvg2-bin).
+"""Makes the hicolor icons beside this script, and the about window's picture, from pictures/IconApp.svg.
 
+Needs rsvg-convert (librsvg2-bin).
 The scalable icon is that picture itself, under its installed name. Where its tiles would fall between pixels, the
 icon is drawn anew on the grid of the pixels.
 """
 
+import shutil
 import subprocess
 from pathlib import Path
 
@@ -50,3 +52,4 @@ for grid_size, grid in GRIDS.items():
     write(grid_size, on_the_grid(grid_size, *grid))
 for scaled_size in SCALED_SIZES:
     write(scaled_size, PICTURE.read_text(encoding="utf-8"))
+shutil.copy(HERE / "hicolor" / "128x128" / "apps" / f"{NAME}.png", PICTURE.with_name("IconApp_128.png"))
