@@ -8,7 +8,7 @@
 #include "ui/App.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"
-#include "ui/NumberOutput.h"
+#include "ui/NumberField.h"
 #include "words/AmountInWords.h"
 
 namespace tessarolyne {
@@ -40,14 +40,8 @@ void Words::ConvNbreLettresD() {
             Localisation::Txt_ErrNbre() + std::string(endOfLine) + Localisation::Txt_EntrerUnNbrePositif());
         return;
     }
-    const std::string code = PopupMenuLg.Text();
-    const auto language = WordsLanguageOf(code);
-    if (!language) {
-        fncts_.ReportFault("ConvNbreLettresD, PopupMenuLg.Text = '" + code + "'");
-        return;
-    }
     AmountSettings settings;
-    settings.language = *language;
+    settings.language = PopupMenuLg.Text();
     settings.singularCurrency = EditFieldMonnaie.Text();
     settings.pluralCurrency = EditFieldMonnaies.Text();
     settings.singularCents = EditFieldCentime.Text();
@@ -56,6 +50,11 @@ void Words::ConvNbreLettresD() {
     settings.capital = CheckBoxMajusc.Value;
     settings.tooLargeText = Localisation::Txt_EntrerNbreAuDessousDe();
     settings.report = [this](std::string_view place) { fncts_.ReportFault(std::string(place)); };
+    const std::string& code = settings.language;
+    if (code != "en" && code != "fr" && code != "ch be") {
+        fncts_.ReportFault("ConvNbreLettresD, PopupMenuLg.Text = '" + code + "'");
+        return;
+    }
     output_.Write(AmountInWords(value, settings));
 }
 

@@ -10,17 +10,17 @@ using namespace tessarolyne;
 
 namespace {
 
-constexpr auto fr = WordsLanguage::Fr;
-constexpr auto chBe = WordsLanguage::ChBe;
-constexpr auto en = WordsLanguage::En;
+constexpr const char* fr = "fr";
+constexpr const char* chBe = "ch be";
+constexpr const char* en = "en";
 
-AmountSettings Euros(WordsLanguage language, bool hyphens = false, bool capital = false) {
+AmountSettings Euros(const char* language, bool hyphens = false, bool capital = false) {
     return {language, "euro", "euros", "centime", "centimes", hyphens, capital, "trop  grand !", {}};
 }
 
 struct Example {
     double value;
-    WordsLanguage language;
+    const char* language;
     const char* words;
 };
 
@@ -72,21 +72,11 @@ TEST_CASE("The first letter becomes a capital, also that of a message") {
     CHECK(AmountInWords(1e12, settings) == " zéro centime");
 }
 
-TEST_CASE(
-    "Cents are rounded from the double's exact value, a half upwards, with no share in the whole part") {
-    const std::pair<double, const char*> cases[] = {{-0.0, "0"}, {0.05, "5"}, {4.35, "35"}, {0.99, "99"},
-        {0.125, "13"}, {0.375, "38"}, {1234567.125, "13"}, // exact halves
-        {0.005, "1"},                                      // 0.005000000000000000104
-        {0.015, "1"},  // 0.01499999999999999944, whose hundredfold as a double is 1.5
-        {1.005, "0"},  // 1.00499999999999989
-        {0.285, "28"}, // 0.284999999999999976
-        {0.995, "99"}, // 0.99499999999999999556
-        {0.9951, "0"}, // 1.00
-        {std::numeric_limits<double>::denorm_min(), "0"}, {9007199254740993.0, "0"}};
-    for (const auto& [value, cents] : cases) {
-        CAPTURE(value);
-        CHECK(Cents(value) == cents);
+TEST_CASE("Cents are rounded from the double's exact value, with no share in the whole part") {
+    for (const auto& [value, words] :
+        {std::pair(-0.0, "zéro euro zéro"), {0.05, "zéro euro cinq"}, {4.35, "quatre euros trente-cinq"},
+            {0.125, "zéro euro treize"}, {1.999, "un euro zéro"}, {0.995, "zéro euro quatre-vingt-dix-neuf"},
+            {999999999999.99, "neuf cent quatre-vingt-dix-neuf milliards neuf cent "}}) {
+        CHECK(AmountInWords(value, Euros(fr)).starts_with(words));
     }
-    CHECK(WholePart(999999999999.99) == "999999999999");
-    CHECK(AmountInWords(1.999, Euros(fr)) == "un euro zéro centime");
 }

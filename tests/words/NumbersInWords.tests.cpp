@@ -1,5 +1,4 @@
-#include "words/EnglishWords.h"
-#include "words/FrenchWords.h"
+#include "words/NumbersInWords.h"
 #include "words/PlainSpeller.h"
 
 #include <doctest/doctest.h>
