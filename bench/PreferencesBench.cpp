@@ -73,7 +73,7 @@ int main() {
     const auto peerWrite = Measure([&] { std::ofstream(peerPath, std::ios::binary) << text; });
     Preferences read;
     const auto reading = Measure([&] {
-        if (ReadPreferencesFile(item, PreferencesLimits(), read) != PreferencesOutcome::Read) {
+        if (ReadPreferencesFile(item, read) != PreferencesOutcome::Read) {
             Stop("what was written can't be read");
         }
     });

@@ -107,9 +107,8 @@ bool Quitting::AskAboutNewPrimes(bool& enregistrer) {
     if (Nb1ersEnPlus == 0 || !PasNil_Existe_Alias(app_.FichNbPrems, true)) {
         return false;
     }
-    const std::string question = Localisation::Txt_IlYaNouvNbPrem();
     const std::string count = FormatWhole(static_cast<std::uint64_t>(Nb1ersEnPlus), true);
-    const int answer = AskOnTheWayOut(fncts_.FracTexte(question, 1) + count + fncts_.FracTexte(question, 2),
+    const int answer = AskOnTheWayOut(fncts_.Filled(Localisation::Txt_IlYaNouvNbPrem(), {count}),
         primeFile_.PrimeFile.isForeign ? Localisation::Txt_CeciEffSonCont() : "", Localisation::Btn_Enreg(),
         Localisation::Btn_NePasEnreg(), Localisation::Btn_NePasQuit(), 0);
     enregistrer = answer == 1;
@@ -159,7 +158,7 @@ void Quitting::SaveWithoutAsking() {
     if (listeVisible) {
         surroundings_.winNbresPremiers().KeepSettings();
     }
-    app_.SavePreferencesQuietly(listeVisible);
+    app_.PrefsSauver(listeVisible, true);
     if (!surroundings_.HasWinChargSauvNb1ers()) {
         primeFile_.SaveQuietly();
     }

@@ -1,15 +1,12 @@
 #include "conversion/BaseConversion.h"
 
 #include "platform/Numbers.h"
-#include "platform/Utf8.h"
+#include "platform/Text.h"
+#include "ui/Localisation.h"
+#include "ui/WrittenNumber.h"
 
-#include <algorithm>
-#include <array>
-#include <cstddef>
 #include <cstdint>
 #include <limits>
-#include <optional>
-#include <vector>
 
 namespace tessarolyne {
 
@@ -17,60 +14,20 @@ namespace {
 
 constexpr std::uint64_t largestValue = std::numeric_limits<std::uint64_t>::max();
 
-constexpr std::size_t noDigit = std::u32string::npos;
-
-// The characters of an alphabet as digits, for writing and, whatever their case, for reading.
-class Digits {
-public:
-    explicit Digits(std::string_view alphabet) {
-        for (std::size_t at = 0; at < alphabet.size();) {
-            const Character character = CharacterAt(alphabet, at);
-            texts_.push_back(alphabet.substr(at, character.size));
-            codes_ += UppercaseOf(character.code);
-            at += character.size;
-        }
-        asciiValues_.fill(noDigit);
-        for (std::size_t digit = codes_.size(); digit-- > 0;) { // the first of two equal characters counts
-            const char32_t code = codes_[digit];
-            if (code < asciiValues_.size()) {
-                asciiValues_[code] = digit;
-                asciiValues_[code >= 'A' && code <= 'Z' ? code - 'A' + 'a' : code] = digit;
-            }
-        }
-    }
-
-    std::size_t Count() const { return texts_.size(); }
-
-    std::string_view Text(std::size_t digit) const { return texts_[digit]; }
-
-    // The value of the digit with this code, or noDigit. Digits are ASCII as a rule; their table is what
-    // keeps a megabyte of them to a few milliseconds.
-    std::size_t Value(char32_t code) const {
-        return code < asciiValues_.size() ? asciiValues_[code] : codes_.find(UppercaseOf(code));
-    }
-
-private:
-    std::vector<std::string_view> texts_;
-    std::u32string codes_;
-    std::array<std::size_t, 128> asciiValues_;
-};
-
-// Value times base plus digit, or the largest value where that doesn't fit.
-std::uint64_t NextValue(std::uint64_t value, std::uint64_t base, std::uint64_t digit) {
-    return value > (largestValue - digit) / base ? largestValue : value * base + digit;
+std::string_view DigitsOf(int base, std::string_view alphabet) {
+    return (base == 10 ? alphabet09AZ : alphabet).substr(0, static_cast<std::size_t>(base));
 }
 
-// Nothing for a text with a character outside the base, wherever it stands.
-std::optional<std::uint64_t> ReadInAlphabet(std::string_view nombre, std::size_t base, const Digits& digits) {
+// Nothing for a text with a character outside the digits, wherever it stands.
+std::optional<std::uint64_t> Read(std::string_view nombre, std::string_view digits) {
     std::uint64_t value = 0;
-    for (std::size_t at = 0; at < nombre.size();) {
-        const Character character = CharacterAt(nombre, at);
-        const std::size_t digit = digits.Value(character.code);
-        if (digit == noDigit || digit >= base) {
+    for (const char c : Uppercase(nombre)) {
+        const std::size_t digit = digits.find(c);
+        if (digit == std::string_view::npos) {
             return std::nullopt;
         }
-        value = NextValue(value, base, digit);
-        at += character.size;
+        const bool fits = value <= (largestValue - digit) / digits.size();
+        value = fits ? value * digits.size() + digit : largestValue;
     }
     return value;
 }
@@ -83,34 +40,63 @@ std::optional<std::uint64_t> ReadDecimal(std::string_view nombre) {
     return value <= -1 ? largestValue : ToUInt64(value);
 }
 
-std::string WriteInAlphabet(std::uint64_t value, std::size_t base, const Digits& digits) {
-    std::vector<std::string_view> fromRight;
-    do {
-        fromRight.push_back(digits.Text(value % base));
-        value /= base;
-    } while (value > 0);
+std::string Write(std::uint64_t value, std::string_view digits) {
     std::string result;
-    std::for_each(fromRight.rbegin(), fromRight.rend(), [&](std::string_view digit) { result += digit; });
+    do {
+        result.insert(0, 1, digits[value % digits.size()]);
+        value /= digits.size();
+    } while (value > 0);
     return result;
+}
+
+bool BeginsWith(std::string_view text, std::string_view prefix) {
+    return Uppercase(text.substr(0, prefix.size())) == prefix;
+}
+
+// How many characters of the text are the prefix of its base.
+std::size_t PrefixSize(std::string_view text, int base) {
+    if (base == 16 && text.starts_with('#')) {
+        return 1;
+    }
+    const char* const prefix = base == 2 ? "0B" : base == 8 ? "0O" : "0X";
+    return (base == 2 || base == 8 || base == 16) && BeginsWith(text, prefix) ? 2 : 0;
 }
 
 } // namespace
 
-std::string ConvNbreBase(
-    std::string_view nombre, int baseOrg, int baseDest, std::string_view alphabet, const ErrorTexts& errors) {
-    const Digits digits(alphabet);
-    const auto isBase = [&](int base) {
-        return base >= 2 && static_cast<std::size_t>(base) <= digits.Count();
-    };
-    if (!isBase(baseOrg) || !isBase(baseDest)) {
-        return errors.errBase;
+std::string ConvNbreBase(std::string_view nombre, int baseOrg, int baseDest, std::string_view alphabet) {
+    for (const int base : {baseOrg, baseDest}) {
+        if (base < smallestBase || base > static_cast<int>(alphabet.size())) {
+            return Localisation::Txt_ErrBase();
+        }
     }
-    const auto value = baseOrg == 10 ? ReadDecimal(nombre)
-                                     : ReadInAlphabet(nombre, static_cast<std::size_t>(baseOrg), digits);
-    if (!value) {
-        return errors.errNbre;
+    const auto value = baseOrg == 10 ? ReadDecimal(nombre) : Read(nombre, DigitsOf(baseOrg, alphabet));
+    return value ? Write(*value, DigitsOf(baseDest, alphabet)) : Localisation::Txt_ErrNbre();
+}
+
+bool IsErrorText(std::string_view text) {
+    return text == Localisation::Txt_ErrNbre() || text == Localisation::Txt_ErrBase();
+}
+
+// The letters-first alphabet has other digits than those that the prefixes announce, "H" among them.
+std::string BareDigits(std::string_view text, int base, std::string_view alphabet) {
+    std::string digits = WithPlainSigns(text);
+    std::erase_if(digits, [](char c) { return std::string_view(" _:'").find(c) != std::string_view::npos; });
+    if (alphabet != alphabet09AZ) {
+        return digits;
     }
-    return baseDest == 10 ? Str(*value) : WriteInAlphabet(*value, static_cast<std::size_t>(baseDest), digits);
+    const std::size_t prefix = PrefixSize(digits, base);
+    const bool endsInH = base == 16 && prefix == 0 && digits.size() > 1 && Uppercase(digits).ends_with('H');
+    return digits.substr(prefix, digits.size() - prefix - (endsInH ? 1 : 0));
+}
+
+bool AreDigits(std::string_view digits, int base, std::string_view alphabet) {
+    return Uppercase(digits).find_first_not_of(DigitsOf(base, alphabet)) == std::string::npos;
+}
+
+std::optional<std::string> DigitsAsPasted(std::string_view pasted, int base, std::string_view alphabet) {
+    const std::string digits = BareDigits(Trimmed(pasted), base, alphabet);
+    return digits.empty() || !AreDigits(digits, base, alphabet) ? std::nullopt : std::optional(digits);
 }
 
 } // namespace tessarolyne

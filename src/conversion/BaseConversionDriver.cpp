@@ -1,7 +1,6 @@
 // The number in two bases: which field is the source, what the others show, and the check by a second route.
 
 #include "conversion/BaseConversion.h"
-#include "conversion/BaseDigits.h"
 #include "conversion/NumberEntry.h"
 #include "platform/Buttons.h"
 #include "platform/Numbers.h"
@@ -11,23 +10,21 @@
 #include "ui/App.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"
+#include "ui/NumberField.h"
 #include "ui/NumberFormat.h"
-#include "ui/NumberOutput.h"
 
 namespace tessarolyne {
-
-std::string NumberEntry::ConvNbreBase(
-    std::string_view nombre, int baseOrg, int baseDest, std::string_view alphabet) {
-    return tessarolyne::ConvNbreBase(
-        nombre, baseOrg, baseDest, alphabet, {Localisation::Txt_ErrNbre(), Localisation::Txt_ErrBase()});
-}
 
 std::string_view NumberEntry::Alphabet() const {
     return RadioButton09AZ[0].Value() ? alphabet09AZ : alphabetAZ09;
 }
 
 int NumberEntry::BaseOrg() const {
-    return PopupMenuBaseOrg.ListIndex + 2;
+    return PopupMenuBaseOrg.ListIndex + smallestBase;
+}
+
+int NumberEntry::BaseDest() const {
+    return PopupMenuBaseDest.ListIndex + smallestBase;
 }
 
 std::string NumberEntry::SourceDigits() const {
@@ -37,29 +34,22 @@ std::string NumberEntry::SourceDigits() const {
 // The digits in EditFieldBaseOrg may be another number now, of which the factors and the words don't speak
 // before the next key.
 void NumberEntry::ConvertAgain() {
-    if (!app_.initProg) {
-        return;
+    if (app_.initProg) {
+        ConvNbreBaseD();
+        outputs_.factors.Compare();
+        outputs_.words.Compare();
     }
-    ConvNbreBaseD();
-    outputs_.factors.Compare();
-    outputs_.words.Compare();
 }
 
 void NumberEntry::ConvNbreBaseD() {
-    const int baseOrg = BaseOrg();
-    const std::string_view alphabet = Alphabet();
     std::string decimal;
     std::string source;
-    bool withinLimit = true;
-    if (drapTimerNbre_) {
-        withinLimit = ConvertDecimal(decimal, source, baseOrg, alphabet);
-    } else {
-        ConvertSourceBase(decimal, source, baseOrg, alphabet);
-    }
+    const bool isNumber =
+        drapTimerNbre_ ? ConvertDecimal(decimal, source) : ConvertSourceBase(decimal, source);
     if (decimal.empty()) {
         EditFieldBaseDest.Text = "";
-    } else if (withinLimit && IsNumeric(decimal)) {
-        ShowDestination(decimal, source, baseOrg, alphabet);
+    } else if (isNumber) {
+        ShowDestination(decimal, source);
     } else {
         const std::string error = Localisation::Txt_ErrNbre();
         if (drapTimerNbre_) {
@@ -74,32 +64,31 @@ void NumberEntry::ConvNbreBaseD() {
     }
 }
 
-// From EditFieldNbre to EditFieldBaseOrg. False if the number is above the limit.
-bool NumberEntry::ConvertDecimal(
-    std::string& decimal, std::string& source, int baseOrg, std::string_view alphabet) {
+void NumberEntry::ShowDigits(TextField& champ, const std::string& digits, int base) {
+    champ.Text = IsErrorText(digits) ? digits : FormatType(digits, base, CheckBoxFormatAuto.Value);
+}
+
+// From EditFieldNbre to EditFieldBaseOrg. False if that is no number, or one above the limit.
+bool NumberEntry::ConvertDecimal(std::string& decimal, std::string& source) {
     decimal = WithoutBlanks(EditFieldNbre.Text());
-    if (decimal.empty()) {
-        EditFieldBaseOrg.Text = "";
-        return true;
-    }
     const double value = CDbl(decimal);
     if (value > static_cast<double>(NbreMax)) {
         fncts_.Beep();
         return false;
     }
-    const bool whole = value == Round(value);
-    source = whole ? ConvNbreBase(decimal, 10, baseOrg, alphabet) : Localisation::Txt_ErrNbre();
-    EditFieldBaseOrg.Text =
-        IsErrorText(source) ? source : FormatType(source, baseOrg, CheckBoxFormatAuto.Value);
-    return true;
+    if (!decimal.empty()) {
+        source = value == Round(value) ? ConvNbreBase(decimal, 10, BaseOrg(), Alphabet())
+                                       : Localisation::Txt_ErrNbre();
+    }
+    ShowDigits(EditFieldBaseOrg, source, BaseOrg());
+    return IsNumeric(decimal);
 }
 
 // From EditFieldBaseOrg to EditFieldNbre, which also shows what is wrong.
-void NumberEntry::ConvertSourceBase(
-    std::string& decimal, std::string& source, int baseOrg, std::string_view alphabet) {
+bool NumberEntry::ConvertSourceBase(std::string& decimal, std::string& source) {
     source = SourceDigits();
     if (!source.empty()) {
-        decimal = ConvNbreBase(source, baseOrg, 10, alphabet);
+        decimal = ConvNbreBase(source, BaseOrg(), 10, Alphabet());
     }
     if (CDbl(decimal) > static_cast<double>(NbreMax)) {
         fncts_.Beep();
@@ -108,24 +97,19 @@ void NumberEntry::ConvertSourceBase(
         fncts_.Beep();
     }
     EditFieldNbre.Text = FormatNbre(decimal, CheckBoxFormatAuto.Value);
+    return IsNumeric(decimal);
 }
 
-void NumberEntry::ShowDestination(
-    const std::string& decimal, const std::string& source, int baseOrg, std::string_view alphabet) {
+void NumberEntry::ShowDestination(const std::string& decimal, const std::string& source) {
     if (IsErrorText(source)) {
         EditFieldBaseDest.Text = Localisation::Txt_ErrNbre();
         return;
     }
-    const int baseDest = PopupMenuBaseDest.ListIndex + 2;
-    const std::string dest = ConvNbreBase(source, baseOrg, baseDest, alphabet);
-    if (IsErrorText(dest)) {
-        EditFieldBaseDest.Text = dest;
-        return;
-    }
-    EditFieldBaseDest.Text = FormatType(dest, baseDest, CheckBoxFormatAuto.Value);
-    const std::string checked = ConvNbreBase(decimal, 10, baseDest, alphabet);
-    if (dest != checked) {
-        ReportConversionMismatch(checked, baseDest, dest, baseOrg);
+    const std::string dest = ConvNbreBase(source, BaseOrg(), BaseDest(), Alphabet());
+    ShowDigits(EditFieldBaseDest, dest, BaseDest());
+    const std::string checked = ConvNbreBase(decimal, 10, BaseDest(), Alphabet());
+    if (!IsErrorText(dest) && dest != checked) {
+        ReportConversionMismatch(checked, BaseDest(), dest, BaseOrg());
     }
 }
 
@@ -139,9 +123,8 @@ void NumberEntry::ReportConversionMismatch(
     }
     memErrConv_ = key;
     fncts_.Beep();
-    const auto piece = [this](int n) { return fncts_.FracTexte(Localisation::Txt_ErrTranscBase(), n); };
-    const std::string message = piece(1) + Localisation::Txt_EnBase() + Str(baseDest) + piece(2) +
-                                fromDecimal + piece(3) + Str(baseOrg) + piece(4) + fromSource + piece(5);
+    const std::string message = fncts_.Filled(Localisation::Txt_ErrTranscBase(),
+        {Localisation::Txt_EnBase() + Str(baseDest), fromDecimal, Str(baseOrg), fromSource});
     fncts_.MyDialogBox(
         message, Localisation::Txt_MerciContactAuteur(), Localisation::Btn_Ok(), "", "", 1, nullptr);
 }

@@ -1,7 +1,7 @@
 // Menus, buttons and keys of the main window, and the one rule for what may be used when.
 
 #include "app/Version.h"
-#include "conversion/BaseDigits.h"
+#include "conversion/BaseConversion.h"
 #include "conversion/WinMain.h"
 #include "platform/Desktop.h"
 #include "platform/MenuBar.h"
@@ -10,12 +10,13 @@
 #include "platform/Text.h"
 #include "primes/WinNbresPremiers.h"
 #include "ui/App.h"
-#include "ui/CopyOffers.h"
 #include "ui/Localisation.h"
+#include "ui/NumberField.h"
 #include "ui/WinInfos.h"
 #include "ui/WinPrefs.h"
 
 #include <array>
+#include <functional>
 #include <utility>
 
 namespace tessarolyne {
@@ -75,7 +76,7 @@ void WinMain::OfferBaseCopies(TextField& source, const PopupMenu& baseMenu) {
             if (baseMenu.ListIndex == base - 2 && RadioButton09AZ[0].Value()) {
                 const std::string text = prefix + BareDigits(bare, base, entry.Alphabet());
                 commands.push_back(
-                    CopyCommand(fncts, fncts.FracTexte(Localisation::Txt_CopierForme(), 1) + text, text));
+                    CopyCommand(fncts, fncts.Filled(Localisation::Txt_CopierForme(), {text}), text));
             }
         }
     });
@@ -126,84 +127,40 @@ void WinMain::BevelButtonListe_Action() {
     }
 }
 
+// A shortcut reaches a command also when its item isn't enabled: it counts as handled, and does nothing.
 void WinMain::AddMenuHandlers() {
-    using Handler = bool (WinMain::*)();
-    constexpr std::array<std::pair<const char*, Handler>, 7> handlers = {{
-        {"FichChoixFichNbP", &WinMain::FichChoixFichNbP_Action},
-        {"FichSauvFichNbP", &WinMain::FichSauvFichNbP_Action},
-        {"AppleAPropos", &WinMain::AppleAPropos_Action},
-        {"AideAide", &WinMain::AideAide_Action},
-        {"AppleVMaJ", &WinMain::AppleVMaJ_Action},
-        {"ApplePrefs", &WinMain::ApplePrefs_Action},
-        {"AppleDon", &WinMain::AppleDon_Action},
-    }};
-    for (const auto& [name, handler] : handlers) {
+    const auto on = [this](const char* name, std::function<void()> command) {
         if (MenuItem* item = app.GetMenuBar()->Find(name)) {
-            item->Action = [this, act = handler] { return (this->*act)(); };
+            item->Action = [item, command = std::move(command)] {
+                if (item->Enabled()) {
+                    command();
+                }
+                return true;
+            };
         }
-    }
-}
-
-bool WinMain::MenuItemIsEnabled(const char* name) const {
-    const MenuItem* item = app.GetMenuBar()->Find(name);
-    return item != nullptr && item->Enabled();
-}
-
-bool WinMain::FichChoixFichNbP_Action() {
-    return UsePrimeFile("FichChoixFichNbP", true);
-}
-
-bool WinMain::FichSauvFichNbP_Action() {
-    return UsePrimeFile("FichSauvFichNbP", false);
-}
-
-bool WinMain::UsePrimeFile(const char* item, bool load) {
-    if (MenuItemIsEnabled(item)) {
-        if (!BevelButtonListe.Value) {
-            program.winNbresPremiers().Show();
-        }
-        program.winNbresPremiers().Btn_Fich(load, false, false);
-    }
-    return true;
-}
-
-bool WinMain::AppleVMaJ_Action() {
-    if (MenuItemIsEnabled("AppleVMaJ")) {
-        updateCheck.Start();
-    }
-    return true;
-}
-
-bool WinMain::AppleAPropos_Action() {
-    if (MenuItemIsEnabled("AppleAPropos")) {
-        program.winInfos().ShowModal();
-    }
-    return true;
-}
-
-bool WinMain::ApplePrefs_Action() {
-    if (MenuItemIsEnabled("ApplePrefs")) {
-        program.winPrefs().ShowModal();
-    }
-    return true;
-}
-
-bool WinMain::AppleDon_Action() {
-    if (MenuItemIsEnabled("AppleDon")) {
+    };
+    on("FichChoixFichNbP", [this] { UsePrimeFile(true); });
+    on("FichSauvFichNbP", [this] { UsePrimeFile(false); });
+    on("AppleAPropos", [this] { program.winInfos().ShowModal(); });
+    on("AppleVMaJ", [this] { updateCheck.Start(); });
+    on("ApplePrefs", [this] { program.winPrefs().ShowModal(); });
+    on("AppleDon", [this] {
         app.DejaDonne = true;
         fncts.ShowURL(donationAddress);
-    }
-    return true;
+    });
+    on("AideAide", [this] { AideAide_Action(); });
 }
 
-bool WinMain::AideAide_Action() {
-    if (!MenuItemIsEnabled("AideAide")) {
-        return true;
+void WinMain::UsePrimeFile(bool load) {
+    if (!BevelButtonListe.Value) {
+        program.winNbresPremiers().Show();
     }
-    const std::string text = Localisation::Txt_AideNonDispo();
-    const std::string message = fncts.FracTexte(text, 1) + "Tessarolyne" + fncts.FracTexte(text, 2) +
-                                Localisation::Menu_AppleApropos() + fncts.FracTexte(text, 3) +
-                                Fncts::TypeCompil() + fncts.FracTexte(text, 4);
+    program.winNbresPremiers().Btn_Fich(load, false, false);
+}
+
+void WinMain::AideAide_Action() {
+    const std::string message = fncts.Filled(Localisation::Txt_AideNonDispo(),
+        {"Tessarolyne", Localisation::Menu_AppleApropos(), Fncts::TypeCompil()});
     const int answer = fncts.MyDialogBox(message, "", Localisation::Btn_LireAbout(),
         Localisation::Btn_Fermer(), Localisation::Btn_FAQ(), 0, nullptr, {"", "", questionsAddress});
     if (answer == 1) {
@@ -211,7 +168,6 @@ bool WinMain::AideAide_Action() {
     } else if (answer == 3) {
         fncts.ShowURL(questionsAddress);
     }
-    return true;
 }
 
 } // namespace tessarolyne

@@ -2,7 +2,7 @@
 
 #include "conversion/NumberEntry.h"
 
-#include "conversion/BaseDigits.h"
+#include "conversion/BaseConversion.h"
 #include "platform/Buttons.h"
 #include "platform/Clock.h"
 #include "platform/Numbers.h"
@@ -30,6 +30,7 @@ namespace {
 constexpr int recalculationDelay = 20; // shorter than the time between two keystrokes
 constexpr int typingPause = 1000;
 constexpr int waitToBeSeen = 500;
+constexpr int pauseInBase = 1000;
 
 } // namespace
 
@@ -76,11 +77,6 @@ void NumberEntry::Begin() {
     EditFieldNbre.SetFocus();
     focusNbre_ = true;
     focusBase_ = false;
-}
-
-// Whether a field shows one of the two texts that stand for a number there is none of.
-bool NumberEntry::IsErrorText(std::string_view text) {
-    return text == Localisation::Txt_ErrNbre() || text == Localisation::Txt_ErrBase();
 }
 
 bool& NumberEntry::IsBeingEdited(const TextField& champ) {
@@ -130,9 +126,25 @@ void NumberEntry::Regroup(bool grouped) {
         }
     }
     if (!IsErrorText(EditFieldBaseDest.Text())) {
-        EditFieldBaseDest.Text =
-            FormatType(EditFieldBaseDest.Text(), PopupMenuBaseDest.ListIndex + 2, grouped);
+        EditFieldBaseDest.Text = FormatType(EditFieldBaseDest.Text(), BaseDest(), grouped);
     }
+}
+
+// The second digit of a base belongs to the first if it comes soon and makes a base with it.
+bool NumberEntry::PopupMenuBase_KeyDown(PopupMenu& menu, const std::string& key) {
+    if (key.size() != 1 || !IsDigit(key[0])) {
+        return false;
+    }
+    const int digit = key[0] - '0';
+    const std::int64_t now = clock_.Milliseconds();
+    const int both = now - digitTypedAt_ <= pauseInBase ? firstDigit_ * 10 + digit : digit;
+    const bool isSecond = both != digit && both <= largestBase;
+    firstDigit_ = isSecond ? 0 : digit;
+    digitTypedAt_ = now;
+    if (const int base = isSecond ? both : digit; base >= smallestBase) {
+        menu.ListIndex = base - smallestBase;
+    }
+    return true;
 }
 
 // What the program writes is no input, whichever field has the focus.
@@ -212,8 +224,7 @@ bool NumberEntry::TakeBaseEdit(TextEdit& edit) {
         edit.removed = static_cast<int>(Len(edit.before));
     }
     const int base = BaseOrg();
-    const std::string text = Localisation::Txt_RefusBase();
-    const std::string why = fncts_.FracTexte(text, 1) + Str(base) + fncts_.FracTexte(text, 2);
+    const std::string why = fncts_.Filled(Localisation::Txt_RefusBase(), {Str(base)});
     if (Len(edit.inserted) == 1 && OneLine(edit.inserted) == edit.inserted) {
         if (!AreDigits(BareDigits(edit.After(), base, Alphabet()), base, Alphabet())) {
             EditFieldBaseOrg.Notify(why); // the beep comes with the error that the other fields show

@@ -1,7 +1,6 @@
 #pragma once
 
 #include "conversion/NumberHistory.h"
-#include "conversion/TypedBase.h"
 #include "platform/Event.h"
 #include "platform/TextControls.h"
 #include "platform/Timer.h"
@@ -81,7 +80,6 @@ public:
 
 private:
     void BindEvents();
-    void BindAnnouncements();
     void GotFocus(TextField& champ);
     void LostFocus(TextField& champ);
     void ShowFormatted(TextField& champ, bool grouped);
@@ -90,15 +88,13 @@ private:
     void TimerTempo_Action();
     void ChangeNbre();
 
-    bool ConvertDecimal(std::string& decimal, std::string& source, int baseOrg, std::string_view alphabet);
-    void ConvertSourceBase(std::string& decimal, std::string& source, int baseOrg, std::string_view alphabet);
-    void ShowDestination(
-        const std::string& decimal, const std::string& source, int baseOrg, std::string_view alphabet);
+    bool ConvertDecimal(std::string& decimal, std::string& source);
+    bool ConvertSourceBase(std::string& decimal, std::string& source);
+    void ShowDestination(const std::string& decimal, const std::string& source);
+    void ShowDigits(TextField& champ, const std::string& digits, int base);
     void ConvertAgain();
-    static bool IsErrorText(std::string_view text);
-    static std::string ConvNbreBase(
-        std::string_view nombre, int baseOrg, int baseDest, std::string_view alphabet);
     int BaseOrg() const;
+    int BaseDest() const;
     void TakeAsSource(bool isDecimal, ChangedBy who);
     std::string SourceDigits() const;
     bool TakeBaseEdit(TextEdit& edit);
@@ -128,7 +124,8 @@ private:
     bool recalling_ = false;     // the edit under way brings an earlier number back
     bool deleting_ = false;      // so did the user at the last edit
     std::string beforeDeletion_; // the number that stood there before
-    TypedBase typedBase_;
+    int firstDigit_ = 0;         // of a base that is being typed; 0: none
+    std::int64_t digitTypedAt_ = 0;
 };
 
 } // namespace tessarolyne

@@ -16,14 +16,15 @@ public:
     // Takes a number in as the latest; nothing for an empty text.
     void Add(const std::string& number);
 
-    // One step towards the first number, skipping `shown`, the number that stands there; nothing at the end.
-    // `text` is what is being typed, kept at the first step.
-    std::optional<std::string> Earlier(const std::string& shown, const std::string& text);
-    // One step back: a number, or at the last step the text that was being typed.
+    // A number, or the text that was being typed.
     struct Step {
         std::string text;
         bool isDraft = false;
     };
+    // One step towards the first number, skipping `shown`, the number that stands there; nothing at the end.
+    // `text` is what is being typed, kept at the first step.
+    std::optional<Step> Earlier(const std::string& shown, const std::string& text);
+    // One step back, the last of them to the draft.
     std::optional<Step> Later();
 
     // The user types again: the next step begins at the latest number. What was being typed counts as one.

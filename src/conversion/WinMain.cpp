@@ -1,9 +1,9 @@
 #include "conversion/WinMain.h"
 
 #include "primes/WinNbresPremiers.h"
-#include "ui/CopyOffers.h"
 #include "ui/HelpTags.h"
 #include "ui/Localisation.h"
+#include "ui/NumberField.h"
 
 namespace tessarolyne {
 
@@ -65,6 +65,7 @@ void WinMain::SetInitialState() {
     CheckBoxFormatAuto.Caption = Localisation::ChBoxFormatAuto();
     RadioButton09AZ[0].Caption = "01…89AB…YZ";
     RadioButton09AZ[1].Caption = "AB…YZ01…89";
+    RadioButton09AZ[1].HelpTag = Localisation::RadioButtonAZ09_HT();
     BevelButtonListe.Caption = Localisation::BevelButtListe();
     BevelButtonListe.HasState = true;
     PushButtDecomposer.Caption = Localisation::Btn_Decomposer();

@@ -11,7 +11,7 @@
 #include "primes/Decomposition.h"
 #include "primes/PrimeFileBinding.h"
 #include "ui/BlockingOverlay.h"
-#include "ui/NumberOutput.h"
+#include "ui/NumberField.h"
 #include "ui/ProgramWindow.h"
 #include "words/Words.h"
 
@@ -107,16 +107,6 @@ public:
     void BevelButtonListe_Action();
     void PushButtDecomposer_Action();
 
-    // The menu's commands. Each acts only if its item is enabled, since a shortcut reaches it also when it
-    // isn't, and says in any case that the command was handled.
-    bool FichChoixFichNbP_Action();
-    bool FichSauvFichNbP_Action();
-    bool AppleAPropos_Action();
-    bool AideAide_Action();
-    bool AppleDon_Action();
-    bool ApplePrefs_Action();
-    bool AppleVMaJ_Action();
-
 private:
     void BindEvents();
     void BindSubjects();
@@ -124,8 +114,8 @@ private:
     void NameForScreenReaders();
     void GiveAltKeys();
     void AddMenuHandlers();
-    bool MenuItemIsEnabled(const char* name) const;
-    bool UsePrimeFile(const char* item, bool load);
+    void UsePrimeFile(bool load);
+    void AideAide_Action();
     void AddCopyShortcuts();
     void OfferBaseCopies(TextField& source, const PopupMenu& baseMenu);
     void TurnWheel(bool& reason, bool on);

@@ -6,7 +6,6 @@
 #include "platform/ShownControls.h"
 #include "platform/Text.h"
 #include "primes/engine/PrimeTable.h"
-#include "ui/FracTexte.h"
 #include "ui/Localisation.h"
 #include "ui/NumberFormat.h"
 
@@ -61,7 +60,7 @@ void CalculationProgress::End() {
 void CalculationProgress::TellBeside(std::uint64_t reached, std::uint64_t goal) {
     constexpr std::uint64_t most = 99;
     label_->Text = goal == 0 ? Localisation::Txt_EchapStoppe()
-                             : ReplaceAll(Localisation::Txt_Avancement(), placeForValue,
+                             : ReplaceAll(Localisation::Txt_Avancement(), Localisation::placeForValue,
                                    std::to_string(std::min(reached * 100 / goal, most)));
     label_->Visible = true;
 }

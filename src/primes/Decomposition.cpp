@@ -8,8 +8,8 @@
 #include "primes/engine/PrimeTable.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"
+#include "ui/NumberField.h"
 #include "ui/NumberFormat.h"
-#include "ui/NumberOutput.h"
 
 #include <numeric>
 

@@ -35,8 +35,8 @@ void PrimeFileBinding::OpenBoundFile() {
 }
 
 std::optional<FolderItem> PrimeFileBinding::ChooseForLoad() {
-    auto chosen = fncts_.MyDialogLoad(app_.FichNbPrems, Localisation::Txt_SelectFichierNbPrem(),
-        std::string(FileTypes::QueText.Name), nullptr);
+    auto chosen = fncts_.MyDialogLoad(
+        app_.FichNbPrems, Localisation::Txt_SelectFichierNbPrem(), FileTypes::QueText, nullptr);
     if (!chosen || !CanBeKept(*chosen)) {
         return {};
     }
@@ -52,7 +52,7 @@ void PrimeFileBinding::Load() {
 // one is complete.
 std::optional<FolderItem> PrimeFileBinding::ChooseAndSave() {
     const auto chosen = fncts_.MyDialogSave(app_.FichNbPrems, Localisation::Txt_SelectDossSauv(),
-        std::string(FileTypes::QueText.Name), Localisation::WinNbresTitre() + ".txt", nullptr);
+        FileTypes::QueText, Localisation::WinNbresTitre() + ".txt", nullptr);
     if (chosen && chosen->Exists() && !chosen->CanReplace(LinkPolicy::ReplaceLink)) {
         fncts_.Beep();
         fncts_.MyDialogBox(

@@ -4,7 +4,7 @@
 #include "platform/ShownControls.h"
 #include "primes/engine/PrimeFile.h"
 #include "ui/BlockingOverlay.h"
-#include "ui/ModalWindow.h"
+#include "ui/ProgramWindow.h"
 
 #include <cstdint>
 

@@ -10,10 +10,10 @@
 #include "primes/Calculation.h"
 #include "primes/PrimeFileBinding.h"
 #include "ui/App.h"
-#include "ui/CopyOffers.h"
 #include "ui/FileItems.h"
 #include "ui/HelpTags.h"
 #include "ui/Localisation.h"
+#include "ui/NumberField.h"
 #include "ui/NumberFormat.h"
 
 namespace tessarolyne {

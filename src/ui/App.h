@@ -25,10 +25,9 @@ public:
     // Takes defaults and the preferences file into the properties here and the main window's controls. True
     // if the preferences could not be had: no file, or one that can't be read to its end.
     bool PrefsCharger();
-    // Writes the preferences file. `listeVisible` says whether the prime list window is open.
-    void PrefsSauver(bool listeVisible);
-    // The same without a word to the user if it fails, for when nobody can be asked.
-    void SavePreferencesQuietly(bool listeVisible);
+    // Writes the preferences file. `listeVisible` says whether the prime list window is open; `quietly`, for
+    // when nobody can be asked, that a failure is not told.
+    void PrefsSauver(bool listeVisible, bool quietly = false);
 
     // The version as users see it, without "v.".
     const std::string ShortVersion;
@@ -45,10 +44,11 @@ public:
     std::array<std::int16_t, 4> WinNBP{};  // left, top, width, height of the prime list window
 
 private:
-    void Apply(const Preferences& preferences);
-    Preferences Gather(bool listeVisible) const;
+    template <class Copy>
+    void CopySettings(Preferences& preferences, const Copy& copy);
+    void Apply(Preferences& preferences);
+    Preferences Gather(bool listeVisible);
     void KeepOthersBinding(Preferences& preferences) const;
-    void WritePreferences(bool listeVisible);
     void PlaceMainWindow(int left, int top);
     void ChooseLanguage(const std::string& code);
 

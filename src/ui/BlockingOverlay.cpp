@@ -1,11 +1,64 @@
 #include "ui/BlockingOverlay.h"
 
-#include "platform/Window.h"
+#include "platform/Application.h"
 #include "ui/Fncts.h"
 
 #include <utility>
 
 namespace tessarolyne {
+
+namespace {
+
+constexpr int restingSize = 16;
+constexpr const char* overlayName = "LabBlockUI1";
+
+std::vector<Control*> Overlays(const Window& window) {
+    std::vector<Control*> found;
+    for (Control* control : window.Controls()) {
+        if (control->Name == overlayName) {
+            found.push_back(control);
+        }
+    }
+    return found;
+}
+
+void Cover(Window& window, Fncts& fncts) {
+    const auto overlays = Overlays(window);
+    if (overlays.empty()) {
+        fncts.ReportFaultInLines(
+            "CtrlDsFenetrDiag, there is not 'LabBlockUI' in window '" + window.Title() + "'");
+        return;
+    }
+    Control& overlay = *overlays.front();
+    overlay.Visible = true;
+    overlay.Top = 0;
+    overlay.Left = 0;
+    overlay.Width = window.Width();
+    overlay.Height = window.Height();
+    if (!overlay.LockLeft() || !overlay.LockTop()) {
+        fncts.ReportFaultInLines("CtrlDsFenetrDiag, 'LabBlockUI' should be Lock Left and Lock Top");
+        overlay.LockLeft = true;
+        overlay.LockTop = true;
+    }
+    overlay.LockRight = true;
+    overlay.LockBottom = true;
+    if (overlays.size() > 1) {
+        fncts.ReportFaultInLines(
+            "CtrlDsFenetrDiag, there is more than one 'LabBlockUI' in window '" + window.Title() + "'");
+    }
+}
+
+void Uncover(Window& window) {
+    for (Control* overlay : Overlays(window)) {
+        overlay->Visible = false;
+        overlay->Width = restingSize;
+        overlay->Height = restingSize;
+        overlay->LockRight = false;
+        overlay->LockBottom = false;
+    }
+}
+
+} // namespace
 
 BlockingOverlay::BlockingOverlay(Window& window, Fncts& fncts, TabTurn tab) : window_(window), fncts_(fncts) {
     Append("LabBlockUI", {0, 0, 16, 16}, tab);
@@ -43,6 +96,20 @@ void BlockingOverlay::LabBlockUI_Open(Label& label) {
 bool BlockingOverlay::LabBlockUI_MouseDown() {
     fncts_.Beep();
     return false;
+}
+
+bool Fncts::CtrlDsFenetrDiag(Window* fenetre, bool montrer) {
+    if (montrer && (fenetre == nullptr || !fenetre->Visible())) {
+        return false;
+    }
+    const auto windows = app_.Windows();
+    for (auto place = windows.rbegin(); place != windows.rend(); ++place) {
+        Window& window = **place;
+        if (window.Visible() && &window != fenetre) {
+            montrer ? Cover(window, *this) : Uncover(window);
+        }
+    }
+    return montrer;
 }
 
 } // namespace tessarolyne

@@ -16,8 +16,6 @@ class BlockingOverlay {
 public:
     BlockingOverlay(Window& window, Fncts& fncts, TabTurn tab);
 
-    static constexpr const char* overlayName = "LabBlockUI1";
-
     // The Open event of the members: makes member 1.
     void Open();
 

@@ -4,11 +4,13 @@
 #include "platform/Application.h"
 #include "platform/Clock.h"
 #include "platform/Desktop.h"
+#include "platform/Dialogs.h"
 #include "platform/EventLoop.h"
 #include "platform/Numbers.h"
 #include "platform/Services.h"
 #include "platform/Text.h"
-#include "ui/FracTexte.h"
+#include "platform/TextControls.h"
+#include "ui/FileItems.h"
 #include "ui/Localisation.h"
 #include "ui/SafeAddress.h"
 
@@ -75,19 +77,26 @@ std::string Fncts::TypeCompil() {
 }
 
 std::string Fncts::FracTexte(const std::string& texte, int partie) {
-    if (auto piece = TextPiece(texte, partie)) {
-        return *piece;
+    if (partie < 1 || partie > CountFields(texte, Localisation::placeForValue)) {
+        const std::string eol(endOfLine);
+        ReportFault("FracTexte. Partie = " + Str(partie) + eol + " " + eol + texte);
     }
-    const std::string eol(endOfLine);
-    ReportFault("FracTexte. Partie = " + Str(partie) + eol + " " + eol + texte);
-    return {};
+    return NthField(texte, Localisation::placeForValue, partie);
+}
+
+std::string Fncts::Filled(const std::string& texte, const std::vector<std::string>& values) {
+    std::string filled = FracTexte(texte, 1);
+    for (int partie = 2; const std::string& value : values) {
+        filled += value + FracTexte(texte, partie++);
+    }
+    return filled;
 }
 
 void Fncts::CopyToClipboard(const std::string& texte) {
     PlayT(Bip, false);
     PressPapTxt(texte);
     if (!texte.empty()) {
-        Announce(FracTexte(Localisation::Txt_Copie(), 1) + texte);
+        Announce(Filled(Localisation::Txt_Copie(), {texte}));
     }
 }
 
@@ -107,6 +116,108 @@ void Fncts::ReportFault(const std::string& place) {
 void Fncts::ReportFaultInLines(const std::string& place) {
     const std::string eol(endOfLine);
     MsgBox("Error !" + eol + "Please contact the authors." + eol + place);
+}
+
+void Fncts::DecPosCtrl(Window& fenetre) {
+    for (Control* control : fenetre.Controls()) {
+        if (dynamic_cast<TextField*>(control) != nullptr) {
+            control->Top = control->Top() - 1;
+        }
+    }
+}
+
+// Freezes the commands for as long as a dialog is up, and gives back what it found.
+class Fncts::DialogProtocol {
+public:
+    explicit DialogProtocol(Fncts& fncts)
+        : fncts_(fncts), step_(fncts.app_, nullptr), found_(fncts.DrapMenu), foundDialog_(fncts.DrapDiagBox) {
+        fncts_.DrapDiagBox = true;
+        fncts_.app_.MouseCursor = Cursor::Standard;
+        fncts_.DrapMenu = false;
+    }
+    ~DialogProtocol() {
+        fncts_.RestoreDrapMenu(found_);
+        fncts_.app_.MouseCursor = Cursor::None;
+        fncts_.DrapDiagBox = foundDialog_; // a quit may ask over a file chooser
+    }
+    DialogProtocol(const DialogProtocol&) = delete;
+    DialogProtocol& operator=(const DialogProtocol&) = delete;
+
+private:
+    Fncts& fncts_;
+    const Application::ModalStep step_;
+    const bool found_;
+    const bool foundDialog_;
+};
+
+int Fncts::MyDialogBox(const std::string& message, const std::string& explication,
+    const std::string& boutonAction, const std::string& boutonAnnuler, const std::string& boutonAutre,
+    int icone, Window* fenetre, const DialogHelpTags& bulles) {
+    const DialogProtocol protocol(*this);
+    const bool sheet = CtrlDsFenetrDiag(fenetre, true);
+    if (boutonAction.empty()) {
+        ReportFaultInLines("My DialogBox, BtnAct = ''");
+    }
+    MessageDialog dialog;
+    dialog.message = message.empty() ? " " : message;
+    dialog.explanation = explication;
+    dialog.actionCaption = boutonAction;
+    dialog.cancelCaption = boutonAnnuler;
+    dialog.alternateCaption = boutonAutre;
+    dialog.actionHelpTag = bulles.action;
+    dialog.cancelHelpTag = bulles.cancel;
+    dialog.alternateHelpTag = bulles.alternate;
+    dialog.icon = icone;
+    dialog.sheetOf = sheet ? fenetre : nullptr;
+    const auto button = static_cast<int>(services_.dialogs.Ask(dialog));
+    if (sheet) {
+        CtrlDsFenetrDiag(fenetre, false);
+    }
+    return button;
+}
+
+std::optional<FolderItem> Fncts::MyDialogLoad(const std::optional<FolderItem>& depart,
+    const std::string& invite, const FileType& filtre, Window* fenetre) {
+    return ChooseItem(depart, invite, filtre, "", fenetre, false);
+}
+
+std::optional<FolderItem> Fncts::MyDialogSave(const std::optional<FolderItem>& depart,
+    const std::string& invite, const FileType& filtre, const std::string& nomPropose, Window* fenetre) {
+    return ChooseItem(depart, invite, filtre, nomPropose, fenetre, true);
+}
+
+std::optional<FolderItem> Fncts::ChooseItem(const std::optional<FolderItem>& depart,
+    const std::string& invite, const FileType& filtre, const std::string& nomPropose, Window* fenetre,
+    bool toSave) {
+    const DialogProtocol protocol(*this);
+    const bool sheet = CtrlDsFenetrDiag(fenetre, true);
+    FileDialog dialog;
+    dialog.prompt = invite;
+    dialog.filterName = filtre.Name;
+    dialog.filterExtension = filtre.Extensions;
+    dialog.sheetOf = sheet ? fenetre : nullptr;
+    dialog.suggestedName = nomPropose;
+    if (!depart) {
+        dialog.initialFolder = SpecialFolder::Documents(services_.files);
+    } else if (DossPasPack_f(*depart)) {
+        dialog.initialFolder = depart;
+    } else if (const auto parent = depart->Parent()) {
+        dialog.initialFolder = parent;
+        dialog.suggestedName = depart->Name();
+    } else {
+        dialog.suggestedName.clear();
+    }
+    Dialogs& dialogs = services_.dialogs;
+    const auto chosen = toSave ? dialogs.ChooseTarget(dialog) : dialogs.ChooseFile(dialog);
+    if (sheet) {
+        CtrlDsFenetrDiag(fenetre, false);
+    }
+    return chosen ? FolderItem::GetTrueFolderItem(services_.files, chosen->URLPath()) : std::nullopt;
+}
+
+void Fncts::MsgBox(const std::string& texte) {
+    const Application::ModalStep step(app_, nullptr);
+    services_.dialogs.Tell(texte);
 }
 
 } // namespace tessarolyne

@@ -7,11 +7,11 @@
 #include <optional>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tessarolyne {
 
 class Application;
-struct FileDialog;
 struct Services;
 class Window;
 
@@ -67,9 +67,9 @@ public:
     // its parent, else in the user's documents; a save suggests the name of a `depart` that is no folder,
     // else `nomPropose`. Nil when the user cancels. A chosen alias comes as itself.
     std::optional<FolderItem> MyDialogLoad(const std::optional<FolderItem>& depart, const std::string& invite,
-        const std::string& filtre, Window* fenetre);
+        const FileType& filtre, Window* fenetre);
     std::optional<FolderItem> MyDialogSave(const std::optional<FolderItem>& depart, const std::string& invite,
-        const std::string& filtre, const std::string& nomPropose, Window* fenetre);
+        const FileType& filtre, const std::string& nomPropose, Window* fenetre);
 
     // Shows a fixed English diagnostic.
     void MsgBox(const std::string& texte);
@@ -99,6 +99,8 @@ public:
     // The `partie`-th piece, from 1, of a text cut at its "¿%" marks. A piece that isn't there is reported,
     // and empty.
     std::string FracTexte(const std::string& texte, int partie);
+    // The text with the values at its marks.
+    std::string Filled(const std::string& texte, const std::vector<std::string>& values);
 
     // Covers (or with `montrer` false uncovers) all visible windows but `fenetre` with their overlays. True
     // if they were covered, that is if `fenetre` can hold a sheet.
@@ -117,8 +119,8 @@ public:
 private:
     class DialogProtocol;
 
-    std::optional<FolderItem> ChooseItem(
-        FileDialog dialog, const std::optional<FolderItem>& depart, Window* fenetre, bool toSave);
+    std::optional<FolderItem> ChooseItem(const std::optional<FolderItem>& depart, const std::string& invite,
+        const FileType& filtre, const std::string& nomPropose, Window* fenetre, bool toSave);
 
     Application& app_;
     Services& services_;

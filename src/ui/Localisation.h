@@ -8,6 +8,9 @@
 // language code; the empty string means the language in which the program runs.
 namespace tessarolyne::Localisation {
 
+// Stands in a text where a value goes.
+inline constexpr std::string_view placeForValue = "¿%";
+
 #define TEXT(name, text) std::string name(std::string_view language = {});
 #include "ui/Localisation.def"
 #undef TEXT

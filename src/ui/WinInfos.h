@@ -4,7 +4,7 @@
 #include "platform/ShownControls.h"
 #include "platform/TextControls.h"
 #include "ui/BlockingOverlay.h"
-#include "ui/ModalWindow.h"
+#include "ui/ProgramWindow.h"
 
 #include <functional>
 #include <string>

@@ -2,7 +2,7 @@
 
 #include "platform/Buttons.h"
 #include "ui/BlockingOverlay.h"
-#include "ui/ModalWindow.h"
+#include "ui/ProgramWindow.h"
 
 namespace tessarolyne {
 

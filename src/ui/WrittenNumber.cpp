@@ -99,13 +99,10 @@ bool IsWordLetter(char32_t code) {
 
 // A word that makes another number of the one beside it.
 bool Multiplies(std::string_view word) {
-    constexpr std::string_view words[] = {"k", "m", "md", "mrd", "mds", "mia", "mio", "bn", "hundred", "cent",
-        "cents", "thousand", "mille", "million", "millions", "milliard", "milliards", "billion", "billions",
-        "trillion", "trillions", "dozen", "douzaine", "douzaines", "e", "exp"};
-    std::string lower(word);
-    std::transform(lower.begin(), lower.end(), lower.begin(),
-        [](char c) { return c >= 'A' && c <= 'Z' ? static_cast<char>(c - 'A' + 'a') : c; });
-    return std::find(std::begin(words), std::end(words), lower) != std::end(words);
+    constexpr std::string_view words[] = {"K", "M", "MD", "MRD", "MDS", "MIA", "MIO", "BN", "HUNDRED", "CENT",
+        "CENTS", "THOUSAND", "MILLE", "MILLION", "MILLIONS", "MILLIARD", "MILLIARDS", "BILLION", "BILLIONS",
+        "TRILLION", "TRILLIONS", "DOZEN", "DOUZAINE", "DOUZAINES", "E", "EXP"};
+    return std::find(std::begin(words), std::end(words), Uppercase(word)) != std::end(words);
 }
 
 // Whether this can be a currency, or words about one: nothing in it changes the number.
@@ -178,21 +175,13 @@ std::string_view WithoutCurrency(std::string_view text) {
     return isNumber ? text.substr(begin, end - begin) : std::string_view();
 }
 
-bool IsBlankOrLineEnd(char c) {
-    return c == ' ' || (c >= '\t' && c <= '\r');
-}
+} // namespace
 
 std::string_view Trimmed(std::string_view text) {
-    while (!text.empty() && IsBlankOrLineEnd(text.front())) {
-        text.remove_prefix(1);
-    }
-    while (!text.empty() && IsBlankOrLineEnd(text.back())) {
-        text.remove_suffix(1);
-    }
-    return text;
+    constexpr std::string_view around = " \t\n\v\f\r";
+    text.remove_prefix(std::min(text.find_first_not_of(around), text.size()));
+    return text.substr(0, text.find_last_not_of(around) + 1);
 }
-
-} // namespace
 
 std::string WithPlainSigns(std::string_view text) {
     std::string result;

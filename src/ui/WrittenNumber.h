@@ -22,6 +22,9 @@ struct WrittenNumber {
     std::string decimals;
 };
 
+// The text without blanks and line ends around it.
+std::string_view Trimmed(std::string_view text);
+
 // The text with one form for signs that have several: "’" is "'", U+2212 is "-", blanks of any width are
 // U+0020.
 std::string WithPlainSigns(std::string_view text);

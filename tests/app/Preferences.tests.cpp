@@ -11,7 +11,7 @@ namespace {
 
 // What the lines make of the initial values.
 struct After {
-    explicit After(const std::vector<std::string>& lines) : read(ReadPreferences(lines, {}, preferences)) {}
+    explicit After(const std::vector<std::string>& lines) : read(ReadPreferences(lines, preferences)) {}
     Preferences preferences;
     bool read;
 };
@@ -22,7 +22,7 @@ struct Disk : MemoryFileSystem {
     const std::string bad = path + ".bad";
     Preferences preferences;
 
-    PreferencesOutcome Read() { return ReadPreferencesFile(At("/p"), {}, preferences); }
+    PreferencesOutcome Read() { return ReadPreferencesFile(At("/p"), preferences); }
     PreferencesOutcome Read(const std::string& text) {
         AddFile(path, text);
         return Read();
@@ -61,7 +61,7 @@ TEST_CASE("Lines count in any order, the later of two wins, and what isn't known
     expected.fichNbPrems = "Root:caf\xE9";
     expected.nbreNbPparLigne = -3;
     expected.winNBP = {1, 0, 32767, 0};
-    expected.winMain = {2147483647, -2147483647 - 1, 0, 0};
+    expected.winMain = {2147483647, -2147483647 - 1, 7, 8};
     CHECK(after.read);
     CHECK(after.preferences == expected);
 }

@@ -1,6 +1,6 @@
 // Any bytes whatever as a preferences file: what is read stays within its types and limits, doesn't depend on
 // where the chunks end, and comes back from the file that is written of it.
-#include "app/PreferencesText.h"
+#include "app/PreferencesFile.h"
 #include "fuzz/Must.h"
 #include "platform/TextStreams.h"
 #include "platform/Utf8.h"
@@ -18,7 +18,7 @@ std::pair<bool, Preferences> Read(const std::string& bytes, std::size_t chunkSiz
         lines.push_back(stream.ReadLine());
     }
     Preferences preferences;
-    const bool read = ReadPreferences(lines, PreferencesLimits(), preferences);
+    const bool read = ReadPreferences(lines, preferences);
     return {read, preferences};
 }
 

@@ -118,14 +118,15 @@ TEST_CASE("A chooser begins where its item stands, and suggests what fits it") {
         {std::nullopt, "/home/user/Documents", "new.txt"}, {at("/"), "/", "new.txt"}};
     for (const auto& row : rows) {
         world.dialogs.ExpectFile(std::nullopt);
-        CHECK_FALSE(fncts.MyDialogSave(row.start, "prompt", "text", "new.txt", nullptr).has_value());
+        CHECK_FALSE(
+            fncts.MyDialogSave(row.start, "prompt", FileTypes::QueText, "new.txt", nullptr).has_value());
         CHECK(world.dialogs.fileDialogs.back().initialFolder->NativePath() == row.folder);
         CHECK(world.dialogs.fileDialogs.back().suggestedName == row.name);
     }
     CHECK(world.dialogs.fileDialogs.back().filterExtension == ".txt");
     world.files.AddLink("/home/user/alias.txt", "/home/user/primes.txt");
     world.dialogs.ExpectFile(at("/home/user/alias.txt"));
-    CHECK(fncts.MyDialogLoad({}, "prompt", "text", nullptr) == at("/home/user/alias.txt"));
+    CHECK(fncts.MyDialogLoad({}, "prompt", FileTypes::QueText, nullptr) == at("/home/user/alias.txt"));
 }
 
 TEST_CASE("Two routes of a conversion that disagree are reported, once until others do") {

@@ -1,6 +1,5 @@
 #include "ui/NumberTyping.h"
 #include "conversion/BaseConversion.h"
-#include "conversion/BaseDigits.h"
 #include "platform/Text.h"
 
 #include <doctest/doctest.h>

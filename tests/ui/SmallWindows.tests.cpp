@@ -1,4 +1,5 @@
 #include "app/Version.h"
+#include "platform/MenuBar.h"
 #include "platform/Text.h"
 #include "support/TestWorld.h"
 #include "ui/WinInfos.h"
@@ -49,10 +50,13 @@ TEST_CASE("A small window holds the commands off until one of its own buttons en
         button.UserPressed();
         CHECK(window.IsClosed());
     };
+    const auto choose = [&](const char* command) {
+        world.program->app.GetMenuBar()->Find(command)->UserChose(world.program->app);
+    };
     world.loop.WhileModal([&] { hold(world.program->winInfos(), world.program->winInfos().BoutonOk); });
-    CHECK(world.Main().AppleAPropos_Action());
+    choose("AppleAPropos");
     world.loop.WhileModal([&] { hold(world.program->winPrefs(), world.program->winPrefs().PushButtOk); });
-    CHECK(world.Main().ApplePrefs_Action());
+    choose("ApplePrefs");
     CHECK(world.program->fncts.DrapMenu);
     world.loop.Advance(1);
     CHECK(world.program->app.Windows().size() == 1); // let go

@@ -1,11 +1,11 @@
-// The settings between two runs: from the preferences file into the properties and controls, and back.
+#include "ui/App.h"
 
 #include "app/PreferencesFile.h"
+#include "app/Version.h"
 #include "conversion/WinMain.h"
 #include "platform/FileSystem.h"
 #include "platform/Services.h"
 #include "platform/Stage.h"
-#include "ui/App.h"
 #include "ui/FileItems.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"
@@ -22,6 +22,33 @@ constexpr int failureBeeps = 3;
 
 } // namespace
 
+App::App(Surroundings& surroundings, Services& services)
+    : Application(services), ShortVersion(shortVersion), program_(surroundings) {}
+
+void App::Event_Open() {
+    program_.fncts.DefAppEncod = "UTF-8";
+}
+
+// What goes from the file into a property or control at the start, and back at the end, as it is.
+template <class Copy>
+void App::CopySettings(Preferences& preferences, const Copy& copy) {
+    WinMain& window = program_.winMain();
+    copy(preferences.dejaDonne, DejaDonne);
+    copy(preferences.autoCheckUpdt, AutoCheckUpdt);
+    copy(preferences.annonces, program_.fncts.Annonces);
+    copy(preferences.winNBP, WinNBP);
+    copy(preferences.majuscule, window.CheckBoxMajusc.Value);
+    copy(preferences.nbreNbPparLigne, window.primeFile.NbreNbPparLigne);
+    copy(preferences.baseOrg, window.PopupMenuBaseOrg.ListIndex);
+    copy(preferences.baseDest, window.PopupMenuBaseDest.ListIndex);
+    copy(preferences.formatAuto, window.CheckBoxFormatAuto.Value);
+    copy(preferences.trUnion, window.CheckBoxTrUnion.Value);
+    copy(preferences.monnaie, window.EditFieldMonnaie.Text);
+    copy(preferences.centime, window.EditFieldCentime.Text);
+    copy(preferences.monnaies, window.EditFieldMonnaies.Text);
+    copy(preferences.centimes, window.EditFieldCentimes.Text);
+}
+
 bool App::PrefsCharger() {
     Preferences preferences;
     preferences.dateLaunch = DateDuJour;
@@ -30,9 +57,7 @@ bool App::PrefsCharger() {
     preferences.centime = Localisation::Txt_Centime();
     preferences.monnaies = Localisation::Txt_Monnaies();
     preferences.centimes = Localisation::Txt_Centimes();
-    const PreferencesLimits limits{static_cast<int>(program_.winMain().PopupMenuBaseOrg.Rows().size()),
-        static_cast<int>(program_.winMain().RadioButton09AZ.size())};
-    const PreferencesOutcome outcome = ReadPreferencesFile(*DossierPref, limits, preferences);
+    const PreferencesOutcome outcome = ReadPreferencesFile(*DossierPref, preferences);
     Apply(preferences);
     if (outcome == PreferencesOutcome::Failed) {
         prefsReadingFailed_ = true;
@@ -46,28 +71,15 @@ bool App::PrefsCharger() {
 }
 
 // All but the window's place and the language, which a file whose reading failed doesn't decide.
-void App::Apply(const Preferences& preferences) {
+void App::Apply(Preferences& preferences) {
     WinMain& window = program_.winMain();
+    CopySettings(preferences, [](const auto& setting, auto& place) { place = setting; });
     DateDerLaunch = preferences.dateLaunch;
-    DejaDonne = preferences.dejaDonne;
-    AutoCheckUpdt = preferences.autoCheckUpdt;
-    program_.fncts.Annonces = preferences.annonces;
-    WinNBP = preferences.winNBP;
     FichNbPrems = GetFitemAbsPath(GetServices().files, preferences.fichNbPrems, false);
     boundAtStart_ = FichNbPrems;
     boundAtStartText_ = preferences.fichNbPrems;
-    window.CheckBoxMajusc.Value = preferences.majuscule;
     window.BevelButtonListe.Value = preferences.listeVisible;
-    window.primeFile.NbreNbPparLigne = preferences.nbreNbPparLigne;
-    window.PopupMenuBaseOrg.ListIndex = preferences.baseOrg;
-    window.PopupMenuBaseDest.ListIndex = preferences.baseDest;
     window.RadioButton09AZ[static_cast<std::size_t>(preferences.radio09AZ)].Value = true;
-    window.CheckBoxFormatAuto.Value = preferences.formatAuto;
-    window.CheckBoxTrUnion.Value = preferences.trUnion;
-    window.EditFieldMonnaie.Text = preferences.monnaie;
-    window.EditFieldCentime.Text = preferences.centime;
-    window.EditFieldMonnaies.Text = preferences.monnaies;
-    window.EditFieldCentimes.Text = preferences.centimes;
 }
 
 // A window that would not be whole on a screen comes to the default place.
@@ -92,32 +104,19 @@ void App::ChooseLanguage(const std::string& code) {
     menu.ListIndex = static_cast<int>(row - codes.begin());
 }
 
-Preferences App::Gather(bool listeVisible) const {
+Preferences App::Gather(bool listeVisible) {
     const WinMain& window = program_.winMain();
     Preferences preferences;
+    CopySettings(preferences, [](auto& setting, const auto& place) { setting = place; });
     preferences.dateLaunch = DateDuJour;
-    preferences.dejaDonne = DejaDonne;
-    preferences.autoCheckUpdt = AutoCheckUpdt;
-    preferences.annonces = program_.fncts.Annonces;
     preferences.winMain = {window.Left, window.Top, window.Width, window.Height};
-    preferences.majuscule = window.CheckBoxMajusc.Value;
-    preferences.winNBP = WinNBP;
     preferences.listeVisible = listeVisible;
     preferences.fichNbPrems =
         PasNil_Existe_Alias(FichNbPrems, false) ? AbsPath_f(*FichNbPrems, true) : std::string();
-    preferences.nbreNbPparLigne = window.primeFile.NbreNbPparLigne;
-    preferences.baseOrg = window.PopupMenuBaseOrg.ListIndex;
-    preferences.baseDest = window.PopupMenuBaseDest.ListIndex;
     preferences.radio09AZ = window.RadioButton09AZ[0].Value()   ? 0
                             : window.RadioButton09AZ[1].Value() ? 1
                                                                 : -1;
-    preferences.formatAuto = window.CheckBoxFormatAuto.Value;
-    preferences.trUnion = window.CheckBoxTrUnion.Value;
     preferences.langue = window.PopupMenuLg.Text();
-    preferences.monnaie = window.EditFieldMonnaie.Text();
-    preferences.centime = window.EditFieldCentime.Text();
-    preferences.monnaies = window.EditFieldMonnaies.Text();
-    preferences.centimes = window.EditFieldCentimes.Text();
     return preferences;
 }
 
@@ -125,36 +124,26 @@ Preferences App::Gather(bool listeVisible) const {
 // this one anew, too.
 void App::KeepOthersBinding(Preferences& preferences) const {
     Preferences now;
-    if (FichNbPrems == boundAtStart_ &&
-        ReadPreferencesFile(*DossierPref, PreferencesLimits(), now) == PreferencesOutcome::Read &&
+    if (FichNbPrems == boundAtStart_ && ReadPreferencesFile(*DossierPref, now) == PreferencesOutcome::Read &&
         now.fichNbPrems != boundAtStartText_) {
         preferences.fichNbPrems = now.fichNbPrems;
     }
 }
 
-// Throws IOException, with the old file whole.
-void App::WritePreferences(bool listeVisible) {
-    if (PasNil_Existe_Alias(DossierPref, true)) {
-        Preferences preferences = Gather(listeVisible);
-        KeepOthersBinding(preferences);
+// A write that fails leaves the old file.
+void App::PrefsSauver(bool listeVisible, bool quietly) {
+    if (!PasNil_Existe_Alias(DossierPref, true)) {
+        return;
+    }
+    Preferences preferences = Gather(listeVisible);
+    KeepOthersBinding(preferences);
+    try {
         WritePreferencesFile(*DossierPref, preferences, prefsReadingFailed_);
-    }
-}
-
-void App::PrefsSauver(bool listeVisible) {
-    try {
-        WritePreferences(listeVisible);
     } catch (const IOException&) {
-        program_.fncts.BeepNbT(failureBeeps);
-        program_.fncts.ReportFault("PrefsSauver, problem while writing file!");
-    }
-}
-
-void App::SavePreferencesQuietly(bool listeVisible) {
-    try {
-        WritePreferences(listeVisible);
-    } catch (const IOException&) {
-        return; // the old file stands
+        if (!quietly) {
+            program_.fncts.BeepNbT(failureBeeps);
+            program_.fncts.ReportFault("PrefsSauver, problem while writing file!");
+        }
     }
 }
 
