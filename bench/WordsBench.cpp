@@ -3,8 +3,7 @@
 // magnitude. Exits with 1 when one of our figures is above the bar.
 
 #include "words/AmountInWords.h"
-#include "words/EnglishWords.h"
-#include "words/FrenchWords.h"
+#include "words/NumbersInWords.h"
 
 #include <Numbertext.hxx>
 #include <unicode/rbnf.h>
