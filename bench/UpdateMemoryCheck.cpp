@@ -61,7 +61,7 @@ void Check(const std::string& url) {
     QTimer::singleShot(500, [&] {
         idle = StatusKiB("VmRSS:");
         std::ofstream("/proc/self/clear_refs") << "5"; // the peak begins anew
-        program.winMain().AppleVMaJ_Action();
+        program.winMain().updateCheck.Start();
     });
     // The dialog stays for a while, so that it is laid out and drawn.
     QTimer look;
