@@ -2,7 +2,6 @@
 // and how long a calculation takes to stop: the program with its real windows on Qt's offscreen platform.
 // Beside it, the same program while nothing happens. Ends with 1 when a bar is missed.
 
-#include "app/Program.h"
 #include "conversion/WinMain.h"
 #include "desktop/QtApplication.h"
 #include "desktop/QtServices.h"
@@ -12,6 +11,7 @@
 #include "machine/SystemMemory.h"
 #include "platform/Text.h"
 #include "primes/WinNbresPremiers.h"
+#include "ui/Program.h"
 
 #include <algorithm>
 #include <chrono>

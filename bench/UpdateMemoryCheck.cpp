@@ -1,7 +1,6 @@
 // One update check at the address that is given, by the whole program on a screen in memory, up to the dialog
 // that tells the outcome. Prints the KiB that it took over the idle program. For UpdateMemoryBench.
 
-#include "app/Program.h"
 #include "conversion/WinMain.h"
 #include "desktop/QtApplication.h"
 #include "desktop/QtServices.h"
@@ -9,6 +8,7 @@
 #include "machine/PosixFileSystem.h"
 #include "machine/SystemClock.h"
 #include "machine/SystemMemory.h"
+#include "ui/Program.h"
 
 #include <QTimer>
 

@@ -22,8 +22,8 @@ constexpr int failureBeeps = 3;
 
 } // namespace
 
-App::App(Surroundings& surroundings, Services& services)
-    : Application(services), ShortVersion(shortVersion), program_(surroundings) {}
+App::App(Program& program, Services& services)
+    : Application(services), ShortVersion(shortVersion), program_(program) {}
 
 void App::Event_Open() {
     program_.fncts.DefAppEncod = "UTF-8";

@@ -1,5 +1,4 @@
 #include "app/CommandLine.h"
-#include "app/Program.h"
 #include "app/Version.h"
 #include "desktop/QtApplication.h"
 #include "desktop/QtServices.h"
@@ -10,6 +9,7 @@
 #include "machine/SystemClock.h"
 #include "machine/SystemMemory.h"
 #include "platform/System.h"
+#include "ui/Program.h"
 
 #include <iostream>
 #include <span>

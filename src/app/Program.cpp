@@ -1,4 +1,4 @@
-#include "app/Program.h"
+#include "ui/Program.h"
 
 #include "app/Version.h"
 #include "conversion/MenuBar1.h"
@@ -17,7 +17,7 @@ namespace tessarolyne {
 Program::Program(Services& world) : Program(world, versionFileAddress) {}
 
 Program::Program(Services& world, std::string versionFileUrl)
-    : Surroundings(world, fncts_, app_, std::move(versionFileUrl)), fncts_(app_, world), app_(*this, world),
+    : services(world), versionFile(std::move(versionFileUrl)), fncts(app, world), app(*this, world),
       menuBar_(std::make_unique<MenuBar1>()) {
     app.UseMenuBar(menuBar_.get());
     app.OnWindowClosed = [this](Window& window) { LetGo(window); };

@@ -13,7 +13,7 @@
 #include "ui/FileItems.h"
 #include "ui/Localisation.h"
 #include "ui/NumberFormat.h"
-#include "ui/Surroundings.h"
+#include "ui/Program.h"
 
 namespace tessarolyne {
 
@@ -23,11 +23,11 @@ constexpr int quitPeriod = 10; // milliseconds
 
 } // namespace
 
-Quitting::Quitting(Window& mainWindow, Surroundings& surroundings, Calculation& calculation,
-    NumberEntry& entry, PrimeFileBinding& primeFile, const BevelButton& BevelButtonListe)
-    : mainWindow_(mainWindow), surroundings_(surroundings), app_(surroundings.app),
-      fncts_(surroundings.fncts), calculation_(calculation), entry_(entry), primeFile_(primeFile),
-      bevelButtonListe_(BevelButtonListe), timerQuit_(surroundings.services.loop, quitPeriod) {
+Quitting::Quitting(Window& mainWindow, Program& program, Calculation& calculation, NumberEntry& entry,
+    PrimeFileBinding& primeFile, const BevelButton& BevelButtonListe)
+    : mainWindow_(mainWindow), program_(program), app_(program.app), fncts_(program.fncts),
+      calculation_(calculation), entry_(entry), primeFile_(primeFile), bevelButtonListe_(BevelButtonListe),
+      timerQuit_(program.services.loop, quitPeriod) {
     timerQuit_.Action = [this] { TimerQuit_Action(); };
 }
 
@@ -120,13 +120,13 @@ void Quitting::DecideClose(bool enregistrer) {
     app_.DrapOkQuit = true;
     const bool listeVisible = bevelButtonListe_.Value;
     if (listeVisible) {
-        surroundings_.winNbresPremiers().Close();
+        program_.winNbresPremiers().Close();
     }
     if (app_.initProg) {
         app_.PrefsSauver(listeVisible);
     }
     if (enregistrer) {
-        surroundings_.winChargSauvNb1ers().SaveNb1ers();
+        program_.winChargSauvNb1ers().SaveNb1ers();
     }
     fncts_.DrapMenu = false;
     timerQuit_.Mode = 1;
@@ -135,7 +135,7 @@ void Quitting::DecideClose(bool enregistrer) {
 void Quitting::TimerQuit_Action() {
     if (app_.DrapOkQuit) {
         app_.Quit(0);
-    } else if (calculation_.CalculEnCours() || surroundings_.HasWinChargSauvNb1ers()) {
+    } else if (calculation_.CalculEnCours() || program_.HasWinChargSauvNb1ers()) {
         timerQuit_.Mode = 1;
         timerQuit_.Reset();
     } else {
@@ -154,12 +154,12 @@ void Quitting::SaveWithoutAsking() {
     }
     app_.DrapOkQuit = true;
     const bool listeVisible = bevelButtonListe_.Value;
-    surroundings_.services.loop.WaitUntil([this] { return !calculation_.IsOnThread(); });
+    program_.services.loop.WaitUntil([this] { return !calculation_.IsOnThread(); });
     if (listeVisible) {
-        surroundings_.winNbresPremiers().KeepSettings();
+        program_.winNbresPremiers().KeepSettings();
     }
     app_.PrefsSauver(listeVisible, true);
-    if (!surroundings_.HasWinChargSauvNb1ers()) {
+    if (!program_.HasWinChargSauvNb1ers()) {
         primeFile_.SaveQuietly();
     }
 }

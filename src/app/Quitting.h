@@ -12,13 +12,13 @@ class Calculation;
 class Fncts;
 class NumberEntry;
 class PrimeFileBinding;
-class Surroundings;
+class Program;
 class Window;
 
 // The way out: a close can't finish at once, since a calculation may run and questions may have to be asked.
 class Quitting {
 public:
-    Quitting(Window& mainWindow, Surroundings& surroundings, Calculation& calculation, NumberEntry& entry,
+    Quitting(Window& mainWindow, Program& program, Calculation& calculation, NumberEntry& entry,
         PrimeFileBinding& primeFile, const BevelButton& BevelButtonListe);
 
     // What the main window answers to its close; always true until all is decided.
@@ -42,7 +42,7 @@ private:
     void TimerQuit_Action();
 
     Window& mainWindow_;
-    Surroundings& surroundings_;
+    Program& program_;
     App& app_;
     Fncts& fncts_;
     Calculation& calculation_;

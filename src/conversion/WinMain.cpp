@@ -1,7 +1,6 @@
 #include "conversion/WinMain.h"
 
 #include "primes/WinNbresPremiers.h"
-#include "ui/HelpTags.h"
 #include "ui/Localisation.h"
 #include "ui/NumberField.h"
 
@@ -15,7 +14,7 @@ constexpr const char* copyButtonCaption = "✎";
 
 } // namespace
 
-WinMain::WinMain(Surroundings& owner)
+WinMain::WinMain(Program& owner)
     : ProgramWindow(owner, "Tessarolyne", 550, 594, WindowFrame{}),
       decomposition({EditFieldNbre, TxtAreaDecomp1er, PushButtDecomposer, CheckBoxFormatAuto, ProgressWheel1,
                         StaticTextAvance},
@@ -31,7 +30,7 @@ WinMain::WinMain(Surroundings& owner)
       calculation(fncts, owner.services, primeFile.Nbres_Premiers, CheckBoxFormatAuto) {
     SetInitialState();
     NameForScreenReaders();
-    ExplainControls(*this);
+    ExplainControls();
     GiveAltKeys();
     BindEvents();
     BindSubjects();

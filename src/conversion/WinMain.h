@@ -24,7 +24,7 @@ namespace tessarolyne {
 // works on, and its forms. What happens to them is the doing of its subjects.
 class WinMain final : public ProgramWindow {
 public:
-    explicit WinMain(Surroundings& owner);
+    explicit WinMain(Program& owner);
 
     // --- Controls, in the order in which they are made ---
 

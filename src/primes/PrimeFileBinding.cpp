@@ -10,7 +10,7 @@
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"
 #include "ui/NumberFormat.h"
-#include "ui/Surroundings.h"
+#include "ui/Program.h"
 
 #include <algorithm>
 #include <exception>
@@ -24,12 +24,12 @@ constexpr std::int64_t firstPrimes = 4;
 
 } // namespace
 
-PrimeFileBinding::PrimeFileBinding(Surroundings& surroundings)
-    : surroundings_(surroundings), app_(surroundings.app), fncts_(surroundings.fncts) {}
+PrimeFileBinding::PrimeFileBinding(Program& program)
+    : program_(program), app_(program.app), fncts_(program.fncts) {}
 
 void PrimeFileBinding::OpenBoundFile() {
     const bool isThere = PasNil_Existe_Alias(app_.FichNbPrems, true);
-    if (!isThere || !surroundings_.services.desktop.OpenFile(*app_.FichNbPrems)) {
+    if (!isThere || !program_.services.desktop.OpenFile(*app_.FichNbPrems)) {
         fncts_.Beep();
     }
 }
@@ -45,7 +45,7 @@ std::optional<FolderItem> PrimeFileBinding::ChooseForLoad() {
 }
 
 void PrimeFileBinding::Load() {
-    surroundings_.winChargSauvNb1ers().LoadNb1ers();
+    program_.winChargSauvNb1ers().LoadNb1ers();
 }
 
 // A file that can't be replaced is refused before anything is touched; the old one stays whole until the new
@@ -66,7 +66,7 @@ std::optional<FolderItem> PrimeFileBinding::ChooseAndSave() {
         PrimeFile = {chosen->Stamp(), false}; // the user has agreed to replace this
     }
     app_.FichNbPrems = MemeItem(chosen);
-    surroundings_.winChargSauvNb1ers().SaveNb1ers(LinkPolicy::ReplaceLink);
+    program_.winChargSauvNb1ers().SaveNb1ers(LinkPolicy::ReplaceLink);
     return chosen;
 }
 
@@ -79,7 +79,7 @@ void PrimeFileBinding::SaveQuietly() {
     const FolderItem item = *app_.FichNbPrems;
     try {
         PrimeFileProgress nobody;
-        const std::uint64_t memory = surroundings_.services.memory.AvailableBytes() / 2;
+        const std::uint64_t memory = program_.services.memory.AvailableBytes() / 2;
         if (LookBeforeSaving(item, PrimeFile, Nbres_Premiers, memory, nobody) != UnseenContent::None) {
             return;
         }

@@ -12,13 +12,13 @@ namespace tessarolyne {
 
 class App;
 class Fncts;
-class Surroundings;
+class Program;
 
 // The table of primes and the text file that is bound to it: how the user binds, replaces, opens and releases
 // that, and how the two differ.
 class PrimeFileBinding {
 public:
-    explicit PrimeFileBinding(Surroundings& surroundings);
+    explicit PrimeFileBinding(Program& program);
 
     PrimeTable Nbres_Premiers;         // rising from 2
     std::uint32_t Nb_NbrePcharg = 0;   // how many of its entries agree with the file
@@ -45,7 +45,7 @@ public:
 private:
     bool CanBeKept(const FolderItem& item);
 
-    Surroundings& surroundings_;
+    Program& program_;
     App& app_;
     Fncts& fncts_;
 };

@@ -8,7 +8,6 @@
 #include "primes/PrimeFileBinding.h"
 #include "ui/App.h"
 #include "ui/FileItems.h"
-#include "ui/HelpTags.h"
 #include "ui/Localisation.h"
 
 #include <chrono>
@@ -31,22 +30,17 @@ constexpr int ticksToBeSeen = 6;
 
 } // namespace
 
-WinChargSauvNb1ers::WinChargSauvNb1ers(
-    Surroundings& owner, PrimeFileBinding& primeFile, const Window& mainWindow)
+WinChargSauvNb1ers::WinChargSauvNb1ers(Program& owner, PrimeFileBinding& primeFile, const Window& mainWindow)
     : ModalWindow(owner, "… Lect/Sauv Nombres Premiers …", 400, 72, frame), primeFile_(primeFile),
       mainWindow_(mainWindow) {
     StaticTextFormNbre.Text = Localisation::StTextFormNbre();
-    ExplainControls(*this);
+    ExplainControls();
 }
 
 void WinChargSauvNb1ers::Event_Open() {
     LabBlockUI.Open();
     Fncts::DecPosCtrl(*this);
     OpenModal();
-}
-
-bool WinChargSauvNb1ers::Event_CancelClose(bool) {
-    return RefuseClose();
 }
 
 void WinChargSauvNb1ers::Start(const std::string& title) {

@@ -18,7 +18,7 @@ class PrimeFileBinding;
 // the application shows quietly (QuietShowing), only once the operation has taken that long.
 class WinChargSauvNb1ers final : public ModalWindow, private PrimeFileProgress {
 public:
-    WinChargSauvNb1ers(Surroundings& owner, PrimeFileBinding& primeFile, const Window& mainWindow);
+    WinChargSauvNb1ers(Program& owner, PrimeFileBinding& primeFile, const Window& mainWindow);
 
     Label StaticTextFormNbre{*this, "StaticTextFormNbre", {20, 7, 360, 20}, lockLeftTop, NoTabStop(0)};
     ProgressBar ProgressBarNb1ers{*this, "ProgressBarNb1ers", {20, 39, 360, 13}, lockLeftTop, NoTabStop(1)};
@@ -33,7 +33,6 @@ public:
     void SaveNb1ers(LinkPolicy links = LinkPolicy::ReplaceTarget);
 
     void Event_Open() override;
-    bool Event_CancelClose(bool appQuitting) override;
 
 private:
     void Expect(std::int64_t maximum) override;

@@ -11,7 +11,6 @@
 #include "primes/PrimeFileBinding.h"
 #include "ui/App.h"
 #include "ui/FileItems.h"
-#include "ui/HelpTags.h"
 #include "ui/Localisation.h"
 #include "ui/NumberField.h"
 #include "ui/NumberFormat.h"
@@ -34,13 +33,13 @@ bool IsReturn(const std::string& key) {
 
 } // namespace
 
-WinNbresPremiers::WinNbresPremiers(Surroundings& owner, PrimeFileBinding& primeFile, Calculation& calculation,
+WinNbresPremiers::WinNbresPremiers(Program& owner, PrimeFileBinding& primeFile, Calculation& calculation,
     Quitting& quitting, const CheckBox& grouped, BevelButton& listButton)
     : ProgramWindow(owner, Localisation::WinNbresTitre(), 520, 585, frame), primeFile_(primeFile),
       table_(primeFile.Nbres_Premiers), calculation_(calculation), quitting_(quitting), grouped_(grouped),
       listButton_(listButton) {
     SetInitialState();
-    ExplainControls(*this);
+    ExplainControls();
     BindEvents();
 }
 

@@ -26,7 +26,7 @@ class Quitting;
 class WinNbresPremiers final : public ProgramWindow {
 public:
     // `grouped` says how numbers are shown, `listButton` that the window is open.
-    WinNbresPremiers(Surroundings& owner, PrimeFileBinding& primeFile, Calculation& calculation,
+    WinNbresPremiers(Program& owner, PrimeFileBinding& primeFile, Calculation& calculation,
         Quitting& quitting, const CheckBox& grouped, BevelButton& listButton);
 
     PushButton PushButtonCalcPrems{*this, "PushButtonCalcPrems", {20, 14, 210, 20}, lockLeftTop, TabStop(0)};

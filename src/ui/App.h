@@ -12,13 +12,13 @@
 namespace tessarolyne {
 
 struct Preferences;
-class Surroundings;
+class Program;
 
 // The application object: the settings that have no control, and the two flags of its life. The settings are
 // read once at the start and written once at the end; in between they live here and in the controls.
 class App final : public Application {
 public:
-    App(Surroundings& surroundings, Services& services);
+    App(Program& program, Services& services);
 
     void Event_Open() override;
 
@@ -52,7 +52,7 @@ private:
     void PlaceMainWindow(int left, int top);
     void ChooseLanguage(const std::string& code);
 
-    Surroundings& program_;
+    Program& program_;
     std::optional<FolderItem> boundAtStart_;
     std::string boundAtStartText_;    // the same as the preferences file had it
     bool prefsReadingFailed_ = false; // the old file is kept beside when it is replaced

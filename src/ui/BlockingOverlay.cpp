@@ -3,6 +3,7 @@
 #include "platform/Application.h"
 #include "ui/Fncts.h"
 
+#include <string>
 #include <utility>
 
 namespace tessarolyne {
@@ -22,39 +23,33 @@ std::vector<Control*> Overlays(const Window& window) {
     return found;
 }
 
-void Cover(Window& window, Fncts& fncts) {
+void Spread(Control& overlay, bool on) {
+    const Window& window = overlay.GetWindow();
+    overlay.Visible = on;
+    overlay.Width = on ? window.Width() : restingSize;
+    overlay.Height = on ? window.Height() : restingSize;
+    overlay.LockRight = on;
+    overlay.LockBottom = on;
+}
+
+void Cover(const Window& window, Fncts& fncts) {
     const auto overlays = Overlays(window);
+    const std::string inWindow = " 'LabBlockUI' in window '" + window.Title() + "'";
     if (overlays.empty()) {
-        fncts.ReportFaultInLines(
-            "CtrlDsFenetrDiag, there is not 'LabBlockUI' in window '" + window.Title() + "'");
+        fncts.ReportFaultInLines("CtrlDsFenetrDiag, there is not" + inWindow);
         return;
     }
     Control& overlay = *overlays.front();
-    overlay.Visible = true;
     overlay.Top = 0;
     overlay.Left = 0;
-    overlay.Width = window.Width();
-    overlay.Height = window.Height();
+    Spread(overlay, true);
     if (!overlay.LockLeft() || !overlay.LockTop()) {
         fncts.ReportFaultInLines("CtrlDsFenetrDiag, 'LabBlockUI' should be Lock Left and Lock Top");
         overlay.LockLeft = true;
         overlay.LockTop = true;
     }
-    overlay.LockRight = true;
-    overlay.LockBottom = true;
     if (overlays.size() > 1) {
-        fncts.ReportFaultInLines(
-            "CtrlDsFenetrDiag, there is more than one 'LabBlockUI' in window '" + window.Title() + "'");
-    }
-}
-
-void Uncover(Window& window) {
-    for (Control* overlay : Overlays(window)) {
-        overlay->Visible = false;
-        overlay->Width = restingSize;
-        overlay->Height = restingSize;
-        overlay->LockRight = false;
-        overlay->LockBottom = false;
+        fncts.ReportFaultInLines("CtrlDsFenetrDiag, there is more than one" + inWindow);
     }
 }
 
@@ -70,7 +65,10 @@ void BlockingOverlay::Append(std::string name, Place place, TabTurn tab) {
         *members_.emplace_back(std::make_unique<Label>(window_, std::move(name), place, lockLeftTop, tab));
     label.Visible = false;
     label.IsOverlay = true;
-    label.MouseDown = [this](int, int) { return LabBlockUI_MouseDown(); };
+    label.MouseDown = [this](int, int) {
+        fncts_.Beep();
+        return false;
+    };
 }
 
 void BlockingOverlay::Open() {
@@ -79,8 +77,8 @@ void BlockingOverlay::Open() {
 }
 
 void BlockingOverlay::LabBlockUI_Open(Label& label) {
-    if (UpperBound() >= 1) {
-        if (UpperBound() >= 2) {
+    if (members_.size() > 1) {
+        if (members_.size() > 2) {
             fncts_.ReportFaultInLines("LabBlockUI, LabBlockUI(2) is not Nil");
         }
         return;
@@ -93,11 +91,6 @@ void BlockingOverlay::LabBlockUI_Open(Label& label) {
     label.Text = " ";
 }
 
-bool BlockingOverlay::LabBlockUI_MouseDown() {
-    fncts_.Beep();
-    return false;
-}
-
 bool Fncts::CtrlDsFenetrDiag(Window* fenetre, bool montrer) {
     if (montrer && (fenetre == nullptr || !fenetre->Visible())) {
         return false;
@@ -106,7 +99,13 @@ bool Fncts::CtrlDsFenetrDiag(Window* fenetre, bool montrer) {
     for (auto place = windows.rbegin(); place != windows.rend(); ++place) {
         Window& window = **place;
         if (window.Visible() && &window != fenetre) {
-            montrer ? Cover(window, *this) : Uncover(window);
+            if (montrer) {
+                Cover(window, *this);
+                continue;
+            }
+            for (Control* overlay : Overlays(window)) {
+                Spread(*overlay, false);
+            }
         }
     }
     return montrer;

@@ -19,12 +19,8 @@ public:
     // The Open event of the members: makes member 1.
     void Open();
 
-    int UpperBound() const { return static_cast<int>(members_.size()) - 1; }
-    Label& operator[](int index) { return *members_[static_cast<std::size_t>(index)]; }
-
 private:
     void LabBlockUI_Open(Label& label);
-    bool LabBlockUI_MouseDown();
     void Append(std::string name, Place place, TabTurn tab);
 
     Window& window_;

@@ -1,8 +1,10 @@
 #include "ui/ProgramWindow.h"
 
 #include "platform/Services.h"
+#include "ui/Localisation.h"
 
 #include <algorithm>
+#include <string_view>
 #include <utility>
 
 namespace tessarolyne {
@@ -12,9 +14,22 @@ namespace {
 // The least Top of a window on the first screen, below a menu bar.
 constexpr int smallestTop = 38;
 
+using Text = std::pair<std::string_view, std::string (*)(std::string_view)>;
+constexpr Text texts[] = {
+#define TEXT(name, text) {#name, &Localisation::name},
+#include "ui/Localisation.def"
+#undef TEXT
+};
+
+// Those that share a text, or have it under another name than their own.
+constexpr std::pair<std::string_view, std::string_view> namesOfTexts[] = {
+    {"StaticTextEnBase10", "EditFieldNbre"}, {"PushButtonPressPapBOrg", "PushButtonPressPap"},
+    {"PushButtonPressPapBDest", "PushButtonPressPap"}, {"EditFieldNbNbresLigne", "EdFieldNbNbresLigne"},
+    {"Web1", "Web"}, {"Web2", "Web"}, {"Email1", "Email"}, {"Email2", "Email"}};
+
 } // namespace
 
-ProgramWindow::ProgramWindow(Surroundings& owner, std::string title, int width, int height, WindowFrame frame)
+ProgramWindow::ProgramWindow(Program& owner, std::string title, int width, int height, WindowFrame frame)
     : Window(owner.app, std::move(title), width, height, frame), program(owner), app(owner.app),
       fncts(owner.fncts) {}
 
@@ -22,6 +37,19 @@ void ProgramWindow::EnableControls() {
     for (Control* control : Controls()) {
         if (control->TakesFocus() && std::ranges::find(AlwaysEnabled, control) == AlwaysEnabled.end()) {
             control->Enabled = fncts.DrapMenu;
+        }
+    }
+}
+
+void ProgramWindow::ExplainControls() {
+    for (Control* control : Controls()) {
+        std::string_view name = control->Name;
+        for (const auto& [other, nameOfText] : namesOfTexts) {
+            name = other == name ? nameOfText : name;
+        }
+        const auto* const found = std::ranges::find(texts, std::string(name) + "_HT", &Text::first);
+        if (found != std::end(texts) && control->HelpTag().empty()) {
+            control->HelpTag = found->second({});
         }
     }
 }
@@ -43,7 +71,7 @@ void ModalWindow::OpenModal() {
     fncts.DrapMenu = false;
 }
 
-bool ModalWindow::RefuseClose() {
+bool ModalWindow::Event_CancelClose(bool) {
     if (DrapMovableModal) {
         fncts.Beep();
         return true;

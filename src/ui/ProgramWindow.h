@@ -4,7 +4,7 @@
 #include "platform/Window.h"
 #include "ui/App.h"
 #include "ui/Fncts.h"
-#include "ui/Surroundings.h"
+#include "ui/Program.h"
 
 #include <optional>
 #include <string>
@@ -12,11 +12,11 @@
 
 namespace tessarolyne {
 
-// What every window of the program has at hand: its surroundings, and the two shared objects by
+// What every window of the program has at hand: the program, and its two shared objects by
 // the names under which the handlers speak of them.
 class ProgramWindow : public Window {
 public:
-    ProgramWindow(Surroundings& owner, std::string title, int width, int height, WindowFrame frame);
+    ProgramWindow(Program& owner, std::string title, int width, int height, WindowFrame frame);
 
     // Whether the window can be put back to a place of an earlier run: it is whole on the first screen and
     // below a menu bar there, or whole on another screen that is still there.
@@ -26,10 +26,15 @@ public:
     void EnableControls();
 
 protected:
+    // Gives each control its help tag, one sentence for those who see it for the first time: the text of its
+    // name with "_HT". What a control is given otherwise stands: a tag that tells a state or an address.
+    // Texts that only caption others, and frames, have none.
+    void ExplainControls();
+
     // What stays usable during a calculation, or has a rule of its own.
     std::vector<const Control*> AlwaysEnabled;
 
-    Surroundings& program;
+    Program& program;
     App& app;
     Fncts& fncts;
 };
@@ -41,11 +46,12 @@ class ModalWindow : public ProgramWindow {
 public:
     using ProgramWindow::ProgramWindow;
 
+    // Beeps and refuses, or gives DrapMenu back and lets the window close.
+    bool Event_CancelClose(bool appQuitting) override;
+
 protected:
     // For Event_Open: lowers DrapMenu and keeps what it was.
     void OpenModal();
-    // For Event_CancelClose, its result: beeps and refuses, or gives DrapMenu back and lets the window close.
-    bool RefuseClose();
     // What the window's own controls do to end it.
     void EndModal();
 

@@ -3,7 +3,6 @@
 #include "app/Version.h"
 #include "platform/Text.h"
 #include "ui/App.h"
-#include "ui/HelpTags.h"
 #include "ui/Localisation.h"
 
 #include <utility>
@@ -32,14 +31,21 @@ bool IsInside(const Control& control, int x, int y) {
 
 } // namespace
 
-WinInfos::WinInfos(Surroundings& owner)
+WinInfos::WinInfos(Program& owner)
     : ModalWindow(owner, Localisation::Menu_AppleApropos(), 430, 480, AboutFrame()) {
     SetInitialState();
-    ExplainControls(*this);
+    ExplainControls();
     BindLinks();
     PointAt(BevButtDon);
-    BevButtDon.Action = [this] { BevButtDon_Action(); };
-    BevButtDejDon.Action = [this] { BevButtDejDon_Action(); };
+    BevButtDon.Action = [this] {
+        app.DejaDonne = true; // before the page is opened, whatever the browser does
+        fncts.ShowURL(donationAddress);
+        FermeFentr();
+    };
+    BevButtDejDon.Action = [this] {
+        app.DejaDonne = true;
+        FermeFentr();
+    };
     BoutonOk.Action = [this] { FermeFentr(); };
 }
 
@@ -139,26 +145,6 @@ void WinInfos::AskForDonation() {
     TexteInfo.SetSelTextSize(TexteInfo.TextSize + titleLarger);
     TexteInfo.SelLength = 0;
     BevButtDejDon.Visible = true;
-}
-
-// Marked as given before the page is opened, whatever the browser does.
-void WinInfos::BevButtDon_Action() {
-    app.DejaDonne = true;
-    fncts.ShowURL(donationAddress);
-    FermeFentr();
-}
-
-void WinInfos::BevButtDejDon_Action() {
-    app.DejaDonne = true;
-    FermeFentr();
-}
-
-void WinInfos::FermeFentr() {
-    EndModal();
-}
-
-bool WinInfos::Event_CancelClose(bool) {
-    return RefuseClose();
 }
 
 } // namespace tessarolyne

@@ -15,7 +15,7 @@ namespace tessarolyne {
 // as the donation prompt, with another text and one button more. Nothing depends on a donation.
 class WinInfos final : public ModalWindow {
 public:
-    explicit WinInfos(Surroundings& owner);
+    explicit WinInfos(Program& owner);
 
     Canvas CanvIcon{*this, "CanvIcon", {20, 14, 64, 64}, lockLeftTop, NoTabStop(0)};
     Label StaticTextNomProg{*this, "StaticTextNomProg", {96, 22, 314, 22}, lockLeftTopRight, NoTabStop(1)};
@@ -42,12 +42,9 @@ public:
     // Turns the window into the donation prompt.
     void AskForDonation();
     // The only way to close the window.
-    void FermeFentr();
+    void FermeFentr() { EndModal(); }
 
     void Event_Open() override;
-    bool Event_CancelClose(bool appQuitting) override;
-    void BevButtDon_Action();
-    void BevButtDejDon_Action();
 
 private:
     static constexpr Locks lockLeftBottomRight{true, false, true, true};

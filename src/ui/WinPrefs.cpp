@@ -4,7 +4,6 @@
 #include "platform/Services.h"
 #include "platform/Stage.h"
 #include "ui/App.h"
-#include "ui/HelpTags.h"
 #include "ui/Localisation.h"
 
 #include <algorithm>
@@ -24,7 +23,7 @@ WindowFrame PreferencesFrame() {
 
 } // namespace
 
-WinPrefs::WinPrefs(Surroundings& owner, const Window& mainWindow)
+WinPrefs::WinPrefs(Program& owner, const Window& mainWindow)
     : ModalWindow(owner, Localisation::WinPref_Title(), 400, 99, PreferencesFrame()),
       mainWindow_(mainWindow) {
     CheckBoxAutoUpdt.Caption = Localisation::Pref_ChBoxAutoUpdt();
@@ -34,7 +33,7 @@ WinPrefs::WinPrefs(Surroundings& owner, const Window& mainWindow)
         CheckBoxAnnonces.Top = CheckBoxAutoUpdt.Top;
     }
     CheckBoxAnnonces.Caption = Localisation::Pref_ChBoxAnnonces();
-    ExplainControls(*this);
+    ExplainControls();
     CheckBoxAnnonces.AltKey = Localisation::Alt_Pref_ChBoxAnnonces();
     PushButtAnnuler.Caption = Localisation::Btn_Annuler();
     PushButtAnnuler.AltKey = Localisation::Alt_Btn_Annuler();
@@ -43,7 +42,11 @@ WinPrefs::WinPrefs(Surroundings& owner, const Window& mainWindow)
     PushButtOk.Caption = Localisation::Btn_Ok();
     PushButtOk.AltKey = Localisation::Alt_Btn_Ok();
     PushButtOk.Default = true;
-    PushButtOk.Action = [this] { PushButtOk_Action(); };
+    PushButtOk.Action = [this] {
+        app.AutoCheckUpdt = CheckBoxAutoUpdt.Value;
+        fncts.Annonces = CheckBoxAnnonces.Value;
+        EndModal();
+    };
 }
 
 // On a screen narrower than the window its right edge stays in sight.
@@ -56,16 +59,6 @@ void WinPrefs::Event_Open() {
     OpenModal();
     CheckBoxAutoUpdt.Value = app.AutoCheckUpdt;
     CheckBoxAnnonces.Value = fncts.Annonces;
-}
-
-bool WinPrefs::Event_CancelClose(bool) {
-    return RefuseClose();
-}
-
-void WinPrefs::PushButtOk_Action() {
-    app.AutoCheckUpdt = CheckBoxAutoUpdt.Value;
-    fncts.Annonces = CheckBoxAnnonces.Value;
-    EndModal();
 }
 
 } // namespace tessarolyne

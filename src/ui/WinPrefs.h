@@ -12,7 +12,7 @@ namespace tessarolyne {
 class WinPrefs final : public ModalWindow {
 public:
     // It comes up over the main window.
-    WinPrefs(Surroundings& owner, const Window& mainWindow);
+    WinPrefs(Program& owner, const Window& mainWindow);
 
     CheckBox CheckBoxAutoUpdt{*this, "CheckBoxAutoUpdt", {20, 14, 360, 20}, lockLeftTop, TabStop(0)};
     CheckBox CheckBoxAnnonces{*this, "CheckBoxAnnonces", {20, 36, 360, 20}, lockLeftTop, TabStop(1)};
@@ -21,8 +21,6 @@ public:
     BlockingOverlay LabBlockUI{*this, fncts, NoTabStop(4)};
 
     void Event_Open() override;
-    bool Event_CancelClose(bool appQuitting) override;
-    void PushButtOk_Action();
 
 private:
     const Window& mainWindow_;

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "app/Program.h"
 #include "conversion/WinMain.h"
 #include "platform/Desktop.h"
 #include "platform/Dialogs.h"
@@ -11,6 +10,7 @@
 #include "platform/Stage.h"
 #include "support/MemoryFileSystem.h"
 #include "support/VirtualLoop.h"
+#include "ui/Program.h"
 
 #include <doctest/doctest.h>
 

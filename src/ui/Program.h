@@ -2,7 +2,6 @@
 
 #include "ui/App.h"
 #include "ui/Fncts.h"
-#include "ui/Surroundings.h"
 
 #include <memory>
 #include <string>
@@ -11,16 +10,24 @@
 namespace tessarolyne {
 
 class MenuBar;
-class Window;
+class WinChargSauvNb1ers;
+class WinInfos;
+class WinMain;
+class WinNbresPremiers;
+class WinPrefs;
+struct Services;
 
-// One run of the program: the application object, the module Fncts, and the implicit instances of the
-// windows, each made at its first use. A second Program knows nothing of the first.
-class Program final : public Surroundings {
+// One run of the program, with which each of its windows is made: the application object and the module
+// Fncts, and the way to the other windows' one instances, each made at its first use. A second Program knows
+// nothing of the first.
+class Program {
 public:
     // `versionFileUrl` is where the update check asks; the build's own address if none is given.
     explicit Program(Services& world);
     Program(Services& world, std::string versionFileUrl);
-    ~Program() override;
+    ~Program();
+    Program(const Program&) = delete;
+    Program& operator=(const Program&) = delete;
 
     // Does all that comes before the event loop is idle: App's Open, then the main window with its own.
     void Start();
@@ -28,21 +35,24 @@ public:
     // calculation, saves what there is to save, and ends the event loop.
     void EndWithoutAsking();
 
-    WinMain& winMain() override;
-    WinNbresPremiers& winNbresPremiers() override;
-    WinChargSauvNb1ers& winChargSauvNb1ers() override;
-    bool HasWinChargSauvNb1ers() const override { return winChargSauvNb1ers_ != nullptr; }
-    WinInfos& winInfos() override;
-    WinPrefs& winPrefs() override;
+    WinMain& winMain();
+    WinNbresPremiers& winNbresPremiers();
+    // Exists while a prime file is read or written.
+    WinChargSauvNb1ers& winChargSauvNb1ers();
+    bool HasWinChargSauvNb1ers() const { return winChargSauvNb1ers_ != nullptr; }
+    WinInfos& winInfos();
+    WinPrefs& winPrefs();
+
+    Services& services;
+    const std::string versionFile;
+    Fncts fncts;
+    App app;
 
 private:
     void LetGo(Window& window);
 
     template <typename WindowClass, typename... Parts>
     WindowClass& Instance(std::unique_ptr<WindowClass>& window, Parts&... parts);
-
-    Fncts fncts_;
-    App app_;
 
     bool ending_ = false;
     std::unique_ptr<MenuBar> menuBar_;
