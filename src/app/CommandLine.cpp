@@ -7,17 +7,7 @@
 
 namespace tessarolyne {
 
-namespace {
-
-// As the tools of the system have it.
-constexpr int statusBadUse = 2;
-
-// A full disk behind the redirection is a failure too.
-int StatusOf(std::ostream& out) {
-    return out.flush() ? 0 : 1;
-}
-
-} // namespace
+constexpr int statusBadUse = 2; // as the tools of the system have it
 
 std::optional<int> AnswerCommandLine(
     std::span<const char* const> arguments, std::ostream& out, std::ostream& err) {
@@ -28,21 +18,21 @@ std::optional<int> AnswerCommandLine(
     if (arguments.size() == 2 && first == "-session" && *arguments.back() != '\0') {
         return std::nullopt; // what an X session starts again
     }
-    if (arguments.size() == 1 && (first == "--help" || first == "-h")) {
+    const bool isAlone = arguments.size() == 1;
+    if (isAlone && (first == "--help" || first == "-h")) {
         out << "Usage: tessarolyne [--help | --version]\n"
             << description << ".\n"
             << "Without an option it opens its window.\n\n"
             << "  -h, --help     print this help and end\n"
             << "  -v, --version  print the version and end\n";
-        return StatusOf(out);
-    }
-    if (arguments.size() == 1 && (first == "--version" || first == "-v")) {
+    } else if (isAlone && (first == "--version" || first == "-v")) {
         out << "Tessarolyne " << shortVersion << '\n';
-        return StatusOf(out);
+    } else {
+        err << "tessarolyne: takes a single option, --help or --version, not “" << first
+            << (isAlone ? "" : " …") << "”\n";
+        return statusBadUse;
     }
-    err << "tessarolyne: takes a single option, --help or --version, not “" << first
-        << (arguments.size() > 1 ? " …" : "") << "”\n";
-    return statusBadUse;
+    return out.flush() ? 0 : 1; // a full disk behind the redirection is a failure too
 }
 
 } // namespace tessarolyne

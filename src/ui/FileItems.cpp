@@ -87,20 +87,13 @@ bool PasNil_Existe_Alias(const std::optional<FolderItem>& item, bool verifierAli
 }
 
 std::optional<FolderItem> GetTargetItem_f(const std::optional<FolderItem>& item) {
-    if (!item) {
-        return std::nullopt;
-    }
-    const auto parent = item->Parent();
-    return parent ? parent->Child(item->Name()) : FolderItem::GetFolderItem(item->Files(), item->URLPath());
+    const auto parent = item ? item->Parent() : std::nullopt;
+    return parent ? parent->Child(item->Name()) : item;
 }
 
 std::optional<FolderItem> MemeItem(const std::optional<FolderItem>& item) {
-    if (!item) {
-        return std::nullopt;
-    }
-    const auto parent = item->Parent();
-    return parent ? parent->TrueChild(item->Name())
-                  : FolderItem::GetTrueFolderItem(item->Files(), item->URLPath());
+    const auto parent = item ? item->Parent() : std::nullopt;
+    return parent ? parent->TrueChild(item->Name()) : item;
 }
 
 bool IsPackage_f(const FolderItem& item) {

@@ -1,3 +1,4 @@
+#include "app/Version.h"
 #include "platform/MenuBar.h"
 #include "platform/Text.h"
 #include "primes/WinNbresPremiers.h"
@@ -9,22 +10,6 @@
 
 using namespace tessarolyne;
 using namespace tessarolyne::tests;
-
-TEST_CASE("A question freezes the commands while it is up and gives everything back") {
-    TestWorld world;
-    Fncts& fncts = world.program->fncts;
-    for (const bool found : {true, false}) {
-        fncts.DrapMenu = found;
-        world.dialogs.Expect(DialogButton::Alternate, [&] {
-            CHECK_FALSE(fncts.DrapMenu);
-            CHECK(fncts.DrapDiagBox);
-        });
-        CHECK(fncts.MyDialogBox("", "why", "Ok", "", "Other", 1, nullptr) == 3);
-        CHECK(fncts.DrapMenu == found);
-        CHECK_FALSE(fncts.DrapDiagBox);
-        CHECK(world.dialogs.asked.back().message == " ");
-    }
-}
 
 TEST_CASE("Behind a dialog or a modal window nothing that the user does counts, and presses are heard") {
     TestWorld world;
@@ -127,6 +112,9 @@ TEST_CASE("A chooser begins where its item stands, and suggests what fits it") {
     world.files.AddLink("/home/user/alias.txt", "/home/user/primes.txt");
     world.dialogs.ExpectFile(at("/home/user/alias.txt"));
     CHECK(fncts.MyDialogLoad({}, "prompt", FileTypes::QueText, nullptr) == at("/home/user/alias.txt"));
+    world.dialogs.Expect(DialogButton::Alternate);
+    CHECK(fncts.MyDialogBox("", "why", "Ok", "", "Other", 1, nullptr) == 3);
+    CHECK(world.dialogs.asked.back().message == " ");
 }
 
 TEST_CASE("Two routes of a conversion that disagree are reported, once until others do") {
@@ -142,4 +130,56 @@ TEST_CASE("Two routes of a conversion that disagree are reported, once until oth
     CHECK(world.dialogs.asked.front().message ==
           "Il y a une erreur de transcription de base !\rRésultat en base 2 \rdepuis base 10 = 101 "
           "\rdepuis base 16 = 11 ");
+}
+
+TEST_CASE("A link opens what it shows when a press begins and ends on it") {
+    const std::string build = Fncts::TypeCompil();
+#ifdef __linux__
+    CHECK((build.starts_with("Linux ") && build.find(sizeof(void*) == 8 ? " 64-bit (" : " 32-bit (") < 40));
+#endif
+    const std::string letter =
+        "?Subject=A%20propos%20de%20Tessarolyne%20" + EncodeURLComponent(shortVersion + (" " + build));
+    TestWorld world;
+    WinInfos& about = world.program->winInfos();
+    const auto check = [&](auto& link, const std::string& opened) {
+        CAPTURE(link.Name);
+        world.desktop.opened.clear();
+        link.MouseUp(1, 1); // a press that began elsewhere
+        link.MouseDown(1, 1);
+        link.MouseUp(link.Width() + 1, 1);
+        link.MouseUp(1, 1); // it has been taken back
+        CHECK(world.desktop.opened.empty());
+        link.MouseDown(0, 0);
+        link.MouseUp(link.Width(), link.Height());
+        CHECK(world.desktop.opened == std::vector{opened});
+    };
+    check(about.Web1, authorSite);
+    about.Email1.Text = "a@b.example";
+    check(about.Email1, "mailto:a%40b.example" + letter);
+    about.Email2.Text = "c&d@b.example";
+    check(about.Email2, "mailto:c%26d%40b.example" + letter);
+    check(about.CanvDevLogo, buildToolSite);
+}
+
+TEST_CASE("A small window holds the commands off until one of its own buttons ends it") {
+    TestWorld world;
+    const auto hold = [&](auto& window, PushButton& button) {
+        const int beeps = world.sounds.beeps;
+        CHECK_FALSE(world.program->fncts.DrapMenu);
+        window.UserClosed();
+        world.Main().UserClosed();
+        CHECK(world.sounds.beeps == beeps + 2);
+        button.UserPressed();
+        CHECK(window.IsClosed());
+    };
+    const auto choose = [&](const char* command) {
+        world.program->app.GetMenuBar()->Find(command)->UserChose(world.program->app);
+    };
+    world.loop.WhileModal([&] { hold(world.program->winInfos(), world.program->winInfos().BoutonOk); });
+    choose("AppleAPropos");
+    world.loop.WhileModal([&] { hold(world.program->winPrefs(), world.program->winPrefs().PushButtOk); });
+    choose("ApplePrefs");
+    CHECK(world.program->fncts.DrapMenu);
+    world.loop.Advance(1);
+    CHECK(world.program->app.Windows().size() == 1); // let go
 }

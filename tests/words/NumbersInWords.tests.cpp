@@ -1,16 +1,93 @@
 #include "words/NumbersInWords.h"
-#include "words/PlainSpeller.h"
 
 #include <doctest/doctest.h>
 
+#include <iterator>
 #include <random>
+#include <sstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 using namespace tessarolyne;
-using namespace tessarolyne::tests;
 
 namespace {
+
+// Numbers in words a second time: by arithmetic on the value, where the program goes by the digits, and from
+// the fewest words that the languages allow.
+using Words = std::vector<std::string>;
+
+inline Words Split(const std::string& text) {
+    std::istringstream stream(text);
+    return {std::istream_iterator<std::string>(stream), {}};
+}
+
+std::string FrenchBelowHundred(std::size_t n, bool chBe) {
+    static const Words least =
+        Split("zéro un deux trois quatre cinq six sept huit neuf dix onze douze treize "
+              "quatorze quinze seize dix-sept dix-huit dix-neuf");
+    static const Words tens = Split("vingt trente quarante cinquante soixante septante huitante nonante");
+    if (n < least.size()) {
+        return least[n];
+    }
+    const bool byTwenties = !chBe && n >= 60;
+    const std::size_t base = byTwenties ? n / 20 * 20 : n / 10 * 10;
+    const std::size_t rest = n - base;
+    const std::string word = byTwenties && base == 80 ? "quatre-vingt" : tens[base / 10 - 2];
+    if (rest == 0) {
+        return byTwenties && base == 80 ? word + "s" : word;
+    }
+    return word + (rest % 10 == 1 && base != 80 ? " et " : "-") + FrenchBelowHundred(rest, chBe);
+}
+
+std::string FrenchBelowThousand(std::size_t n, bool chBe) {
+    if (n < 100) {
+        return FrenchBelowHundred(n, chBe);
+    }
+    const std::string hundreds = n < 200 ? "cent" : FrenchBelowHundred(n / 100, chBe) + " cent";
+    return n % 100 > 0 ? hundreds + " " + FrenchBelowHundred(n % 100, chBe) : hundreds + (n < 200 ? "" : "s");
+}
+
+std::string PlainFrench(std::size_t n, bool chBe) {
+    if (n == 0) {
+        return "zéro";
+    }
+    std::string words;
+    for (const auto& [scale, noun] : {std::pair{1'000'000'000U, "milliard"}, {1'000'000U, "million"}}) {
+        if (const std::size_t group = n / scale % 1000; group > 0) {
+            words += FrenchBelowThousand(group, chBe) + " " + noun + (group > 1 ? "s " : " ");
+        }
+    }
+    if (const std::size_t thousands = n / 1000 % 1000; thousands > 1) {
+        std::string group = FrenchBelowThousand(thousands, chBe);
+        if (group.ends_with("vingts") || group.ends_with("cents")) {
+            group.pop_back(); // the mark is for nouns, and "mille" is none
+        }
+        words += group + " mille ";
+    } else if (thousands == 1) {
+        words += "mille ";
+    }
+    words += n % 1000 > 0 ? FrenchBelowThousand(n % 1000, chBe) : "";
+    return words.substr(0, words.find_last_not_of(' ') + 1);
+}
+
+std::string PlainEnglish(std::size_t n) {
+    static const Words least = Split("zero one two three four five six seven eight nine ten eleven twelve "
+                                     "thirteen fourteen fifteen sixteen seventeen eighteen nineteen");
+    static const Words tens = Split("twenty thirty forty fifty sixty seventy eighty ninety");
+    const auto with = [&](std::size_t scale, const char* noun, const char* link) {
+        const std::string words = PlainEnglish(n / scale) + noun;
+        return n % scale == 0 ? words : words + link + PlainEnglish(n % scale);
+    };
+    if (n >= 1000) {
+        const std::size_t scale = n < 1'000'000 ? 1000 : 1'000'000;
+        return with(scale, scale == 1000 ? " thousand" : " million", n % scale < 100 ? " and " : " ");
+    }
+    if (n >= 100) {
+        return with(100, " hundred", " and ");
+    }
+    return n < 20 ? least[n] : tens[n / 10 - 2] + (n % 10 > 0 ? " " + least[n % 10] : "");
+}
 
 std::string French(const std::string& number, bool chBe = false, const std::string& currency = "euros") {
     return ConvNbreLettresFr(number, chBe, currency, "trop grand");
@@ -19,32 +96,6 @@ std::string French(const std::string& number, bool chBe = false, const std::stri
 std::string English(const std::string& number) {
     return ConvNbreLettresEn(number, "too large");
 }
-
-struct Example {
-    const char* number;
-    const char* france;
-    const char* swissBelgian;
-};
-
-const Example frenchExamples[] = {
-    {"0", "zéro ", "zéro "},
-    {"71", "soixante et onze ", "septante et un "},
-    {"80", "quatre-vingts ", "huitante "},
-    {"81", "quatre-vingt-un ", "huitante-un "},
-    {"91", "quatre-vingt-onze ", "nonante et un "},
-    {"80080", "quatre-vingt mille quatre-vingts ", "huitante mille huitante "},
-    {"200200", "deux cent mille deux cents ", "deux cent mille deux cents "},
-    {"21000000", "vingt et un millions d'", "vingt et un millions d'"},
-    {"1000000001", "un milliard un ", "un milliard un "},
-};
-
-const std::pair<const char*, const char*> englishExamples[] = {
-    {"21", "twenty one "},
-    {"1001", "one thousand and one "},
-    {"1100", "one thousand one hundred "},
-    {"21021", "twenty one thousand and twenty one "},
-    {"1000100", "one million one hundred "},
-};
 
 // All the small numbers, all groups of each rank, and numbers of any length, a fourth of whose groups are 0.
 std::vector<std::size_t> Numbers() {
@@ -67,16 +118,6 @@ std::vector<std::size_t> Numbers() {
 }
 
 } // namespace
-
-TEST_CASE("Numbers are spelled in three languages as in the examples") {
-    for (const Example& example : frenchExamples) {
-        CHECK(French(example.number, false) == example.france);
-        CHECK(French(example.number, true) == example.swissBelgian);
-    }
-    for (const auto& [number, words] : englishExamples) {
-        CHECK(English(number) == words);
-    }
-}
 
 TEST_CASE("Every number has the words that a plain speller gives it") {
     for (const std::size_t number : Numbers()) {
