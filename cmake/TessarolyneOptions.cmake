@@ -50,7 +50,6 @@ tessarolyne_address(SITE_2 "https?" "http://www2.tessarolyne.example" "The secon
 tessarolyne_address(BUILD_TOOL_SITE "https?" "http://www.buildtool.example" "The build tool's site")
 tessarolyne_setting(EMAIL "author@tessarolyne.example" "The author's e-mail address")
 tessarolyne_setting(EMAIL_2 "author2@tessarolyne.example" "The second author's e-mail address")
-tessarolyne_setting(MAINTAINER "The Tessarolyne authors <${TESSAROLYNE_EMAIL}>" "Who makes the packages")
 if(examples AND TESSAROLYNE_BUILD_DESKTOP)
     list(JOIN examples ", " examples)
     message(WARNING "Give no such build on: these addresses are only examples, which answer nobody: ${examples}")

@@ -22,7 +22,10 @@ function(tessarolyne_configure target)
                 $<$<CXX_COMPILER_ID:GNU>:-Wno-restrict>
                 # and with precompiled headers it finds the same fault elsewhere in its own headers
                 "$<$<AND:$<BOOL:${TESSAROLYNE_PRECOMPILE}>,$<CXX_COMPILER_ID:GNU>>:${falseAlarms}>"
-                $<$<BOOL:${TESSAROLYNE_WARNINGS_AS_ERRORS}>:-Werror>)
+                $<$<BOOL:${TESSAROLYNE_WARNINGS_AS_ERRORS}>:-Werror>
+                # What is built doesn't tell where it was.
+                "-ffile-prefix-map=${PROJECT_BINARY_DIR}=build"
+                "-ffile-prefix-map=${PROJECT_SOURCE_DIR}=.")
     if(TESSAROLYNE_SANITIZE)
         target_compile_options(
             ${target} PRIVATE -fsanitize=${TESSAROLYNE_SANITIZE} -fno-sanitize-recover=all -fno-omit-frame-pointer)

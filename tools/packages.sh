@@ -13,9 +13,9 @@ packagesToRun=(g++ cmake ninja-build qt6-base-dev qt6-qpa-plugins qt6-l10n-tools
 # shellcheck disable=SC2034
 packagesForVirtualDisplay=(xvfb openbox imagemagick)
 
-# What packs the program for Debian.
+# What packs the program for Debian: see also debian/control.
 # shellcheck disable=SC2034
-packagesToPackage=(dpkg-dev file gzip)
+packagesToPackage=(build-essential debhelper xz-utils)
 
 # A desktop with Wayland.
 # shellcheck disable=SC2034

@@ -1,6 +1,7 @@
 """The program as Debian installed it finds what it brought along. Run by tests/package/run."""
 
 import os
+import re
 import subprocess
 import sys
 from pathlib import Path
@@ -11,14 +12,21 @@ from case import ProgramTestCase  # noqa: E402
 from program import PROGRAM  # noqa: E402
 from screen import OUTPUT  # noqa: E402
 
-TREE = Path(os.environ["TESSAROLYNE_TREE"])
-# A player of sounds that the tree gets for this test: it notes what it should play.
-PLAYED = TREE / "played"
+# Where it is installed: on this machine, or in a tree of its own.
+TREE = Path(os.environ.get("TESSAROLYNE_TREE", "/"))
 # Of half of the icon's tiles, and of nothing else in the about window.
 TILE_COLOUR = "#F0A35E"
 
 
 class Installed(ProgramTestCase):
+    @classmethod
+    def start_program(cls):
+        # A player of sounds, which only notes what it should play.
+        player = Path(cls._home) / "bin" / "pw-play"
+        player.write_text('#!/bin/sh\necho "$1" >"$HOME/played"\n')
+        player.chmod(0o755)
+        super().start_program()
+
     def tearDown(self):
         self.assertEqual("", self.program.log())
 
@@ -28,14 +36,14 @@ class Installed(ProgramTestCase):
         self.assertIn("Icon (128 x 128)", icons)
 
     def test_a_number_is_worked_on_and_the_sound_found(self):
-        PLAYED.unlink(missing_ok=True)
+        played = Path(self._home) / "played"
         self.clear("EditFieldNbre")
         self.screen.type("255")
         self.wait_for_text("EditFieldBaseDest", "1111 1111")
         self.wait_for_text("TxtAreaLettres", "deux cent cinquante-cinq euros zéro centime")
         self.press_button("PushButtonPressPapBDest")
-        self.program.wait_for(lambda: PLAYED.is_file() and PLAYED.read_text().endswith("\n"), "the sound")
-        sound = PLAYED.read_text().strip()
+        self.program.wait_for(lambda: played.is_file() and played.read_text().endswith("\n"), "the sound")
+        sound = played.read_text().strip()
         self.assertEqual("/usr/share/tessarolyne/sounds/Bip.wav", sound)
         self.assertTrue((TREE / sound[1:]).is_file())
 
@@ -59,8 +67,9 @@ class Installed(ProgramTestCase):
         answer = subprocess.run(
             [PROGRAM, "--version"], env={"PATH": os.environ["PATH"]}, capture_output=True, text=True, check=True
         )
-        package = os.environ["TESSAROLYNE_PACKAGE_VERSION"]
-        self.assertEqual(f"Tessarolyne {package.rpartition('-')[0]}\n", answer.stdout)
+        query = ["dpkg-query", f"--admindir={TREE}/var/lib/dpkg", "--show", "--showformat=${Version}", "tessarolyne"]
+        package = subprocess.run(query, capture_output=True, text=True, check=True).stdout
+        self.assertEqual(f"Tessarolyne {re.split('[-~]', package)[0]}\n", answer.stdout)
 
 
 class InstalledForTheEnglish(ProgramTestCase):
