@@ -44,8 +44,9 @@ tessarolyne_address(
     QUESTIONS_PAGE "https?" "${TESSAROLYNE_SITE}/prg/Xojo/Tessarolyne_FAQ.html" "The page of questions and answers")
 tessarolyne_address(
     DONATION_PAGE "https?" "${TESSAROLYNE_SITE}/site/PayPage.html?Tessarolyne" "The page for donations")
+string(REGEX REPLACE "^http:" "https:" site "${TESSAROLYNE_SITE}")
 tessarolyne_address(
-    SITE_OF_PICTURES "https?" "${TESSAROLYNE_SITE}/pictures" "Where software centres find the files of docs/pictures")
+    SITE_OF_PICTURES "https?" "${site}/pictures" "Where software centres, which want https, find docs/pictures")
 tessarolyne_address(SITE_2 "https?" "http://www2.tessarolyne.example" "The second author's site")
 tessarolyne_address(BUILD_TOOL_SITE "https?" "http://www.buildtool.example" "The build tool's site")
 tessarolyne_setting(EMAIL "author@tessarolyne.example" "The author's e-mail address")
