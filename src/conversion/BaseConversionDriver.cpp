@@ -13,6 +13,8 @@
 #include "ui/NumberField.h"
 #include "ui/NumberFormat.h"
 
+#include <utility>
+
 namespace tessarolyne {
 
 std::string_view NumberEntry::Alphabet() const {
@@ -91,13 +93,14 @@ bool NumberEntry::ConvertSourceBase(std::string& decimal, std::string& source) {
         decimal = ConvNbreBase(source, BaseOrg(), 10, Alphabet());
     }
     if (CDbl(decimal) > static_cast<double>(NbreMax)) {
-        fncts_.Beep();
         decimal = Localisation::Txt_PlusGdNbrePossible() + FormatWhole(NbreMax, CheckBoxFormatAuto.Value);
-    } else if (IsErrorText(decimal)) {
-        fncts_.Beep();
     }
     EditFieldNbre.Text = FormatNbre(decimal, CheckBoxFormatAuto.Value);
-    return IsNumeric(decimal);
+    const bool isNumber = IsNumeric(decimal);
+    if (!isNumber && !decimal.empty()) {
+        fncts_.Beep();
+    }
+    return isNumber;
 }
 
 void NumberEntry::ShowDestination(const std::string& decimal, const std::string& source) {
@@ -118,10 +121,9 @@ void NumberEntry::ShowDestination(const std::string& decimal, const std::string&
 void NumberEntry::ReportConversionMismatch(
     const std::string& fromDecimal, int baseDest, const std::string& fromSource, int baseOrg) {
     const std::string key = fromSource + " ≠ " + fromDecimal;
-    if (key == memErrConv_) {
+    if (std::exchange(memErrConv_, key) == key) {
         return;
     }
-    memErrConv_ = key;
     fncts_.Beep();
     const std::string message = fncts_.Filled(Localisation::Txt_ErrTranscBase(),
         {Localisation::Txt_EnBase() + Str(baseDest), fromDecimal, Str(baseOrg), fromSource});

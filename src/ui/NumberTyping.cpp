@@ -26,8 +26,7 @@ Refusal WhyItDoesNotFit(std::string_view number, const Mask& mask) {
     const std::string bare = WithoutBlanks(number);
     const std::size_t point = std::min(bare.find('.'), bare.size());
     const std::string decimals = bare.substr(std::min(point + 1, bare.size()));
-    if (!std::all_of(bare.begin(), bare.begin() + static_cast<std::ptrdiff_t>(point), IsDigit) ||
-        !std::all_of(decimals.begin(), decimals.end(), IsDigit)) {
+    if (!std::ranges::all_of(bare.substr(0, point) + decimals, IsDigit)) {
         return Refusal::NoNumber;
     }
     if (decimals.size() > mask.Decimals() || (point < bare.size() && mask.Decimals() == 0)) {
@@ -47,8 +46,7 @@ Refusal NumberTyping::Take(TextEdit& edit, const Mask& mask, DecimalSign sign) {
         return Refusal::None;
     }
     if (!mask.Holds(edit.before) && !isOwn) { // a message gives way to a number
-        edit.start = 0;
-        edit.removed = static_cast<int>(Len(edit.before));
+        ReplaceAllOf(edit, edit.inserted);
     }
     edit.inserted = WithPlainSigns(edit.inserted);
     const bool isKey = Len(edit.inserted) == 1;

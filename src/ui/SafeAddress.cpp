@@ -16,43 +16,47 @@ bool IsHexDigit(char c) {
     return IsDigit(c) || (c >= 'A' && c <= 'F') || (c >= 'a' && c <= 'f');
 }
 
-bool IsLetterOrDigit(char c) {
-    return IsDigit(c) || IsLetter(c);
+// Letters, digits and those marks.
+bool ConsistsOf(std::string_view text, std::string_view marks) {
+    return std::ranges::all_of(
+        text, [&](char c) { return IsDigit(c) || IsLetter(c) || marks.find(c) != std::string_view::npos; });
 }
 
 // What may follow the host or "mailto:". A backslash isn't among it: browsers read it as a slash, so that it
 // could part off another host than the one seen here.
 bool HasOnlyAddressCharacters(std::string_view text) {
-    constexpr std::string_view marks = "-._~:/?#@!$&'()*+,;=";
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '%') {
-            if (i + 2 >= text.size() || !IsHexDigit(text[i + 1]) || !IsHexDigit(text[i + 2])) {
-                return false;
-            }
-        } else if (!IsLetterOrDigit(text[i]) && marks.find(text[i]) == std::string_view::npos) {
+    for (std::size_t at = text.find('%'); at != std::string_view::npos; at = text.find('%', at + 1)) {
+        if (at + 2 >= text.size() || !IsHexDigit(text[at + 1]) || !IsHexDigit(text[at + 2])) {
             return false;
         }
     }
-    return std::count(text.begin(), text.end(), '#') <= 1;
+    return ConsistsOf(text, "-._~:/?#@!$&'()*+,;=%") && std::ranges::count(text, '#') <= 1;
+}
+
+// The number whose decimal digits these are; -1 for any other text, and beyond `largest`.
+int NumberUpTo(int largest, std::string_view digits) {
+    int value = digits.empty() ? -1 : 0;
+    for (const char c : digits) {
+        value = IsDigit(c) && value >= 0 ? value * 10 + (c - '0') : -1;
+        if (value > largest) {
+            return -1;
+        }
+    }
+    return value;
 }
 
 // Four numbers up to 255 without leading zeros.
 bool IsDottedNumber(std::string_view host) {
-    constexpr int largest = 255;
-    int parts = 0;
-    for (std::size_t end = 0; end != std::string_view::npos; ++parts) {
-        end = host.find('.');
-        const auto part = host.substr(0, end);
-        int value = 0;
-        for (const char c : part.substr(0, 4)) {
-            value = IsDigit(c) ? value * 10 + (c - '0') : largest + 1;
-        }
-        if (part.empty() || value > largest || (part.size() > 1 && part.front() == '0')) {
+    for (int parts = 1;; ++parts) {
+        const auto part = host.substr(0, host.find('.'));
+        if (NumberUpTo(255, part) < 0 || (part.size() > 1 && part.front() == '0')) {
             return false;
         }
-        host.remove_prefix(end == std::string_view::npos ? 0 : end + 1);
+        if (part.size() == host.size()) {
+            return parts == 4;
+        }
+        host.remove_prefix(part.size() + 1);
     }
-    return parts == 4;
 }
 
 // Whether browsers take the host for a number (WHATWG URL): its last label is one, maybe in hexadecimal.
@@ -72,41 +76,13 @@ bool IsHostName(std::string_view host) {
     if (host.ends_with('.')) {
         host.remove_suffix(1);
     }
-    if (EndsInNumber(host)) {
-        return false;
-    }
-    bool inLabel = false;
-    for (const char c : host) {
-        if (c == '.' && inLabel) {
-            inLabel = false;
-        } else if (IsLetterOrDigit(c) || c == '-' || c == '_') {
-            inLabel = true;
-        } else {
-            return false;
-        }
-    }
-    return inLabel;
+    return !EndsInNumber(host) && ConsistsOf(host, "-_.") && !host.starts_with('.') &&
+           host.find("..") == std::string_view::npos;
 }
 
 bool IsNumberInBrackets(std::string_view host) {
-    if (host.size() < 4 || host.front() != '[' || host.back() != ']') {
-        return false;
-    }
-    host = host.substr(1, host.size() - 2);
-    return std::all_of(
-        host.begin(), host.end(), [](char c) { return IsHexDigit(c) || c == ':' || c == '.'; });
-}
-
-bool IsPort(std::string_view port) {
-    constexpr int largest = 65535;
-    int value = 0;
-    for (const char c : port) {
-        value = IsDigit(c) ? value * 10 + (c - '0') : largest + 1;
-        if (value > largest) {
-            return false;
-        }
-    }
-    return value > 0;
+    return host.size() >= 4 && host.starts_with('[') && host.ends_with(']') &&
+           host.find_first_not_of("0123456789ABCDEFabcdef:.", 1) == host.size() - 1;
 }
 
 // Host and port. User information would show as an "@" here, which neither may hold.
@@ -114,7 +90,7 @@ bool IsAuthority(std::string_view authority) {
     const auto bracket = authority.rfind(']');
     const auto colon = authority.find(':', bracket == std::string_view::npos ? 0 : bracket);
     const auto host = authority.substr(0, colon);
-    if (colon != std::string_view::npos && !IsPort(authority.substr(colon + 1))) {
+    if (colon != std::string_view::npos && NumberUpTo(65535, authority.substr(colon + 1)) < 1) {
         return false;
     }
     return IsHostName(host) || IsNumberInBrackets(host);

@@ -4,6 +4,7 @@
 #include "platform/Utf8.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace tessarolyne {
 
@@ -19,7 +20,7 @@ bool IsBlank(char32_t code) {
 }
 
 bool AreDigits(std::string_view text) {
-    return std::all_of(text.begin(), text.end(), IsDigit);
+    return std::ranges::all_of(text, IsDigit);
 }
 
 // Whether these are digits only, or groups of three with one kind of separator between them. The first group
@@ -114,10 +115,9 @@ bool IsCurrency(std::string_view text) {
             word += text.substr(at, character.size);
         } else if (IsCurrencySign(character.code) || character.code == ' ' || character.code == '.' ||
                    character.code == ':') {
-            if (Multiplies(word)) {
+            if (Multiplies(std::exchange(word, {}))) {
                 return false;
             }
-            word.clear();
         } else {
             return false;
         }
@@ -133,13 +133,11 @@ bool IsNotation(std::string_view word) {
 }
 
 bool NotationTouches(std::string_view before, std::string_view behind) {
-    std::size_t from = before.size();
-    while (from > 0 && IsLetter(before[from - 1])) {
-        --from;
-    }
-    const auto end = std::find_if_not(behind.begin(), behind.end(), IsLetter);
-    return IsNotation(before.substr(from)) ||
-           IsNotation(behind.substr(0, static_cast<std::size_t>(end - behind.begin())));
+    const std::string_view touching(
+        std::find_if_not(before.rbegin(), before.rend(), IsLetter).base(), before.end());
+    const std::string_view following(
+        behind.begin(), std::find_if_not(behind.begin(), behind.end(), IsLetter));
+    return IsNotation(touching) || IsNotation(following);
 }
 
 // A price without cents ends in one: "12.–".
