@@ -27,6 +27,9 @@ TEST_CASE("A number typed in either field stands in the other, written as progra
     CHECK(window.EditFieldNbre.Text() == "725 008");
     world.Type(window.EditFieldNbre, "255");
     CHECK(window.EditFieldBaseOrg.Text() == "FF");
+    world.Type(window.EditFieldBaseOrg, "");
+    CHECK((window.EditFieldNbre.Text().empty() && world.sounds.beeps == 0));
+    world.Type(window.EditFieldNbre, "255");
     world.Type(window.EditFieldNbre, "");
     CHECK((window.EditFieldBaseOrg.Text() + window.EditFieldBaseDest.Text() + window.TxtAreaDecomp1er.Text() +
            window.TxtAreaLettres.Text())
