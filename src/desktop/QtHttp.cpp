@@ -7,6 +7,7 @@
 #include <QTcpSocket>
 #include <QUrl>
 
+#include <optional>
 #include <utility>
 
 namespace tessarolyne {
@@ -15,7 +16,8 @@ namespace {
 
 constexpr int httpPort = 80;
 
-// HTTP/1.0, so that the server closes. A host may have several names, so it is told which one is meant.
+// HTTP/1.0, so that the server closes; from one that doesn't, a whole page is taken at the deadline. A host
+// may have several names, so it is told which one is meant.
 QByteArray Request(const QUrl& url) {
     const QUrl page = url.adjusted(QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveFragment);
     const QUrl site = url.adjusted(QUrl::RemoveUserInfo);
@@ -36,8 +38,8 @@ class Exchange final : public QObject {
 public:
     Exchange(QObject* parent, EventLoop& loop, const HttpLimits& limits, std::string url,
         std::function<void(const HttpReply&)> reply)
-        : QObject(parent), loop_(loop), largestAnswer_(limits.largestAnswer), url_(std::move(url)),
-          reply_(std::move(reply)) {
+        : QObject(parent), loop_(loop), largestAnswer_(static_cast<qsizetype>(limits.largestAnswer)),
+          url_(std::move(url)), reply_(std::move(reply)) {
         deadline_ = loop_.SetAlarm(limits.deadline, [this] { Finish(false); });
     }
     ~Exchange() override { loop_.CancelAlarm(deadline_); }
@@ -59,7 +61,7 @@ public:
 private:
     void Ask(QTcpSocket& socket, const QByteArray& request) {
         socket_ = &socket;
-        socket.setReadBufferSize(static_cast<qint64>(largestAnswer_) + 1); // a fast sender waits for us
+        socket.setReadBufferSize(largestAnswer_ + 1); // a fast sender waits for us
         connect(&socket, &QTcpSocket::readyRead, this, [this] { Read(); });
         connect(&socket, &QTcpSocket::errorOccurred, this, [this](QAbstractSocket::SocketError error) {
             Finish(error == QAbstractSocket::RemoteHostClosedError);
@@ -68,9 +70,8 @@ private:
     }
 
     void Read() {
-        const QByteArray bytes = socket_->readAll();
-        answer_.Add({bytes.data(), static_cast<std::size_t>(bytes.size())});
-        if (answer_.Size() > largestAnswer_ || answer_.IsOver()) {
+        answer_ += socket_->readAll();
+        if (answer_.size() > largestAnswer_) {
             Finish(false);
         }
     }
@@ -81,28 +82,29 @@ private:
         }
         finished_ = true;
         if (closed) {
-            const QByteArray rest = socket_->readAll();
-            answer_.Add({rest.data(), static_cast<std::size_t>(rest.size())});
+            answer_ += socket_->readAll();
         }
-        loop_.Post([reply = std::move(reply_), result = Result(closed)] { reply(result); });
+        loop_.Post([reply = std::move(reply_), result = Page(closed).value_or(Failure(url_, error_))] {
+            reply(result);
+        });
         deleteLater();
     }
 
-    HttpReply Result(bool closed) const {
-        if (answer_.Size() <= largestAnswer_) {
-            if (auto page = answer_.Page(closed)) {
-                page->url = url_;
-                return *page;
-            }
+    std::optional<HttpReply> Page(bool closed) const {
+        auto page = answer_.size() <= largestAnswer_
+                        ? ReadHttpAnswer({answer_.data(), static_cast<std::size_t>(answer_.size())}, closed)
+                        : std::nullopt;
+        if (page) {
+            page->url = url_;
         }
-        return Failure(url_, error_);
+        return page;
     }
 
     EventLoop& loop_;
-    const std::size_t largestAnswer_;
+    const qsizetype largestAnswer_;
     const std::string url_;
     std::function<void(const HttpReply&)> reply_;
-    HttpAnswer answer_;
+    QByteArray answer_;
     int error_ = QtHttp::lostConnection;
     EventLoop::AlarmId deadline_ = 0;
     bool finished_ = false;
