@@ -15,13 +15,16 @@ foreach(folder pictures sounds)
         ${files} TARGET_DIRECTORY tessarolyne PROPERTIES MACOSX_PACKAGE_LOCATION "Resources/${folder}")
 endforeach()
 
-# Compiled by then: the program depends on them.
-add_custom_command(
-    TARGET tessarolyne
-    POST_BUILD
-    COMMAND "${CMAKE_COMMAND}" -E copy_directory "${PROJECT_BINARY_DIR}/share/tessarolyne/translations"
-            "$<TARGET_FILE_DIR:tessarolyne>/../Resources/translations"
-    VERBATIM)
+# As files of the bundle they follow each change; that of the program's own target makes them.
+file(GLOB sources CONFIGURE_DEPENDS "${PROJECT_SOURCE_DIR}/translations/*.ts")
+foreach(source ${sources})
+    get_filename_component(name "${source}" NAME_WE)
+    set(catalogue "${PROJECT_BINARY_DIR}/share/tessarolyne/translations/${name}.qm")
+    target_sources(tessarolyne PRIVATE "${catalogue}")
+    set_source_files_properties(
+        "${catalogue}" TARGET_DIRECTORY tessarolyne PROPERTIES GENERATED ON MACOSX_PACKAGE_LOCATION
+                                                               Resources/translations)
+endforeach()
 
 # iconutil takes a folder of pictures under names that it prescribes: a size in points, twice that many pixels at @2x.
 set(iconset "${PROJECT_BINARY_DIR}/Tessarolyne.iconset")
@@ -31,6 +34,7 @@ foreach(pixels_and_name 16:16x16 32:16x16@2x 32:32x32 64:32x32@2x 128:128x128 25
                         512:512x512)
     string(REGEX MATCH "^([0-9]+):(.+)$" matched "${pixels_and_name}")
     set(pixels "${CMAKE_MATCH_1}x${CMAKE_MATCH_1}")
+    list(APPEND pictures "${resources}/icons/hicolor/${pixels}/apps/${TESSAROLYNE_IDENTIFIER}.png")
     list(APPEND copies COMMAND "${CMAKE_COMMAND}" -E copy
          "${resources}/icons/hicolor/${pixels}/apps/${TESSAROLYNE_IDENTIFIER}.png"
          "${iconset}/icon_${CMAKE_MATCH_2}.png")
@@ -40,6 +44,7 @@ add_custom_command(
     COMMAND "${CMAKE_COMMAND}" -E make_directory "${iconset}"
     ${copies}
     COMMAND iconutil --convert icns --output "${icon}" "${iconset}"
+    DEPENDS ${pictures}
     VERBATIM)
 target_sources(tessarolyne PRIVATE "${icon}")
 set_source_files_properties(

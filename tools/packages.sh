@@ -31,7 +31,9 @@ packagesToTest=(
 
 # What only ./test --long needs.
 # shellcheck disable=SC2034
-packagesForLongTests=(clang clang-tidy libclang-rt-14-dev shellcheck)
+packagesForLongTests=(clang clang-tidy libclang-rt-14-dev shellcheck
+    clang-16 libc++-16-dev libc++abi-16-dev
+    g++-aarch64-linux-gnu g++-s390x-linux-gnu g++-i686-linux-gnu qemu-user-static)
 
 # What only the test of the package needs.
 # shellcheck disable=SC2034

@@ -43,7 +43,7 @@ std::optional<std::uint64_t> ReadDecimal(std::string_view nombre) {
 std::string Write(std::uint64_t value, std::string_view digits) {
     std::string result;
     do {
-        result.insert(0, 1, digits[value % digits.size()]);
+        result.insert(0, 1, digits[static_cast<std::size_t>(value % digits.size())]);
         value /= digits.size();
     } while (value > 0);
     return result;

@@ -28,7 +28,7 @@ std::string SlowDigits(std::uint64_t value, unsigned base, std::string_view alph
     }
     std::string digits;
     for (; power > 0; value %= power, power /= base) {
-        digits += (base == 10 ? alphabet09AZ : alphabet)[value / power];
+        digits += (base == 10 ? alphabet09AZ : alphabet)[static_cast<std::size_t>(value / power)];
     }
     return digits;
 }

@@ -60,12 +60,12 @@ void BlockSieve::DecideWindow(std::uint64_t end) {
     windowStrikers_.Strike(block_, windowStart_ + size);
     const std::uint64_t firstByte = blockByte_ + windowStart_;
     if (reached_ / 30 == firstByte) {
-        window[0] &= static_cast<std::uint8_t>(~Wheel30::bitsUpTo[reached_ % 30]);
+        window[0] &= static_cast<std::uint8_t>(~Wheel30::BitsUpTo(reached_));
     }
     windowStart_ += size;
     reached_ = 30 * (firstByte + size) - 1;
     if (reached_ > end) {
-        window[size - 1] &= Wheel30::bitsUpTo[end % 30];
+        window[size - 1] &= Wheel30::BitsUpTo(end);
         reached_ = end;
     }
     unread_ = {window, size};

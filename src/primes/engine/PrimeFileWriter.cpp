@@ -113,7 +113,7 @@ void NumberText::Append(std::span<const std::uint64_t> numbers) {
         if (span != 0) {
             std::memcpy(out, leading.data(), leading.size());
             out += leadingSize;
-            std::memcpy(out, lowDigits[value - base].data(), 4);
+            std::memcpy(out, lowDigits[static_cast<std::size_t>(value - base)].data(), 4);
             out += 4;
         } else {
             out = PutNumber(out, value);

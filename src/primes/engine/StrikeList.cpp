@@ -58,12 +58,12 @@ inline unsigned StrikeFrom(std::integer_sequence<unsigned, Bits...>, unsigned co
 
 void StrikeList::Add(std::uint64_t prime, std::uint64_t startByte) {
     std::uint64_t cofactor = std::max(prime, (30 * startByte + prime - 1) / prime);
-    while (Wheel30::bitOfResidue[cofactor % 30] == 8) {
+    while (Wheel30::BitOf(cofactor) == 8) {
         ++cofactor;
     }
     const std::uint64_t place = prime * cofactor / 30 - startByte;
-    classes_[Wheel30::bitOfResidue[prime % 30]].push_back({static_cast<std::uint32_t>(prime / 30),
-        static_cast<std::uint32_t>(8 * place + Wheel30::bitOfResidue[cofactor % 30])});
+    classes_[Wheel30::BitOf(prime)].push_back({static_cast<std::uint32_t>(prime / 30),
+        static_cast<std::uint32_t>(8 * place + Wheel30::BitOf(cofactor))});
 }
 
 template <unsigned Class>

@@ -11,7 +11,7 @@ void TurnStrikeList::Add(std::uint64_t prime, std::uint64_t startByte) {
     // A turn begins with a cofactor 30 a + 1, and 163 is too large for the first one, 1, to occur.
     const std::uint64_t cofactor = std::max(prime, 30 * startByte / prime) / 30 * 30 + 1;
     const auto turn = static_cast<std::int64_t>(prime * cofactor / 30) - static_cast<std::int64_t>(startByte);
-    classes_[Wheel30::bitOfResidue[prime % 30]].push_back(
+    classes_[Wheel30::BitOf(prime)].push_back(
         {static_cast<std::uint32_t>(prime / 30), static_cast<std::int32_t>(turn)});
 }
 

@@ -14,7 +14,6 @@ inline constexpr std::array<std::uint8_t, 8> residues = {1, 7, 11, 13, 17, 19, 2
 // From one residue to the next, the last one to the first of the next byte.
 inline constexpr std::array<std::uint8_t, 8> steps = {6, 4, 2, 4, 2, 4, 6, 2};
 
-// The bit of each residue, 8 where 2, 3 or 5 divides.
 inline constexpr auto bitOfResidue = [] {
     std::array<std::uint8_t, 30> bits{};
     bits.fill(8);
@@ -24,7 +23,6 @@ inline constexpr auto bitOfResidue = [] {
     return bits;
 }();
 
-// The bits of a byte whose residues are not above `residue`.
 inline constexpr auto bitsUpTo = [] {
     std::array<std::uint8_t, 30> masks{};
     for (std::size_t residue = 0; residue < 30; ++residue) {
@@ -36,5 +34,15 @@ inline constexpr auto bitsUpTo = [] {
     }
     return masks;
 }();
+
+// The bit of a number in its byte, 8 where 2, 3 or 5 divides it.
+constexpr std::uint8_t BitOf(std::uint64_t number) {
+    return bitOfResidue[static_cast<std::size_t>(number % 30)];
+}
+
+// The bits of the numbers in the byte of `number` that are not above it.
+constexpr std::uint8_t BitsUpTo(std::uint64_t number) {
+    return bitsUpTo[static_cast<std::size_t>(number % 30)];
+}
 
 } // namespace tessarolyne::Wheel30

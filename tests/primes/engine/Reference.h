@@ -56,14 +56,14 @@ inline Numbers DecompPremCalc(std::uint64_t n, Numbers& table, std::int64_t step
 }
 
 // All primes up to `end`, by the sieve of Eratosthenes.
-inline Numbers Primes(std::uint64_t end) {
+inline Numbers Primes(std::size_t end) {
     std::vector<bool> struck(end + 1);
     Numbers primes;
-    for (std::uint64_t n = 2; n <= end; ++n) {
+    for (std::size_t n = 2; n <= end; ++n) {
         if (!struck[n]) {
             primes.push_back(n);
-            for (std::uint64_t m = n * n; m <= end; m += n) {
-                struck[m] = true;
+            for (std::uint64_t m = std::uint64_t{n} * n; m <= end; m += n) {
+                struck[static_cast<std::size_t>(m)] = true;
             }
         }
     }
