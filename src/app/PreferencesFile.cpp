@@ -4,7 +4,6 @@
 #include "platform/Numbers.h"
 #include "platform/Text.h"
 #include "platform/TextStreams.h"
-#include "platform/Utf8.h"
 #include "ui/FileItems.h"
 
 #include <algorithm>
@@ -204,9 +203,9 @@ void WritePreferencesFile(const FolderItem& folder, const Preferences& preferenc
         const auto copy = ItemIn(folder, badPreferencesFileName);
         folder.Files().KeepAs(item.NativePath(), copy.NativePath());
     }
-    auto stream = TextOutputStream::Create(item);
-    stream.Write(PreferencesText(preferences));
-    stream.Close();
+    const auto file = folder.Files().CreateSafely(item.NativePath(), LinkPolicy::ReplaceTarget);
+    file->Write(PreferencesText(preferences));
+    file->Commit();
 }
 
 } // namespace tessarolyne

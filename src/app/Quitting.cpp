@@ -1,7 +1,7 @@
 #include "app/Quitting.h"
 
 #include "conversion/NumberEntry.h"
-#include "platform/Buttons.h"
+#include "platform/Controls.h"
 #include "platform/EventLoop.h"
 #include "platform/Numbers.h"
 #include "platform/Services.h"

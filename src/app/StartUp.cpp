@@ -89,9 +89,9 @@ void WinMain::SweepLeftovers() {
 // False, and the program on its way out with nothing saved, if there is no place for preferences.
 bool WinMain::FindPreferencesFolder() {
     FileSystem& files = program.services.files;
-    app.DossierPref = SpecialFolder::Preferences(files);
+    app.DossierPref = FolderItem::Find(files, KnownFolder::Preferences);
     if (!app.DossierPref) {
-        if (const auto folder = SpecialFolder::Application(files)) {
+        if (const auto folder = FolderItem::Find(files, KnownFolder::Application)) {
             app.DossierPref = folder->Child(ownPreferencesFolder);
             if (app.DossierPref && !app.DossierPref->Exists()) {
                 app.DossierPref->CreateAsFolder();

@@ -23,12 +23,6 @@ constexpr int handOverPeriod = 1;
 constexpr int busyPeriod = 1000;
 constexpr int moment = 500; // what takes longer is shown to be under way
 
-// Days of the user's calendar, not spans of 24 hours.
-std::int64_t DayNumber(const Date& date) {
-    constexpr std::int64_t secondsADay = 86400;
-    return date.TotalSeconds() / secondsADay;
-}
-
 // An address that will only be shown is no help to someone who wonders where the button leads.
 std::string HelpTag(const std::string& address) {
     return IsSafeAddress(address) ? address : std::string();
@@ -51,7 +45,7 @@ UpdateCheck::UpdateCheck(App& app, Fncts& fncts, Services& services, std::string
 // A clock that was set back makes no new day.
 void UpdateCheck::StartAutomatically() {
     const bool due = offersUpdateCheck && app_.AutoCheckUpdt &&
-                     DayNumber(app_.DateDuJour) > DayNumber(app_.DateDerLaunch) &&
+                     app_.DateDuJour.CalendarDay() > app_.DateDerLaunch.CalendarDay() &&
                      !services_.loop.IsQuitting();
     alertVerAjour_ = !due;
     if (due) {

@@ -2,9 +2,8 @@
 
 #include "conversion/BaseConversion.h"
 #include "conversion/NumberEntry.h"
-#include "platform/Buttons.h"
+#include "platform/Controls.h"
 #include "platform/Numbers.h"
-#include "platform/PopupMenu.h"
 #include "platform/Text.h"
 #include "platform/TextControls.h"
 #include "ui/App.h"

@@ -3,12 +3,10 @@
 #include "conversion/NumberEntry.h"
 
 #include "conversion/BaseConversion.h"
-#include "platform/Buttons.h"
 #include "platform/Clock.h"
+#include "platform/Controls.h"
 #include "platform/Numbers.h"
-#include "platform/PopupMenu.h"
 #include "platform/Services.h"
-#include "platform/ShownControls.h"
 #include "platform/Text.h"
 #include "platform/TextControls.h"
 #include "primes/Calculation.h"

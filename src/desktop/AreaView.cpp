@@ -97,12 +97,12 @@ void AreaView::ReadStyles() {
     styles_ = model_.Styles();
     for (const TextStyle& style : styles_) {
         QTextCharFormat format;
-        format.setFontWeight(style.Bold ? QFont::Bold : QFont::Normal);
-        format.setFontUnderline(style.Underline);
-        if (style.TextSize > 0) {
-            format.setProperty(QTextFormat::FontPixelSize, style.TextSize);
+        format.setFontWeight(style.bold ? QFont::Bold : QFont::Normal);
+        format.setFontUnderline(style.underline);
+        if (style.textSize > 0) {
+            format.setProperty(QTextFormat::FontPixelSize, style.textSize);
         }
-        Selection(widget_->document(), model_.Text, style.Start, style.Length).mergeCharFormat(format);
+        Selection(widget_->document(), model_.Text, style.start, style.length).mergeCharFormat(format);
     }
 }
 

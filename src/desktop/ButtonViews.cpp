@@ -2,7 +2,7 @@
 
 #include "desktop/Pictures.h"
 #include "desktop/QtText.h"
-#include "platform/Buttons.h"
+#include "platform/Controls.h"
 #include "platform/Window.h"
 
 #include <QCheckBox>
@@ -61,16 +61,16 @@ protected:
         QStyleOptionButton option;
         initStyleOption(&option);
         const Picture& icon = model_.Icon();
-        const bool isColour = icon.Resource.empty() && icon.Width > 0;
+        const bool isColour = icon.resource.empty() && icon.width > 0;
         if (isColour) {
-            option.palette.setColor(QPalette::Button, QColor::fromRgb(icon.Fill));
+            option.palette.setColor(QPalette::Button, QColor::fromRgb(icon.fill));
         }
         painter.drawControl(QStyle::CE_PushButtonBevel, option);
         if (isColour && !isDown()) {
             // Inside the frame: an area of the picture's size and offset would lie on its left side.
-            painter.fillRect(rect().adjusted(2, 2, -2, -2), QColor::fromRgb(icon.Fill));
+            painter.fillRect(rect().adjusted(2, 2, -2, -2), QColor::fromRgb(icon.fill));
         } else if (!isColour && !(icon == Picture())) {
-            QRect face(0, 0, icon.Width, icon.Height);
+            QRect face(0, 0, icon.width, icon.height);
             face.moveCenter(rect().center());
             face.translate(model_.IconDX, model_.IconDY);
             DrawPicture(painter, icon, face);

@@ -22,7 +22,7 @@ void OpenContextMenu(QMenu* menu, TextControl& control, const QContextMenuEvent&
         menu->addSeparator();
     }
     for (const TextControl::Command& command : commands) {
-        QAction* const action = menu->addAction(LiteralCaption(command.Caption));
+        QAction* const action = menu->addAction(LiteralCaption(command.caption));
         QObject::connect(
             action, &QAction::triggered, menu, [&control, command] { control.UserChoseCommand(command); });
     }

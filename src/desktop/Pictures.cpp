@@ -29,12 +29,12 @@ QPixmap Load(const std::string& name) {
 } // namespace
 
 void DrawPicture(QPainter& painter, const Picture& picture, const QRect& area) {
-    const QSize given(picture.Width, picture.Height);
-    if (picture.Resource.empty()) {
-        painter.fillRect(QRect(area.topLeft(), given), QColor::fromRgb(picture.Fill));
+    const QSize given(picture.width, picture.height);
+    if (picture.resource.empty()) {
+        painter.fillRect(QRect(area.topLeft(), given), QColor::fromRgb(picture.fill));
         return;
     }
-    const QPixmap pixmap = Load(picture.Resource);
+    const QPixmap pixmap = Load(picture.resource);
     if (pixmap.isNull()) {
         return;
     }
@@ -44,10 +44,10 @@ void DrawPicture(QPainter& painter, const Picture& picture, const QRect& area) {
 }
 
 QColor TextColorOn(const Picture& picture, const QPalette& palette) {
-    if (!picture.Resource.empty() || picture.Width == 0) {
+    if (!picture.resource.empty() || picture.width == 0) {
         return palette.color(QPalette::ButtonText);
     }
-    return qGray(picture.Fill) > 128 ? Qt::black : Qt::white;
+    return qGray(picture.fill) > 128 ? Qt::black : Qt::white;
 }
 
 } // namespace tessarolyne

@@ -1,5 +1,5 @@
 #include "desktop/ControlView.h"
-#include "platform/PopupMenu.h"
+#include "platform/Controls.h"
 
 #include "desktop/QtText.h"
 

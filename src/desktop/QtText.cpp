@@ -1,6 +1,6 @@
 #include "desktop/QtText.h"
 
-#include "platform/Utf8.h"
+#include "platform/Text.h"
 
 #include <QApplication>
 #include <QChar>

@@ -2,7 +2,7 @@
 #include "desktop/Pictures.h"
 #include "desktop/Pressable.h"
 #include "desktop/QtText.h"
-#include "platform/ShownControls.h"
+#include "platform/Controls.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>

@@ -1,5 +1,5 @@
 #include "desktop/ControlView.h"
-#include "platform/ShownControls.h"
+#include "platform/Controls.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>

@@ -2,7 +2,7 @@
 
 #include "desktop/ControlView.h"
 #include "desktop/QtText.h"
-#include "platform/Buttons.h"
+#include "platform/Controls.h"
 #include "platform/Window.h"
 
 #include <QAbstractScrollArea>

@@ -104,7 +104,7 @@ void WindowView::AddShortcuts() {
     static const QString digits = QStringLiteral("1234");
     static const QString signs = QStringLiteral("&É\"'");
     for (const Window::Shortcut& shortcut : window_.Shortcuts()) {
-        const QString keys = ToQt(shortcut.Keys).replace(u"Cmd"_qs, u"Ctrl"_qs);
+        const QString keys = ToQt(shortcut.keys).replace(u"Cmd"_qs, u"Ctrl"_qs);
         auto* const action = new QAction(this);
         QList<QKeySequence> sequences{QKeySequence(keys)};
         if (const qsizetype digit = digits.indexOf(keys.back()); digit >= 0) {

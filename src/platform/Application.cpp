@@ -49,10 +49,4 @@ void Application::Quit(int exitCode) {
     services_.loop.Quit(exitCode);
 }
 
-void Application::WindowClosed(Window& window) {
-    if (OnWindowClosed) {
-        OnWindowClosed(window);
-    }
-}
-
 } // namespace tessarolyne

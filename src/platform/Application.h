@@ -1,10 +1,10 @@
 #pragma once
 
+#include "platform/Event.h"
 #include "platform/Property.h"
 #include "platform/Signal.h"
 #include "platform/Window.h"
 
-#include <functional>
 #include <vector>
 
 namespace tessarolyne {
@@ -58,7 +58,7 @@ public:
     Signal<> Changed;
     // Called with a window that has closed; whoever owns it lets it go, though not before its handlers
     // return.
-    std::function<void(Window&)> OnWindowClosed;
+    Event<void(Window&)> OnWindowClosed;
 
     // Windows that are shown now leave the keyboard where it is.
     bool ShowsQuietly() const { return showsQuietly_; }
@@ -68,7 +68,6 @@ private:
     friend class QuietShowing;
     void Add(Window& window) { windows_.push_back(&window); }
     void Remove(Window& window) { std::erase(windows_, &window); }
-    void WindowClosed(Window& window);
     void PropertyChanged(const void*) override { Changed(); }
 
     Services& services_;

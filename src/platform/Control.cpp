@@ -8,9 +8,9 @@
 namespace tessarolyne {
 
 Control::Control(Window& window, std::string name, Place place, Locks locks, TabTurn tab, Control* parent)
-    : Name(std::move(name)), Left(*this, place.Left), Top(*this, place.Top), Width(*this, place.Width),
-      Height(*this, place.Height), LockLeft(*this, locks.Left), LockTop(*this, locks.Top),
-      LockRight(*this, locks.Right), LockBottom(*this, locks.Bottom), window_(window), parent_(parent),
+    : Name(std::move(name)), Left(*this, place.left), Top(*this, place.top), Width(*this, place.width),
+      Height(*this, place.height), LockLeft(*this, locks.left), LockTop(*this, locks.top),
+      LockRight(*this, locks.right), LockBottom(*this, locks.bottom), window_(window), parent_(parent),
       tab_(tab) {
     window_.Add(*this);
 }

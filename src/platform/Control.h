@@ -12,10 +12,10 @@ class Window;
 
 // The edges of its window to which a control keeps its distance when the window changes size.
 struct Locks {
-    bool Left = true;
-    bool Top = true;
-    bool Right = false;
-    bool Bottom = false;
+    bool left = true;
+    bool top = true;
+    bool right = false;
+    bool bottom = false;
 };
 inline constexpr Locks lockLeftTop{};
 inline constexpr Locks lockTopRight{false, true, true, false};
@@ -26,8 +26,8 @@ inline constexpr Locks lockAll{true, true, true, true};
 
 // A control's turn among those that Tab visits: its index within its parent, and whether Tab stops there.
 struct TabTurn {
-    int Index = 0;
-    bool Stop = false;
+    int index = 0;
+    bool stop = false;
 };
 constexpr TabTurn TabStop(int index) {
     return {index, true};
@@ -38,10 +38,10 @@ constexpr TabTurn NoTabStop(int index) {
 
 // Where a control stands, in points from the top left of its window, also inside a group box.
 struct Place {
-    int Left = 0;
-    int Top = 0;
-    int Width = 0;
-    int Height = 0;
+    int left = 0;
+    int top = 0;
+    int width = 0;
+    int height = 0;
 };
 
 // A thing with a place on a window. It owns its state and works without a screen; whatever draws it observes
@@ -54,8 +54,8 @@ public:
 
     Window& GetWindow() const { return window_; }
     Control* Parent() const { return parent_; }
-    int TabIndex() const { return tab_.Index; }
-    bool IsTabStop() const { return tab_.Stop; }
+    int TabIndex() const { return tab_.index; }
+    bool IsTabStop() const { return tab_.stop; }
 
     // Whether the control can hold the focus at all; labels and group boxes can't.
     virtual bool TakesFocus() const { return false; }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include <cstdint>
+#include <chrono>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -16,12 +16,11 @@ struct Date {
     int minute = 0;
     int second = 0;
 
+    // The date without the time.
+    std::chrono::year_month_day CalendarDay() const;
+
     // "2026-11-22 21:05:00".
     std::string SQLDateTime() const;
-
-    // Seconds of the local calendar since 1 January 1904; a day is always 86400 of them.
-    std::int64_t TotalSeconds() const;
-
     // Reads what SQLDateTime writes; nothing for any other text, a day that the calendar doesn't have
     // included.
     static std::optional<Date> FromSQLDateTime(std::string_view text);

@@ -15,10 +15,8 @@ class FolderItem {
 public:
     // Nil for a path that isn't absolute, has a ".." or holds a zero byte.
     static std::optional<FolderItem> FromNativePath(FileSystem& files, std::string_view path);
-    // From a file: URL. The first gives an alias's target where there is one, the second the alias itself.
-    // Nil for other URLs.
-    static std::optional<FolderItem> GetFolderItem(FileSystem& files, std::string_view urlPath);
-    static std::optional<FolderItem> GetTrueFolderItem(FileSystem& files, std::string_view urlPath);
+    // Nil if the desktop has no such folder; the one for preferences is made if it is missing.
+    static std::optional<FolderItem> Find(FileSystem& files, KnownFolder folder);
 
     // The last part of the path as the file system has it; for the root of a volume, the volume's name.
     std::string Name() const;
@@ -29,6 +27,8 @@ public:
     std::optional<FolderItem> Child(std::string_view name) const;
     // The same, an alias as itself.
     std::optional<FolderItem> TrueChild(std::string_view name) const;
+    // What an alias leads to, if that is anywhere; else the item itself.
+    FolderItem Resolved() const;
 
     // These three look at the item itself: a dangling alias exists, an alias of a folder is no directory.
     bool Exists() const { return files_->Kind(path_) != FileKind::None; }
@@ -36,8 +36,6 @@ public:
     bool Directory() const { return files_->Kind(path_) == FileKind::Folder; }
 
     const std::string& NativePath() const { return path_; }
-    // "file:///", every byte but letters, digits and "-._~/" as "%XX".
-    std::string URLPath() const;
 
     // False if it didn't succeed.
     bool CreateAsFolder() const { return files_->MakeFolder(path_); }
@@ -52,22 +50,9 @@ public:
 
 private:
     FolderItem(FileSystem& files, std::string path) : files_(&files), path_(std::move(path)) {}
-    // The item itself, or what it leads to if it is an alias that leads somewhere.
-    FolderItem Resolved() const;
 
     FileSystem* files_;
     std::string path_;
 };
-
-namespace SpecialFolder {
-
-// Where programs keep their preferences, made if it was missing. Nil if it can't be had.
-std::optional<FolderItem> Preferences(FileSystem& files);
-// The user's documents. Nil if the desktop has no such folder.
-std::optional<FolderItem> Documents(FileSystem& files);
-// The folder of the running program.
-std::optional<FolderItem> Application(FileSystem& files);
-
-} // namespace SpecialFolder
 
 } // namespace tessarolyne

@@ -1,7 +1,9 @@
 #pragma once
 
+#include <cmath>
 #include <concepts>
 #include <cstdint>
+#include <limits>
 #include <string>
 #include <string_view>
 
@@ -23,7 +25,9 @@ double CDbl(std::string_view text);
 double Val(std::string_view text);
 
 // The nearest whole number, halves away from zero.
-double Round(double value);
+inline double Round(double value) {
+    return std::round(value);
+}
 
 // The decimal digits of an integer, with a minus if it is negative.
 template <std::integral Integer>
@@ -31,21 +35,34 @@ std::string Str(Integer value) {
     return std::to_string(value);
 }
 
-// The number written as the mask says, rounded half away from zero from the double's exact value:
-//   -     at the front: a negative number has a minus, right before its first digit; without it, none
-//   #     a place for a digit, nothing where the number has none (so 0 is empty in "###")
-//   0     a place for a digit, "0" where the number has none
-//   .     the decimal point; behind it each place shows its digit
-//   \x    the character x itself, as is any other character; also in groups that hold no digit
-// Digits for which there is no place stand before the first place, none is lost. A NaN is written as 0, an
-// infinity as the largest finite double.
+// The number written as the mask says, rounded half away from zero from the double's exact value. A mask is
+// of these, in this order:
+//   -      at the front: a negative number has a minus; without it, none
+//   # 0    places for digits; a 0 among them shows the number 0 as "0", without one as in "###" it is empty
+//   \ and a blank, among them: a blank between groups of three digits, as often as the mask has it
+//   .00    at the end: two decimals
+// Digits for which there is no place stand before the first, none is lost; nothing stands for a group that
+// has none. A NaN is written as 0, an infinity as the largest finite double.
 std::string Format(double value, std::string_view mask);
 // The mask of a number without groups.
 inline constexpr std::string_view plainMask = "-#################0";
 
-// The value without its fraction; the nearest value that the type has where it doesn't fit, 0 for a NaN.
-std::uint64_t ToUInt64(double value);
-std::int32_t ToInt32(double value);
-std::int16_t ToInt16(double value);
+// The value without its fraction; the nearest value that the type has where it doesn't fit, 0 for a NaN. The
+// bounds are compared as doubles: the upper one is the power of two just above the largest value, which a
+// double holds exactly.
+template <std::integral Integer>
+Integer Saturated(double value) {
+    using Limits = std::numeric_limits<Integer>;
+    if (std::isnan(value)) {
+        return 0;
+    }
+    if (value <= static_cast<double>(Limits::min())) {
+        return Limits::min();
+    }
+    return value >= std::ldexp(1.0, Limits::digits) ? Limits::max() : static_cast<Integer>(value);
+}
+inline constexpr auto ToUInt64 = Saturated<std::uint64_t>;
+inline constexpr auto ToInt32 = Saturated<std::int32_t>;
+inline constexpr auto ToInt16 = Saturated<std::int16_t>;
 
 } // namespace tessarolyne

@@ -7,31 +7,8 @@
 
 namespace tessarolyne {
 
-// Holds one observer's place in a Signal and gives it up when destroyed. It may outlive the signal.
-class Connection {
-public:
-    Connection() = default;
-    explicit Connection(std::shared_ptr<bool> alive) : alive_(std::move(alive)) {}
-    ~Connection() { Disconnect(); }
-    Connection(Connection&&) noexcept = default;
-    Connection& operator=(Connection&& other) noexcept {
-        if (this != &other) {
-            Disconnect();
-            alive_ = std::move(other.alive_);
-        }
-        return *this;
-    }
-
-    void Disconnect() {
-        if (alive_) {
-            *alive_ = false;
-            alive_.reset();
-        }
-    }
-
-private:
-    std::shared_ptr<bool> alive_;
-};
+// Holds one observer's place in a Signal and gives it up when it goes. It may outlive the signal.
+using Connection = std::shared_ptr<const void>;
 
 // Any number of observers of one fact. Observers may come and go while the signal is being given; it isn't
 // for the program's own handlers, of which each control has one (see Event).
@@ -39,27 +16,24 @@ template <typename... Args>
 class Signal {
 public:
     [[nodiscard]] Connection Connect(std::function<void(Args...)> observer) {
-        auto alive = std::make_shared<bool>(true);
-        observers_.push_back(std::make_shared<Observer>(Observer{alive, std::move(observer)}));
-        return Connection(std::move(alive));
+        auto place = std::make_shared<Observer>(std::move(observer));
+        observers_.push_back(place);
+        return place;
     }
 
     void operator()(Args... args) {
         const auto present = observers_;
-        for (const auto& observer : present) {
-            if (*observer->alive) {
-                observer->call(args...);
+        for (const auto& place : present) {
+            if (const auto observer = place.lock()) { // stays whole if it gives up its own place
+                (*observer)(args...);
             }
         }
-        std::erase_if(observers_, [](const auto& observer) { return !*observer->alive; });
+        std::erase_if(observers_, [](const auto& place) { return place.expired(); });
     }
 
 private:
-    struct Observer {
-        std::shared_ptr<bool> alive;
-        std::function<void(Args...)> call;
-    };
-    std::vector<std::shared_ptr<Observer>> observers_;
+    using Observer = std::function<void(Args...)>;
+    std::vector<std::weak_ptr<Observer>> observers_;
 };
 
 } // namespace tessarolyne

@@ -6,8 +6,8 @@ class Window;
 
 // The size of a screen, in points.
 struct ScreenSize {
-    int Width = 0;
-    int Height = 0;
+    int width = 0;
+    int height = 0;
 };
 
 // Where a window stands, in points from the top left of the first screen.

@@ -1,18 +1,42 @@
 #pragma once
 
-#include "platform/Control.h"
-#include "platform/Mask.h"
+#include "platform/Controls.h"
 
+#include <cstddef>
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 namespace tessarolyne {
 
+// What a text field lets its user write: up to so many digits, with a point and up to so many digits behind
+// it, as in "999999999999.99" or "999". It judges insertions only: deleting is always allowed, and texts that
+// the program sets don't come here. It isn't the mask by which numbers are shown (see Format).
+class Mask {
+public:
+    // Each "9" is one digit that may stand there, "." the point. An empty mask, or one with any other
+    // character, lets everything through.
+    explicit Mask(std::string_view mask = {});
+
+    // Whether the text is what the user may have written so far; a message isn't. A number shown with blanks
+    // (U+0020) is judged without them; beginnings of numbers, such as "." and "12.", fit.
+    bool Holds(std::string_view text) const;
+    // How many digits may stand before and behind the point.
+    std::size_t WholeDigits() const { return wholeDigits_; }
+    std::size_t Decimals() const { return decimals_; }
+
+private:
+    bool Fits(std::string_view text) const;
+
+    bool filters_ = false;
+    bool point_ = false;
+    std::size_t wholeDigits_ = 0;
+    std::size_t decimals_ = 0;
+};
+
 // Whose doing a change of text is: what comes in by the User… methods is the user's, all else the program's.
 enum class ChangedBy { Program, User };
-
-enum class Alignment { Default = 0, Left = 1, Center = 2, Right = 3 };
 
 // What the user does to a text: `inserted` in the place of `removed` characters at `start`, within the text.
 struct TextEdit {
@@ -59,13 +83,13 @@ public:
 
     // What its context menu offers besides the edit commands; asked for each time that it opens.
     struct Command {
-        std::string Caption;
-        std::function<void()> Action;
+        std::string caption;
+        std::function<void()> action;
     };
     std::function<std::vector<Command>()> ContextCommands;
     void UserChoseCommand(const Command& command) {
         if (TakesInput()) {
-            command.Action();
+            command.action();
         }
     }
 
@@ -101,11 +125,11 @@ protected:
 
 // A stretch of a styled text, in characters.
 struct TextStyle {
-    int Start = 0;
-    int Length = 0;
-    bool Bold = false;
-    bool Underline = false;
-    int TextSize = 0; // points; 0 is the area's own
+    int start = 0;
+    int length = 0;
+    bool bold = false;
+    bool underline = false;
+    int textSize = 0; // points; 0 is the area's own
 
     bool operator==(const TextStyle&) const = default;
 };
@@ -115,11 +139,8 @@ class TextArea final : public TextControl {
 public:
     using TextControl::TextControl;
 
-    // Styles of the selection, as they were set; a new Text starts without any.
-    void SetSelBold(bool bold) { StyleOfSelection().Bold = bold, Changed(); }
-    void SetSelUnderline(bool underline) { StyleOfSelection().Underline = underline, Changed(); }
-    void SetSelTextSize(int size) { StyleOfSelection().TextSize = size, Changed(); }
-    const std::vector<TextStyle>& Styles() const { return styles_; }
+    // A new Text starts without any.
+    Property<std::vector<TextStyle>> Styles{*this};
 
     // Into how many columns tab stops divide the area's width, the text behind each tab ending at its stop; 0
     // is the platform's own way.
@@ -128,22 +149,10 @@ public:
 protected:
     void PropertyChanged(const void* property) override {
         if (property == &Text) {
-            styles_.clear();
+            Styles.Assign({});
         }
         TextControl::PropertyChanged(property);
     }
-
-private:
-    TextStyle& StyleOfSelection() {
-        for (TextStyle& style : styles_) {
-            if (style.Start == SelStart() && style.Length == SelLength()) {
-                return style;
-            }
-        }
-        return styles_.emplace_back(TextStyle{SelStart, SelLength, false, false, 0});
-    }
-
-    std::vector<TextStyle> styles_;
 };
 
 } // namespace tessarolyne

@@ -68,8 +68,4 @@ std::string TextInputStream::ReadLine(std::size_t longest) {
     return line;
 }
 
-TextOutputStream TextOutputStream::Create(const FolderItem& item, LinkPolicy links) {
-    return TextOutputStream(item.Files().CreateSafely(item.NativePath(), links));
-}
-
 } // namespace tessarolyne

@@ -16,15 +16,15 @@ Thread* Thread::Current() {
 }
 
 void Thread::Start() {
-    if (State() == running) {
+    if (IsRunning()) {
         return;
     }
-    state_.store(running, std::memory_order_release);
+    isRunning_.store(true, std::memory_order_release);
     afterBody_.clear();
     try {
         thread_ = std::async(std::launch::async, [this] { Body(); });
     } catch (const std::exception& refusal) {
-        state_.store(notRunning, std::memory_order_release);
+        isRunning_.store(false, std::memory_order_release);
         loop_.Post([this, reason = std::string(refusal.what())] { Failed(reason); });
     }
 }
@@ -41,7 +41,7 @@ void Thread::Body() {
     current = nullptr;
     auto tasks = std::exchange(afterBody_, {});
     auto& loop = loop_;
-    state_.store(notRunning, std::memory_order_release);
+    isRunning_.store(false, std::memory_order_release);
     // From here on the main thread may start the body again: nothing of `this` is touched any more.
     for (auto& task : tasks) {
         loop.Post(std::move(task));

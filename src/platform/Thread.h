@@ -15,10 +15,6 @@ namespace tessarolyne {
 // says through a Timer's Mode, which takes effect on the main thread when the body has been left for good.
 class Thread {
 public:
-    // State of a thread whose body runs, and of one whose body doesn't (never did, or has been left).
-    static constexpr int running = 0;
-    static constexpr int notRunning = 4;
-
     explicit Thread(EventLoop& loop) : loop_(loop) {}
     // Waits for the body; raise its stop flag first.
     ~Thread() = default;
@@ -27,7 +23,8 @@ public:
 
     // Starts the body; nothing if it runs. A thread that the system refuses fails like a body.
     void Start();
-    int State() const { return state_.load(std::memory_order_acquire); }
+    // Whether the body has been started and not yet been left.
+    bool IsRunning() const { return isRunning_.load(std::memory_order_acquire); }
 
     // The thread whose body the caller runs in, or null on any other thread.
     static Thread* Current();
@@ -42,7 +39,7 @@ private:
     void Body();
 
     EventLoop& loop_;
-    std::atomic<int> state_ = notRunning;
+    std::atomic<bool> isRunning_ = false;
     std::vector<std::function<void()>> afterBody_;
     std::future<void> thread_; // the last member: its end waits for the body, which uses the others
 };

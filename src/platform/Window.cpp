@@ -53,11 +53,7 @@ void Window::Close() {
     closed_ = true;
     Visible = false;
     Closed();
-    application_.WindowClosed(*this);
-}
-
-void Window::Refresh() {
-    DrawNow();
+    application_.OnWindowClosed(*this);
 }
 
 bool Window::UserPressedKey(const std::string& key) {
@@ -66,16 +62,11 @@ bool Window::UserPressedKey(const std::string& key) {
 
 void Window::UserPressedShortcut(const Shortcut& shortcut) {
     if (application_.LetsUserInto(*this)) {
-        shortcut.Action();
+        shortcut.action();
     }
 }
 
-void Window::UserMoved(int left, int top) {
-    Left = left;
-    Top = top;
-}
-
-void Window::Resize(int width, int height) {
+void Window::UserResized(int width, int height) {
     width = std::clamp(width, Frame.minWidth, Frame.maxWidth);
     height = std::clamp(height, Frame.minHeight, Frame.maxHeight);
     const int wider = width - Width();
@@ -153,10 +144,6 @@ void Window::Remove(Control& control) {
     if (focus_ == &control) {
         focus_ = nullptr;
     }
-}
-
-void Window::PropertyChanged(const void*) {
-    Changed();
 }
 
 } // namespace tessarolyne

@@ -47,10 +47,7 @@ public:
     void Close();
     bool IsClosed() const { return closed_; }
     // Draws again what is pending, without taking input.
-    void Refresh();
-
-    // Changes the size, within the frame's limits; the controls follow by their locks.
-    void Resize(int width, int height);
+    void Refresh() { DrawNow(); }
 
     void UserClosed() {
         closeIsDue_ = false;
@@ -59,16 +56,20 @@ public:
     // The user asks for a close while the program is busy; UserClosed follows when it no longer is.
     void UserWillClose() { closeIsDue_ = true; }
     bool CloseIsDue() const { return closeIsDue_; }
-    void UserMoved(int left, int top);
-    void UserResized(int width, int height) { Resize(width, height); }
+    void UserMoved(int left, int top) {
+        Left = left;
+        Top = top;
+    }
+    // Changes the size, within the frame's limits; the controls follow by their locks.
+    void UserResized(int width, int height);
     // A key that no control took. True: the window took it.
     bool UserPressedKey(const std::string& key);
 
     // Keys that work wherever the focus is in the window, as "Cmd+1", and that menus don't have; added before
     // the window is shown.
     struct Shortcut {
-        std::string Keys;
-        std::function<void()> Action;
+        std::string keys;
+        std::function<void()> action;
     };
     const std::vector<Shortcut>& Shortcuts() const { return shortcuts_; }
     void UserPressedShortcut(const Shortcut& shortcut);
@@ -120,7 +121,7 @@ private:
     friend class Control;
     void Add(Control& control) { controls_.push_back(&control); }
     void Remove(Control& control);
-    void PropertyChanged(const void* property) override;
+    void PropertyChanged(const void*) override { Changed(); }
 
     Application& application_;
     std::vector<Control*> controls_;

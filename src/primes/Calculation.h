@@ -48,7 +48,7 @@ public:
 
     // Goes on with the calculation that has begun on the thread, with the commands frozen.
     void RunOnThread(Task task);
-    bool IsOnThread() const { return worker_.State() == Thread::running; }
+    bool IsOnThread() const { return worker_.IsRunning(); }
 
     // Has a running calculation end at its next look at the flag.
     void Stop();

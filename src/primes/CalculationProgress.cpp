@@ -1,9 +1,8 @@
 #include "primes/CalculationProgress.h"
 
-#include "platform/Buttons.h"
+#include "platform/Controls.h"
 #include "platform/Desktop.h"
 #include "platform/EventLoop.h"
-#include "platform/ShownControls.h"
 #include "platform/Text.h"
 #include "primes/engine/PrimeTable.h"
 #include "ui/Localisation.h"

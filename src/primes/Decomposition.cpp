@@ -1,6 +1,6 @@
 #include "primes/Decomposition.h"
 
-#include "platform/Buttons.h"
+#include "platform/Controls.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
 #include "platform/TextControls.h"

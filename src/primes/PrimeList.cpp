@@ -1,7 +1,7 @@
 // The slice of the prime table that the list window shows, the ways through it by keyboard, and the run that
 // extends the table from there.
 
-#include "platform/Buttons.h"
+#include "platform/Controls.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
 #include "primes/Calculation.h"

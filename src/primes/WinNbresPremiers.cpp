@@ -1,7 +1,7 @@
 #include "primes/WinNbresPremiers.h"
 
 #include "app/Quitting.h"
-#include "platform/Buttons.h"
+#include "platform/Controls.h"
 #include "platform/Desktop.h"
 #include "platform/Numbers.h"
 #include "platform/Services.h"
@@ -130,11 +130,11 @@ void WinNbresPremiers::PlaceWindow() {
     const ScreenSize screen = program.services.stage.Screen();
     const auto [left, top, width, height] = app.WinNBP;
     if (width < Frame.minWidth || height < Frame.minHeight || !CanStandAt({left, top, width, height})) {
-        app.WinNBP = {ToInt16(screen.Width - defaultFromRight), defaultTop, defaultWidth, defaultHeight};
+        app.WinNBP = {ToInt16(screen.width - defaultFromRight), defaultTop, defaultWidth, defaultHeight};
     }
     Left = app.WinNBP[0];
     Top = app.WinNBP[1];
-    Resize(app.WinNBP[2], app.WinNBP[3]);
+    UserResized(app.WinNBP[2], app.WinNBP[3]);
 }
 
 bool WinNbresPremiers::Event_CancelClose(bool appQuitting) {

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "platform/Buttons.h"
-#include "platform/ShownControls.h"
+#include "platform/Controls.h"
 #include "platform/TextControls.h"
 #include "ui/BlockingOverlay.h"
 #include "ui/NumberField.h"

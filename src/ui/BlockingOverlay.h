@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/ShownControls.h"
+#include "platform/Controls.h"
 
 #include <memory>
 #include <string>

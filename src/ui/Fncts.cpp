@@ -77,11 +77,13 @@ std::string Fncts::TypeCompil() {
 }
 
 std::string Fncts::FracTexte(const std::string& texte, int partie) {
-    if (partie < 1 || partie > CountFields(texte, Localisation::placeForValue)) {
+    const auto pieces = Split(texte, Localisation::placeForValue);
+    if (partie < 1 || partie > std::ssize(pieces)) {
         const std::string eol(endOfLine);
         ReportFault("FracTexte. Partie = " + Str(partie) + eol + " " + eol + texte);
+        return {};
     }
-    return NthField(texte, Localisation::placeForValue, partie);
+    return std::string(pieces[static_cast<std::size_t>(partie) - 1]);
 }
 
 std::string Fncts::Filled(const std::string& texte, const std::vector<std::string>& values) {
@@ -198,7 +200,7 @@ std::optional<FolderItem> Fncts::ChooseItem(const std::optional<FolderItem>& dep
     dialog.sheetOf = sheet ? fenetre : nullptr;
     dialog.suggestedName = nomPropose;
     if (!depart) {
-        dialog.initialFolder = SpecialFolder::Documents(services_.files);
+        dialog.initialFolder = FolderItem::Find(services_.files, KnownFolder::Documents);
     } else if (DossPasPack_f(*depart)) {
         dialog.initialFolder = depart;
     } else if (const auto parent = depart->Parent()) {
@@ -208,11 +210,11 @@ std::optional<FolderItem> Fncts::ChooseItem(const std::optional<FolderItem>& dep
         dialog.suggestedName.clear();
     }
     Dialogs& dialogs = services_.dialogs;
-    const auto chosen = toSave ? dialogs.ChooseTarget(dialog) : dialogs.ChooseFile(dialog);
+    auto chosen = toSave ? dialogs.ChooseTarget(dialog) : dialogs.ChooseFile(dialog);
     if (sheet) {
         CtrlDsFenetrDiag(fenetre, false);
     }
-    return chosen ? FolderItem::GetTrueFolderItem(services_.files, chosen->URLPath()) : std::nullopt;
+    return chosen;
 }
 
 void Fncts::MsgBox(const std::string& texte) {

@@ -2,7 +2,6 @@
 
 #include "platform/Numbers.h"
 #include "platform/Text.h"
-#include "platform/Utf8.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -60,7 +59,7 @@ std::string FormatNbre(std::string_view nombre, bool formatAuto) {
     if (ShowsFraction(value)) {
         mask += ".00";
     }
-    return LTrim(Format(value, mask));
+    return Format(value, mask);
 }
 
 std::string FormatType(std::string_view nombre, int base, bool formatAuto) {
@@ -69,7 +68,7 @@ std::string FormatType(std::string_view nombre, int base, bool formatAuto) {
 }
 
 std::string FormatWhole(std::uint64_t value, bool grouped) {
-    return LTrim(Format(static_cast<double>(value), grouped ? groupedMask : plainMask));
+    return Format(static_cast<double>(value), grouped ? groupedMask : plainMask);
 }
 
 } // namespace tessarolyne

@@ -11,8 +11,7 @@ namespace tessarolyne {
 // The largest number that is accepted.
 inline constexpr std::uint64_t NbreMax = 999'999'999'999;
 
-// The mask of decimal numbers in groups. It leaves blanks for groups without digits, so that LTrim follows
-// it.
+// The mask of decimal numbers in groups.
 inline constexpr std::string_view groupedMask = R"(-###\ ###\ ###\ ###\ ###\ ##0)";
 
 // The text with the separator between groups of `groupSize` characters, counted from the right; unchanged if

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/Mask.h"
 #include "platform/TextControls.h"
 #include "ui/WrittenNumber.h"
 

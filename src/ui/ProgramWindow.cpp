@@ -59,8 +59,8 @@ bool ProgramWindow::CanStandAt(const WindowPlace& place) const {
     const ScreenSize screen = stage.Screen();
     // Compared this way round, a position near the end of its type can't overflow.
     const bool onFirst = place.left >= 0 && place.top >= smallestTop &&
-                         place.left <= screen.Width - place.width &&
-                         place.top <= screen.Height - place.height;
+                         place.left <= screen.width - place.width &&
+                         place.top <= screen.height - place.height;
     return onFirst || stage.IsOnOtherScreen(place);
 }
 

@@ -138,12 +138,8 @@ void WinInfos::AskForDonation() {
     const std::string title = Localisation::Btn_FaireDon();
     const std::string eol(endOfLine);
     TexteInfo.Text = title + eol + eol + Localisation::Infos_Text_Don();
-    TexteInfo.SelStart = 0;
-    TexteInfo.SelLength = static_cast<int>(Len(title));
-    TexteInfo.SetSelBold(true);
-    TexteInfo.SetSelUnderline(true);
-    TexteInfo.SetSelTextSize(TexteInfo.TextSize + titleLarger);
-    TexteInfo.SelLength = 0;
+    TexteInfo.Styles = std::vector<TextStyle>{
+        {0, static_cast<int>(Len(title)), true, true, TexteInfo.TextSize + titleLarger}};
     BevButtDejDon.Visible = true;
 }
 

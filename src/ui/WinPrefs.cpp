@@ -55,7 +55,7 @@ void WinPrefs::Event_Open() {
     Fncts::DecPosCtrl(*this);
     const int centred = mainWindow_.Left() + (mainWindow_.Width() - Width()) / 2;
     Top = mainWindow_.Top() + belowMainWindowsTop;
-    Left = std::min(std::max(centred, 0), program.services.stage.Screen().Width - Width());
+    Left = std::min(std::max(centred, 0), program.services.stage.Screen().width - Width());
     OpenModal();
     CheckBoxAutoUpdt.Value = app.AutoCheckUpdt;
     CheckBoxAnnonces.Value = fncts.Annonces;

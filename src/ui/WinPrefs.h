@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Buttons.h"
+#include "platform/Controls.h"
 #include "ui/BlockingOverlay.h"
 #include "ui/ProgramWindow.h"
 

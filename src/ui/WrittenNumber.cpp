@@ -1,7 +1,6 @@
 #include "ui/WrittenNumber.h"
 
 #include "platform/Text.h"
-#include "platform/Utf8.h"
 
 #include <algorithm>
 #include <utility>

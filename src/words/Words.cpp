@@ -1,8 +1,7 @@
 #include "words/Words.h"
 
-#include "platform/Buttons.h"
+#include "platform/Controls.h"
 #include "platform/Numbers.h"
-#include "platform/PopupMenu.h"
 #include "platform/Text.h"
 #include "platform/TextControls.h"
 #include "ui/App.h"

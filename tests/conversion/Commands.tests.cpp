@@ -46,7 +46,7 @@ TEST_CASE("Shortcuts copy in the order of sight, and a field's menu offers its n
     std::vector<std::string> copied;
     for (const Window::Shortcut& shortcut : window.Shortcuts()) {
         window.UserPressedShortcut(shortcut);
-        copied.push_back(shortcut.Keys + " " + world.desktop.clipboard);
+        copied.push_back(shortcut.keys + " " + world.desktop.clipboard);
     }
     CHECK(copied == std::vector<std::string>{"Cmd+1 12 34", "Cmd+2 1 0010 0011 0100", "Cmd+3 2 x 2 x 5 x 233",
                         "Cmd+4 quatre mille six cent soixante euros zéro centime"});
@@ -58,7 +58,7 @@ TEST_CASE("Shortcuts copy in the order of sight, and a field's menu offers its n
         std::string all;
         for (const TextControl::Command& command : field.ContextCommands()) {
             field.UserChoseCommand(command);
-            all += command.Caption + "=" + world.desktop.clipboard + ";";
+            all += command.caption + "=" + world.desktop.clipboard + ";";
         }
         return all;
     };

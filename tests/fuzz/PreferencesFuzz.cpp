@@ -2,8 +2,8 @@
 // where the chunks end, and comes back from the file that is written of it.
 #include "app/PreferencesFile.h"
 #include "fuzz/Must.h"
+#include "platform/Text.h"
 #include "platform/TextStreams.h"
-#include "platform/Utf8.h"
 #include "support/MemoryFileSystem.h"
 
 using namespace tessarolyne;

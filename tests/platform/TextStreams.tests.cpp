@@ -38,15 +38,3 @@ TEST_CASE("A line ends with any of the three endings, wherever a chunk's border 
     CHECK(limited("0123456789\nmore") == "0123456789");
     CHECK_THROWS_AS(limited("0123456789x\n"), IOException); // no endless line takes the memory
 }
-
-TEST_CASE("A text file takes its place only when it is closed") {
-    MemoryFileSystem files;
-    files.AddFile("/a", "old");
-    TextOutputStream::Create(files.At("/a")).Write("new");
-    CHECK(files.entries["/a"].content == "old");
-    auto stream = TextOutputStream::Create(files.At("/a"));
-    stream.Write("one\n");
-    stream.Write("two");
-    stream.Close();
-    CHECK(files.entries["/a"].content == "one\ntwo");
-}

@@ -31,7 +31,7 @@ class TestStage final : public Stage {
 public:
     void Present(Window& window) override { classes_.emplace_back(typeid(window)); }
     ScreenSize Screen() const override { return size; }
-    bool IsOnOtherScreen(const WindowPlace& place) const override { return place.left >= size.Width; }
+    bool IsOnOtherScreen(const WindowPlace& place) const override { return place.left >= size.width; }
 
     // How many windows of that class were shown.
     template <typename WindowClass>

@@ -1,4 +1,4 @@
-#include "platform/Buttons.h"
+#include "platform/Controls.h"
 
 #include "platform/Window.h"
 
