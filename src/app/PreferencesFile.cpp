@@ -3,10 +3,11 @@
 #include "platform/FileSystem.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
-#include "platform/TextStreams.h"
 #include "ui/FileItems.h"
 
 #include <algorithm>
+#include <cstddef>
+#include <span>
 
 namespace tessarolyne {
 
@@ -152,18 +153,18 @@ FolderItem ItemIn(const FolderItem& folder, std::string_view name) {
     return folder.TrueChild(name).value();
 }
 
-std::vector<std::string> ReadLines(const FolderItem& item) {
-    auto stream = TextInputStream::Open(item);
-    std::vector<std::string> lines;
-    std::size_t left = longestPreferencesFile;
-    while (!stream.AtEnd()) {
-        if (left == 0) {
-            throw IOException("too long for a preferences file");
-        }
-        lines.push_back(stream.ReadLine(left - 1));
-        left -= lines.back().size() + 1;
+std::string ReadWhole(const FolderItem& item) {
+    const auto file = item.Files().OpenForReading(item.NativePath());
+    std::string text(longestPreferencesFile + 1, '\0');
+    std::size_t size = 0;
+    for (std::size_t read = 1; read > 0 && size < text.size(); size += read) {
+        read = file->Read(std::span(text).subspan(size));
     }
-    return lines;
+    if (size == text.size()) {
+        throw IOException("too long for a preferences file");
+    }
+    text.resize(size);
+    return text;
 }
 
 } // namespace
@@ -180,8 +181,12 @@ std::string PreferencesText(const Preferences& preferences) {
     return text;
 }
 
-bool ReadPreferences(const std::vector<std::string>& lines, Preferences& preferences) {
-    return std::ranges::all_of(lines, [&](const std::string& line) { return TakeLine(line, preferences); });
+bool ReadPreferences(std::string_view text, Preferences& preferences) {
+    constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+    text.remove_prefix(text.starts_with(byteOrderMark) ? byteOrderMark.size() : 0);
+    const std::string lines = ReplaceLineEndings(text, "\n");
+    return std::ranges::all_of(
+        Split(lines, "\n"), [&](std::string_view line) { return TakeLine(line, preferences); });
 }
 
 PreferencesOutcome ReadPreferencesFile(const FolderItem& folder, Preferences& preferences) {
@@ -190,7 +195,7 @@ PreferencesOutcome ReadPreferencesFile(const FolderItem& folder, Preferences& pr
         return PreferencesOutcome::Missing;
     }
     try {
-        return ReadPreferences(ReadLines(item), preferences) ? PreferencesOutcome::Read
+        return ReadPreferences(ReadWhole(item), preferences) ? PreferencesOutcome::Read
                                                              : PreferencesOutcome::Failed;
     } catch (const IOException&) {
         return PreferencesOutcome::Failed;

@@ -8,7 +8,6 @@
 #include <cstdint>
 #include <string>
 #include <string_view>
-#include <vector>
 
 namespace tessarolyne {
 
@@ -54,11 +53,12 @@ struct Preferences {
 // setting; so is one that is too long.
 std::string PreferencesText(const Preferences& preferences);
 
-// Puts line after line into `preferences` up to the first that fails; false if one did: a date that is none,
-// or an index that its control doesn't have. A line with an unknown key says nothing. Keys and "True" are
-// taken in any case. Numbers are those at the start of their text, truncated, 0 if there is none, held within
-// their type.
-bool ReadPreferences(const std::vector<std::string>& lines, Preferences& preferences);
+// Puts line after line of a file's text into `preferences` up to the first that fails; false if one did: a
+// date that is none, or an index that its control doesn't have. A line ends with CR, LF or CRLF; one with an
+// unknown key says nothing. Keys and "True" are taken in any case. Numbers are those at the start of their
+// text, truncated, 0 if there is none, held within their type. A path may be of bytes that aren't UTF-8; in
+// other texts they are replaced.
+bool ReadPreferences(std::string_view text, Preferences& preferences);
 
 enum class PreferencesOutcome { Read, Missing, Failed };
 

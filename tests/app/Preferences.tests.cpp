@@ -9,9 +9,15 @@ using namespace tessarolyne;
 
 namespace {
 
-// What the lines make of the initial values.
+// What the lines, each with another ending than the one before, make of the initial values.
 struct After {
-    explicit After(const std::vector<std::string>& lines) : read(ReadPreferences(lines, preferences)) {}
+    explicit After(const std::vector<std::string>& lines) {
+        std::string text = "\xEF\xBB\xBF";
+        for (std::size_t i = 0; i < lines.size(); ++i) {
+            text += lines[i] + (i % 3 == 0 ? "\r\n" : i % 3 == 1 ? "\r" : "\n");
+        }
+        read = ReadPreferences(text, preferences);
+    }
     Preferences preferences;
     bool read;
 };
@@ -67,9 +73,10 @@ TEST_CASE("Lines count in any order, the later of two wins, and what isn't known
 }
 
 TEST_CASE("A date that is none, or an index that its control lacks, fails with the lines before it done") {
-    for (const char* line :
-        {"Date Launch :@: ", "Date Launch :@: 2026-02-30 00:00:00", "Base Org :@: 35", "Base Org :@: -1",
-            "Base Dest :@: 99999999999", "Nbre Base 09AZ :@: 2", "Nbre Base 09AZ :@: -1"}) {
+    for (const char* line : {"Date Launch :@: ", "Date Launch :@: 2026-02-30 00:00:00",
+             "Date Launch :@: 2026-02-03T00:00:00", "Date Launch :@: 2026-02-03 24:00:00",
+             "Date Launch :@: 2026-02-03 00:00:00 ", "Base Org :@: 35", "Base Org :@: -1",
+             "Base Dest :@: 99999999999", "Nbre Base 09AZ :@: 2", "Nbre Base 09AZ :@: -1"}) {
         CAPTURE(line);
         const After after({"Base Org :@: 5", line, "Majuscule :@: True"});
         Preferences expected;

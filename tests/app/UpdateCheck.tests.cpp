@@ -96,11 +96,6 @@ TEST_CASE("The first start of a day asks once, if allowed, and speaks by itself 
         world.loop.Advance(2);
         CHECK(world.dialogs.asked.size() == static_cast<std::size_t>(dialogs));
         CHECK(world.sounds.beeps == dialogs);
-        world.ChooseCheck(); // the next one reports all
-        world.dialogs.Expect(DialogButton::Action);
-        world.Answer(File(here));
-        world.loop.Advance(1);
-        CHECK(world.dialogs.asked.back().message == Localisation::Txt_Ver_a_jour());
     }
 }
 

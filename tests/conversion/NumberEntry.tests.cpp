@@ -249,19 +249,3 @@ TEST_CASE("A second after typing stops, the output that the user went to last is
     world.loop.Advance(5000);
     CHECK(world.announcer.said.size() == 3);
 }
-
-TEST_CASE("A run that the user asked for is announced at its end, with what it gave or that it was stopped") {
-    TestWorld world;
-    WinMain& window = world.Main();
-    world.Type(window.EditFieldNbre, "1000002");
-    world.loop.Advance(1000);
-    window.decomposition.DecompPremDeb(true);
-    world.Settle();
-    CHECK(world.announcer.said.size() == 2);
-    CHECK(world.announcer.said.back() == "Calcul terminé : 2 x 3 x 166 667");
-    world.Type(window.EditFieldNbre, "999999999989");
-    window.decomposition.DecompPremDeb(true);
-    window.calculation.StopOnEscape("\x1B");
-    world.Settle();
-    CHECK(world.announcer.said.back() == "Calcul arrêté");
-}

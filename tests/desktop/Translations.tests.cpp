@@ -216,6 +216,7 @@ TEST_CASE("A text comes from the region's catalogue, else the language's, else i
         {{"en"}, "en", "euros/cents", "Cancel", "Cancel"},
         {{"en-GB", "fr"}, "en", "pounds/pence", "Cancel", "Cancel"},
         {{"en_US.UTF-8"}, "en", "dollars/cents", "Cancel", "Cancel"},
+        {{"tlh", "EN-Latn-gb"}, "en", "pounds/pence", "Cancel", "Cancel"},
         {{"en_CA"}, "en", "dollars/cents", "Cancel", "Cancel"},
         {{"fr_CA"}, "fr", "dollars/cents", "Annuler", "Annuler"},
         {{"fr_CH"}, "ch be", "francs/centimes", "Annuler", "Annuler"},

@@ -72,24 +72,6 @@ class PrimeFile(SavingTestCase):
         self.assertTrue(self.control("BevelButtonListe").checked)
 
 
-class OtherText(SavingTestCase):
-    def test_a_text_is_named_before_the_primes_that_were_there_take_its_place(self):
-        letter = Path(self._home) / "letter.txt"
-        letter.write_text("Dear Anne,\nyours\n")
-        self.press_button("BevelButtonListe")
-        self.wait_for_focus("EditFieldFin")
-        self.screen.press("ctrl+a")
-        self.screen.type("987")
-        self.screen.press("Return")
-        self.control("StaticTextNbNbre1ers")
-        self.open(letter)
-        self.find_with_keyboard("push button", "Enregistrer")
-        self.assertEqual(letter.read_text(), "Dear Anne,\nyours\n")
-        self.screen.press("Return")
-        self.program.wait_for(lambda: letter.read_text().endswith("977\t983\n"), "the primes to be in the file")
-        self.control("StaticTextNbNbre1ers")
-
-
 class EndOfALoad(SavingTestCase):
     def test_a_load_ends_with_the_program_and_writes_nothing(self):
         ends = (

@@ -70,17 +70,3 @@ class Entry(ProgramTestCase):
             self.screen.type("2")
             self.screen.press("alt+5", "super+5", "ctrl+alt+1", "Escape", "3")
             self.wait_for_text(name, "23")
-
-    def test_the_base_field_shows_a_long_number_as_the_one_below_does(self):
-        self.clear("EditFieldNbre")
-        self.choose("PopupMenuBaseOrg", 0)
-        self.screen.type("999999999999")
-        self.wait_for_text("EditFieldBaseOrg", "1110 1000 1101 0100 1010 0101 0000 1111 1111 1111")
-        picture = str(self.screen.take_picture("base2"))
-
-        def look(told_name):
-            left, top, width, height = self.control(told_name).bounds
-            place = f"{width}x{height}+{left}+{top}"
-            return self.screen.run("convert", picture, "-crop", place, "+repage", "-format", "%#", "info:")
-
-        self.assertEqual(look("EditFieldBaseOrg"), look("EditFieldBaseDest"))

@@ -35,20 +35,8 @@ MAIN_TEXTS = [
 LIST_TEXTS = ["EditFieldFin", "EditFieldAffDu", "EditFieldAffAu", "TxtAreaListeNbres1ers", "EditFieldNbNbresLigne"]
 
 
-def tour_of_all_pairs(nodes):
-    """A way that goes once from each node to each other."""
-    ahead = {node: [other for other in nodes if other != node] for node in nodes}
-    stack, way = nodes[:1], []
-    while stack:
-        if ahead[stack[-1]]:
-            stack.append(ahead[stack[-1]].pop())
-        else:
-            way.append(stack.pop())
-    return way[::-1]
-
-
 class ClicksIntoTexts(ProgramTestCase):
-    def test_a_click_moves_the_focus_from_any_text_to_any_other_whatever_is_selected(self):
+    def test_a_click_moves_the_focus_from_text_to_text_whatever_is_selected(self):
         self.program.move(10, 60)  # beside the list
         self.screen.type("1250.40")
         self.wait_for_text("TxtAreaLettres", "mille deux cent cinquante euros quarante centimes")
@@ -62,7 +50,7 @@ class ClicksIntoTexts(ProgramTestCase):
         self.press_button("BevelButtonListe")
         self.wait_for_focus("EditFieldFin")
         places = {name: self.control(name).centre for name in MAIN_TEXTS + LIST_TEXTS}
-        way = tour_of_all_pairs(list(places))
+        way = list(places) + list(places)[::-1] + [name for pair in zip(MAIN_TEXTS, LIST_TEXTS) for name in pair]
         for selected in (True, False):
             for name in way:
                 with self.subTest(to=name, selected=selected):

@@ -3,8 +3,6 @@
 from case import ProgramTestCase
 from controls import TAB_ORDER
 
-HINT = "Pour les grands nombres, cliquez Décomposer.\nCela peut être long."
-
 
 class Outputs(ProgramTestCase):
     def enter(self, number):
@@ -36,17 +34,6 @@ class Outputs(ProgramTestCase):
         self.wait_for_text("TxtAreaDecomp1er", "2")
         self.program.wait_for(lambda: darkest() < 0.2 and factors.description == "Le nombre comme produit de nombres premiers.", "black factors again")
 
-    def test_factors_at_once_or_by_the_button(self):
-        self.enter("1000002")
-        self.wait_for_text("TxtAreaDecomp1er", "2 x 3 x 166 667")
-        self.enter("999999999989")
-        self.wait_for_text("TxtAreaDecomp1er", HINT)
-        self.press_button("PushButtDecomposer")
-        self.wait_for_text("TxtAreaDecomp1er", "999 999 999 989")
-        self.press_button("CheckBoxFormatAuto")
-        self.wait_for_text("TxtAreaDecomp1er", "999999999989")
-        self.press_button("CheckBoxFormatAuto")
-
     def test_factors_dragged_into_a_field_count_as_typed_there(self):
         self.enter("97")
         self.wait_for_text("TxtAreaDecomp1er", "97")
@@ -58,25 +45,3 @@ class Outputs(ProgramTestCase):
         for name in TAB_ORDER[1:]:  # for a while: Qt began a drag anew some moments later
             self.screen.press("Tab")
             self.wait_for_focus(name)
-
-    def test_a_long_calculation_says_how_far_it_is(self):
-        self.press_button("BevelButtonListe")
-        self.clear("EditFieldFin")
-        self.screen.type("999999999999")
-        self.screen.press("Return")
-        wheel = self.find("progress bar", "Calcul en cours")
-        told = self.program.wait_for(lambda: wheel.value, "the first prime to be told")
-        self.program.wait_for(
-            lambda: wheel.value > told and wheel.description.replace(" ", "") == f"2,3,5,7…{wheel.value}/999999999999",
-            lambda: f"words for a prime beyond {told}, not “{wheel.description}”",
-        )
-        self.focus("EditFieldNbre")
-        self.screen.type("12.5")
-        self.screen.press("Tab", "Escape")
-        self.wait_until_gone("progress bar", "Calcul en cours")
-        self.assertEqual(wheel.description, "")
-        self.press_button("BevelButtonListe")
-        self.wait_for_text("TxtAreaLettres", "douze euros cinquante centimes")
-        self.screen.press("shift+Tab")
-        self.wait_for_focus("EditFieldNbre")
-        self.assertEqual(self.control("EditFieldNbre").text, "12.50")

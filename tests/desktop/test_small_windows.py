@@ -56,12 +56,6 @@ class SmallWindows(ProgramTestCase):
         self.screen.press("Return")
         self.wait_until_gone("text", AUTHOR_SITE)
 
-    def test_a_quit_goes_through_while_a_modal_window_is_up(self):
-        self.choose_command("À propos")
-        self.find_with_keyboard("push button", "Ok")
-        self.screen.press("ctrl+q")
-        self.assertEqual(self.program.wait_for_end(), 0)
-
     def test_the_help_leads_to_the_questions_and_to_the_about_window(self):
         self.choose_command("Aide Tessarolyne", "Aide")
         self.find("text", "L'aide n'est pas disponible pour Tessarolyne.")

@@ -6,8 +6,8 @@ from case import ProgramTestCase
 from screen import ROOT
 
 
-class DecliningToQuit(ProgramTestCase):
-    def test_a_run_goes_on_whoever_declines_and_behind_a_dialog_nothing_acts(self):
+class BehindADialog(ProgramTestCase):
+    def test_nothing_acts_whoever_presses_it(self):
         self.press_button("BevelButtonListe")
         self.wait_for_focus("EditFieldFin")
         calculate = self.find("push button", "Calculer Nbres")
@@ -19,25 +19,6 @@ class DecliningToQuit(ProgramTestCase):
         self.find("push button", "Annuler").press()  # the toolkit does both in this order, a moment later
         self.wait_until_gone("dialog", "Sélectionner le Fichier")
         self.assertEqual(limit.text, "100")  # a run would have put its last prime there
-
-        self.screen.press("ctrl+a")
-        self.screen.type("999999999999")
-        self.screen.press("Return")
-        self.program.wait_for(lambda: not limit.enabled, "the run to begin")
-        for ask, decline in (
-            (lambda: self.screen.press("ctrl+q"), lambda: self.screen.press("Escape")),
-            (lambda: self.screen.press("ctrl+q"), lambda: self.click("push button", "Ne pas quitter")),
-            (self.program.click_close_box, lambda: self.screen.press("Escape")),
-        ):
-            ask()
-            self.find_with_keyboard("push button", "Ne pas quitter")
-            decline()
-            self.wait_until_gone("push button", "Ne pas quitter")
-            self.assertFalse(limit.enabled)
-        self.screen.press("Escape")
-        self.program.wait_for(lambda: limit.enabled, "the run to stop")
-        self.press_button("BevelButtonListe")
-        self.program.wait_for(lambda: not self.screen.find_windows("^Liste des Nombres"), "the list to close")
 
 
 class Window(ProgramTestCase):

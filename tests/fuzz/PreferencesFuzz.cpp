@@ -1,24 +1,17 @@
 // Any bytes whatever as a preferences file: what is read stays within its types and limits, doesn't depend on
-// where the chunks end, and comes back from the file that is written of it.
+// the kind of line ending, and comes back from the file that is written of it.
 #include "app/PreferencesFile.h"
 #include "fuzz/Must.h"
 #include "platform/Text.h"
-#include "platform/TextStreams.h"
-#include "support/MemoryFileSystem.h"
 
 using namespace tessarolyne;
 using namespace tessarolyne::tests;
 
 namespace {
 
-std::pair<bool, Preferences> Read(const std::string& bytes, std::size_t chunkSize) {
-    TextInputStream stream(std::make_unique<MemoryInputFile>(bytes), chunkSize);
-    std::vector<std::string> lines;
-    while (!stream.AtEnd()) {
-        lines.push_back(stream.ReadLine());
-    }
+std::pair<bool, Preferences> Read(const std::string& bytes) {
     Preferences preferences;
-    const bool read = ReadPreferences(lines, preferences);
+    const bool read = ReadPreferences(bytes, preferences);
     return {read, preferences};
 }
 
@@ -26,8 +19,8 @@ std::pair<bool, Preferences> Read(const std::string& bytes, std::size_t chunkSiz
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string bytes(data, data + size);
-    const auto outcome = Read(bytes, 65536);
-    Must(outcome == Read(bytes, 3 + size % 13), "the chunks don't matter");
+    const auto outcome = Read(bytes);
+    Must(outcome == Read(ReplaceLineEndings(bytes, "\r\n")), "line endings are all alike");
 
     const auto& preferences = outcome.second;
     const auto fits = [](int index, int rows) { return index >= 0 && index < rows; };
@@ -37,7 +30,6 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
              preferences.monnaies, preferences.centimes}) {
         Must(WithoutInvalidUtf8(word) == word, "what is shown is UTF-8");
     }
-    Must(Read(PreferencesText(preferences), 65536) == std::pair(true, preferences),
-        "what was read comes back");
+    Must(Read(PreferencesText(preferences)) == std::pair(true, preferences), "what was read comes back");
     return 0;
 }

@@ -352,16 +352,3 @@ TEST_CASE("A sweep takes what killed saves left, and neither a save under way no
     CHECK(disk.Read().empty());
     disk.files.SweepLeftovers(disk / "none");
 }
-
-TEST_CASE("Pieces of every size come out in their order") {
-    Disk disk;
-    const auto file = disk.files.CreateSafely(disk / "f", LinkPolicy::ReplaceTarget);
-    std::string whole;
-    for (std::size_t size = 1; size < 2'000'000; size = size * 3 + 1) {
-        const std::string piece(size, static_cast<char>('a' + size % 26));
-        file->Write(piece);
-        whole += piece;
-    }
-    file->Commit();
-    CHECK(disk.Left() == whole);
-}

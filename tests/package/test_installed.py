@@ -10,12 +10,9 @@ sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "desktop"))
 
 from case import ProgramTestCase  # noqa: E402
 from program import PROGRAM  # noqa: E402
-from screen import OUTPUT  # noqa: E402
 
 # Where it is installed: on this machine, or in a tree of its own.
 TREE = Path(os.environ.get("TESSAROLYNE_TREE", "/"))
-# Of half of the icon's tiles, and of nothing else in the about window.
-TILE_COLOUR = "#F0A35E"
 
 
 class Installed(ProgramTestCase):
@@ -30,11 +27,6 @@ class Installed(ProgramTestCase):
     def tearDown(self):
         self.assertEqual("", self.program.log())
 
-    def test_the_window_has_its_icons(self):
-        icons = self.screen.run("xprop", "-id", self.program.window, "_NET_WM_ICON")
-        self.assertIn("Icon (16 x 16)", icons)
-        self.assertIn("Icon (128 x 128)", icons)
-
     def test_a_number_is_worked_on_and_the_sound_found(self):
         played = Path(self._home) / "played"
         self.clear("EditFieldNbre")
@@ -46,22 +38,6 @@ class Installed(ProgramTestCase):
         sound = played.read_text().strip()
         self.assertEqual("/usr/share/tessarolyne/sounds/Bip.wav", sound)
         self.assertTrue((TREE / sound[1:]).is_file())
-
-    def test_the_about_window_shows_the_icon(self):
-        self.screen.press("F1")
-        self.find_with_keyboard("push button", "Lire À propos")
-        self.screen.press("Return")
-        picture = OUTPUT / "installed-about.png"
-
-        def shows_the_icon():
-            found = self.screen.find_windows("^À propos de Tessarolyne$")
-            if not found:
-                return False
-            self.screen.run("import", "-silent", "-window", found[0], str(picture))
-            return TILE_COLOUR in self.screen.run("convert", str(picture), "-format", "%c", "histogram:info:-")
-
-        self.program.wait_for(shows_the_icon, f"the icon in the about window; see {picture}")
-        self.screen.press("Return")
 
     def test_the_version_is_told_without_a_display(self):
         answer = subprocess.run(

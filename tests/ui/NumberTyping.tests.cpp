@@ -4,8 +4,6 @@
 
 #include <doctest/doctest.h>
 
-#include <algorithm>
-#include <random>
 #include <string>
 
 using namespace tessarolyne;
@@ -46,11 +44,9 @@ std::string Pasted(const std::string& pasted, DecimalSign sign) {
     return field.refusals > 0 ? "no" : field.text;
 }
 
-std::string DigitsOf(const std::string& text) {
-    std::string digits;
-    std::copy_if(
-        text.begin(), text.end(), std::back_inserter(digits), [](char c) { return c >= '0' && c <= '9'; });
-    return digits;
+std::string DigitsOf(std::string text) {
+    std::erase_if(text, [](char c) { return c < '0' || c > '9'; });
+    return text;
 }
 
 // Typed and pasted, the text is the same number, or a refusal is heard; and no digit is lost or changed.
@@ -112,16 +108,6 @@ TEST_CASE("Every text is the same number typed and pasted, or a refusal is heard
         }
         CheckBothWays(text, comma);
         CheckBothWays(text, point);
-    }
-    std::mt19937 random(13);
-    const char* const pieces[] = {
-        "1", "12", "234", "000", "567", ",", ".", ",234", ".234", "'", "_", " ", "-", "e"};
-    for (int round = 0; round < 50000; ++round) {
-        std::string text;
-        for (std::size_t n = 1 + random() % 7; n > 0; --n) {
-            text += pieces[random() % std::size(pieces)];
-        }
-        CheckBothWays(text, round % 2 == 0 ? comma : point);
     }
 }
 

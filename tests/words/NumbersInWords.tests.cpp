@@ -17,7 +17,7 @@ namespace {
 // the fewest words that the languages allow.
 using Words = std::vector<std::string>;
 
-inline Words Split(const std::string& text) {
+Words Split(const std::string& text) {
     std::istringstream stream(text);
     return {std::istream_iterator<std::string>(stream), {}};
 }
@@ -137,10 +137,4 @@ TEST_CASE("Whole millions are joined by d' to a vowel, by de to all else, and ot
         CHECK(French("1000000", true, currency) == "un million de ");
         CHECK(French("1001000", true, currency).ends_with("mille "));
     }
-}
-
-TEST_CASE("A number of too many digits gives the message as it is") {
-    CHECK(French("1000000000000") == "trop grand");
-    CHECK(French(std::string(309, '9'), true) == "trop grand");
-    CHECK(English("1000000000") == "too large");
 }

@@ -16,8 +16,7 @@ struct StrikeProduct {
     static constexpr unsigned cofactor = Wheel30::residues[Cofactor];
     static constexpr unsigned step = Wheel30::steps[Cofactor];
     static constexpr unsigned carry = residue * (cofactor + step) / 30 - residue * cofactor / 30;
-    static constexpr auto keep =
-        static_cast<std::uint8_t>(~(1U << Wheel30::BitOf(residue * cofactor)));
+    static constexpr auto keep = static_cast<std::uint8_t>(~(1U << Wheel30::BitOf(residue * cofactor)));
 
     // Bytes from the product with cofactor residue 1 to this one.
     static constexpr std::uint32_t Offset(std::uint32_t quotient) {

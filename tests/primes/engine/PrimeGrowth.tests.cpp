@@ -82,16 +82,6 @@ TEST_CASE("The sieve misses and adds nothing at the edges of bytes, windows, blo
     }
 }
 
-TEST_CASE("Twenty million numbers are decided as by the plain sieve") {
-    const auto primes = Reference::Primes(20'000'001);
-    TableOf table;
-    RunFixture run;
-    CHECK(NbresPremCalc(table, 20'000'000, run.untimed) == primes.back());
-    CHECK(Entries(table) == primes);
-    CHECK(table.IsConsecutive());
-    CHECK(table.Bytes() < primes.size() + 150'000); // a byte each, and the chunk that is begun
-}
-
 TEST_CASE("Round 2^32, and where the ranks end, the primes are right") {
     for (const std::uint64_t around : {std::uint64_t{1} << 32, std::uint64_t{50'685'770'143}}) {
         TableOf table;
