@@ -1,7 +1,5 @@
 #include "primes/engine/Primality.h"
 
-#include "primes/engine/Montgomery.h"
-
 #include <algorithm>
 #include <bit>
 #include <cmath>
@@ -11,42 +9,80 @@ namespace tessarolyne {
 
 namespace {
 
-constexpr std::uint64_t trialEnd = 512;
+// The number whose product with the odd `n` is 1 modulo 2^64. By Newton's iteration: each step doubles the
+// right bits, of which n itself has three.
+constexpr std::uint64_t InverseModulo2To64(std::uint64_t n) {
+    std::uint64_t inverse = n;
+    for (int step = 0; step < 5; ++step) {
+        inverse *= 2 - n * inverse;
+    }
+    return inverse;
+}
 
-// An odd divisor d divides n when n times d's inverse modulo 2^64 isn't above the largest quotient
-// (2^64-1)/d: a multiplication instead of a division (Granlund and Montgomery, 1994).
-struct TrialDivisor {
-    std::uint64_t prime;
-    std::uint64_t inverse;
-    std::uint64_t largestQuotient;
+// The upper 64 bits of a product.
+constexpr std::uint64_t HighHalf(std::uint64_t a, std::uint64_t b) {
+#ifdef __SIZEOF_INT128__
+    __extension__ using Wide = unsigned __int128;
+    return static_cast<std::uint64_t>(Wide{a} * b >> 64);
+#else // where the machine has 32 bits
+    constexpr std::uint64_t low = 0xFFFFFFFF;
+    const std::uint64_t middle = (a >> 32) * (b & low) + ((a & low) * (b & low) >> 32);
+    const std::uint64_t other = (a & low) * (b >> 32) + (middle & low);
+    return (a >> 32) * (b >> 32) + (middle >> 32) + (other >> 32);
+#endif
+}
+
+// Products modulo one odd number without divisions (P. L. Montgomery, "Modular multiplication without trial
+// division", 1985). Values are kept times 2^64; only sums, products and comparisons with One() and MinusOne()
+// are needed here, so nothing ever converts back.
+class Montgomery {
+public:
+    // `modulus` is odd and above 1.
+    explicit Montgomery(std::uint64_t modulus)
+        : modulus_(modulus), inverse_(InverseModulo2To64(modulus)), one_((~modulus + 1) % modulus),
+          square_(PlusOne(one_)) {
+        for (int power = 1; power < 64; power *= 2) {
+            square_ = Multiply(square_, square_); // the form of 2^power becomes that of its square
+        }
+    }
+
+    std::uint64_t One() const { return one_; }
+    std::uint64_t MinusOne() const { return modulus_ - one_; }
+
+    // The form of any number.
+    std::uint64_t From(std::uint64_t value) const { return Multiply(value % modulus_, square_); }
+
+    std::uint64_t Multiply(std::uint64_t a, std::uint64_t b) const {
+        const std::uint64_t high = HighHalf(a, b);
+        const std::uint64_t taken = HighHalf(a * b * inverse_, modulus_);
+        return high < taken ? high - taken + modulus_ : high - taken;
+    }
+
+    // a + 1 in ordinary terms, for a form below the modulus.
+    std::uint64_t PlusOne(std::uint64_t a) const {
+        return a >= modulus_ - one_ ? a - (modulus_ - one_) : a + one_;
+    }
+
+private:
+    std::uint64_t modulus_;
+    std::uint64_t inverse_;
+    std::uint64_t one_;
+    std::uint64_t square_; // 2^128 mod modulus
 };
 
-constexpr bool IsSmallPrime(std::uint64_t n) {
-    for (std::uint64_t d = 2; d * d <= n; ++d) {
-        if (n % d == 0) {
-            return false;
-        }
-    }
-    return n > 1;
-}
+constexpr std::uint64_t trialEnd = 512;
 
-constexpr std::size_t CountTrialDivisors() {
-    std::size_t count = 0;
-    for (std::uint64_t n = 3; n < trialEnd; n += 2) {
-        count += static_cast<std::size_t>(IsSmallPrime(n));
-    }
-    return count;
-}
-
+// The odd primes below trialEnd.
 constexpr auto trialDivisors = [] {
-    std::array<TrialDivisor, CountTrialDivisors()> divisors{};
+    std::array<std::uint16_t, 96> primes{};
     std::size_t count = 0;
-    for (std::uint64_t n = 3; n < trialEnd; n += 2) {
-        if (IsSmallPrime(n)) {
-            divisors[count++] = {n, InverseModulo2To64(n), ~std::uint64_t{0} / n};
+    for (std::uint16_t n = 3; n < trialEnd; n += 2) {
+        if (std::none_of(
+                primes.begin(), primes.begin() + count, [n](auto prime) { return n % prime == 0; })) {
+            primes[count++] = n;
         }
     }
-    return divisors;
+    return primes;
 }();
 
 bool PassesMillerRabin(const Montgomery& field, std::uint64_t n, std::uint64_t base) {
@@ -133,9 +169,9 @@ bool IsPrime(std::uint64_t n) {
     if (n % 2 == 0) {
         return n == 2;
     }
-    for (const TrialDivisor& divisor : trialDivisors) {
-        if (n * divisor.inverse <= divisor.largestQuotient) {
-            return n == divisor.prime;
+    for (const std::uint64_t prime : trialDivisors) {
+        if (n % prime == 0) {
+            return n == prime;
         }
     }
     return n > 1 && IsPrimeWithoutSmallFactor(n);
@@ -168,14 +204,11 @@ PrimeFactors::PrimeFactors(std::uint64_t n) {
         Add(2);
         n /= 2;
     }
-    for (const TrialDivisor& divisor : trialDivisors) {
-        std::uint64_t quotient = n * divisor.inverse;
-        while (quotient <= divisor.largestQuotient) {
-            Add(divisor.prime);
-            n = quotient;
-            quotient = n * divisor.inverse;
+    for (const std::uint64_t prime : trialDivisors) {
+        for (; n % prime == 0; n /= prime) {
+            Add(prime);
         }
-        if (divisor.prime * divisor.prime > n) {
+        if (prime * prime > n) {
             break;
         }
     }

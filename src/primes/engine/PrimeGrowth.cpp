@@ -2,9 +2,9 @@
 
 #include "primes/engine/BlockSieve.h"
 #include "primes/engine/Primality.h"
-#include "primes/engine/TrialDivision.h"
 
 #include <algorithm>
+#include <cmath>
 #include <limits>
 #include <new>
 #include <span>
@@ -129,6 +129,57 @@ std::uint64_t ExtendConsecutive(PrimeTable& table, std::uint64_t limit, RunContr
                                   : GrowConsecutive(table, lastTested, largestSize, run);
     if (end == RunEnd::TableFull) {
         StopForWantOfRoom(table, run);
+    }
+    return table.Back();
+}
+
+enum class Verdict { Prime, Composite, Stopped };
+
+// By the entries from the second on, as long as they are not above the root: the first larger one ends the
+// division, whatever follows it, and so does the end of the table.
+Verdict Divide(const PrimeTable& table, std::uint64_t candidate, RunControl& run) {
+    // In floating point, where a root of 2^32 can come out for the last candidates.
+    const auto root = static_cast<std::uint64_t>(std::sqrt(static_cast<double>(candidate)));
+    PrimeTable::Cursor divisor(table, 1);
+    while (divisor.Value() <= root) {
+        const bool divides = divisor.Value() != 0 && candidate % divisor.Value() == 0;
+        if (!divides && !divisor.Next()) {
+            return Verdict::Prime;
+        }
+        if (run.MustStop()) {
+            return Verdict::Stopped;
+        }
+        if (divides) {
+            return Verdict::Composite;
+        }
+    }
+    return Verdict::Prime;
+}
+
+bool AppendWithinBudget(PrimeTable& table, std::uint64_t value, RunControl& run) {
+    if (table.Size() < SizeWithinBudget(table, run) && table.Append(value)) {
+        return true;
+    }
+    StopForWantOfRoom(table, run);
+    return false;
+}
+
+// On a table that isn't one of consecutive primes: candidate by candidate, each divided by the entries. The
+// table has at least three entries; what they are doesn't matter. An entry 0 divides nothing.
+std::uint64_t ExtendByDivision(PrimeTable& table, std::uint64_t limit, RunControl& run) {
+    std::uint64_t candidate = table.Back();
+    while (limit == 0 || candidate < limit) {
+        candidate += 2; // wraps round behind the largest number, where an edited file can begin
+        const Verdict verdict = Divide(table, candidate, run);
+        if (verdict == Verdict::Stopped) {
+            break;
+        }
+        if (verdict == Verdict::Prime && (!AppendWithinBudget(table, candidate, run) || limit == 0)) {
+            break;
+        }
+        if (run.MustStop()) {
+            break;
+        }
     }
     return table.Back();
 }

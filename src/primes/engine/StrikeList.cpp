@@ -1,6 +1,5 @@
 #include "primes/engine/StrikeList.h"
 
-#include "primes/engine/StrikeProduct.h"
 #include "primes/engine/Wheel30.h"
 
 #include <algorithm>
@@ -10,6 +9,24 @@
 namespace tessarolyne {
 
 namespace {
+
+// For a prime p = 30 q + r, r the residue of `Class`, and a cofactor m = 30 a + s, s the residue of bit
+// `Cofactor`: the product's bit depends on r and s alone, and from one cofactor to the next the product moves
+// by q * steps + carry bytes.
+template <unsigned Class, unsigned Cofactor>
+struct StrikeProduct {
+    static constexpr unsigned residue = Wheel30::residues[Class];
+    static constexpr unsigned cofactor = Wheel30::residues[Cofactor];
+    static constexpr unsigned step = Wheel30::steps[Cofactor];
+    static constexpr unsigned carry = residue * (cofactor + step) / 30 - residue * cofactor / 30;
+    static constexpr auto keep =
+        static_cast<std::uint8_t>(~(1U << Wheel30::BitOf(std::uint64_t{residue} * cofactor)));
+
+    // Bytes from the product with cofactor residue 1 to this one.
+    static constexpr std::uint32_t Offset(std::uint32_t quotient) {
+        return quotient * (cofactor - 1) + residue * cofactor / 30;
+    }
+};
 
 template <unsigned Class, unsigned Cofactor>
 inline bool StrikeOnce(std::uint8_t* bytes, std::uint32_t size, std::uint32_t quotient, std::uint32_t& at) {
@@ -22,27 +39,18 @@ inline bool StrikeOnce(std::uint8_t* bytes, std::uint32_t size, std::uint32_t qu
     return true;
 }
 
-// Whole turns of the wheel, eight products each, as long as a turn's last product lies in the stretch.
-template <unsigned Class>
-inline void StrikeTurns(std::uint8_t* bytes, std::uint32_t size, std::uint32_t quotient, std::uint32_t& at) {
-    const std::uint32_t prime = 30 * quotient + Wheel30::residues[Class];
-    const std::uint32_t reach = StrikeProduct<Class, 7>::Offset(quotient);
-    if (size <= reach) {
-        return;
-    }
-    for (; at < size - reach; at += prime) {
-        StrikeTurn<Class>(bytes + at, quotient);
-    }
-}
-
 // Strikes from the product at byte `at` with cofactor bit `cofactor` to the end of the stretch; gives the
-// cofactor bit of the first product behind it and leaves its byte in `at`.
+// cofactor bit of the first product behind it and leaves its byte in `at`. Whole turns of the wheel, eight
+// products each, go without a look at the end for each product.
 template <unsigned Class, unsigned... Bits>
 inline unsigned StrikeFrom(std::integer_sequence<unsigned, Bits...>, unsigned cofactor, std::uint8_t* bytes,
     std::uint32_t size, std::uint32_t quotient, std::uint32_t& at) {
+    const std::uint32_t prime = 30 * quotient + Wheel30::residues[Class];
+    const std::uint32_t reach = StrikeProduct<Class, 7>::Offset(quotient);
     for (unsigned behind = 0;; cofactor = 0) {
-        if (cofactor == 0) {
-            StrikeTurns<Class>(bytes, size, quotient, at);
+        for (; cofactor == 0 && reach < size && at < size - reach; at += prime) {
+            ((bytes[at + StrikeProduct<Class, Bits>::Offset(quotient)] &= StrikeProduct<Class, Bits>::keep),
+                ...);
         }
         const auto strike = [&]<unsigned Bit>(std::integral_constant<unsigned, Bit>) {
             behind = Bit;
