@@ -1,7 +1,5 @@
-#include "platform/MenuBar.h"
 #include "primes/WinNbresPremiers.h"
 #include "support/TestWorld.h"
-#include "ui/WinInfos.h"
 
 #include <doctest/doctest.h>
 
@@ -139,20 +137,6 @@ TEST_CASE(
             CHECK_FALSE(Ended(world));
         }
     }
-}
-
-TEST_CASE("A quit declined under a modal window leaves that in charge") {
-    TestWorld world;
-    BindFileWithNewPrimes(world);
-    world.loop.WhileModal([&] {
-        world.dialogs.Expect(DialogButton::Alternate, [&] { world.program->app.RequestQuit(); });
-        world.program->app.RequestQuit();
-        CHECK_FALSE(Ended(world));
-        CHECK_FALSE(world.program->fncts.DrapMenu);
-        world.program->winInfos().BoutonOk.UserPressed();
-    });
-    world.program->app.GetMenuBar()->Find("AppleAPropos")->UserChose(world.program->app);
-    CHECK(world.program->fncts.DrapMenu);
 }
 
 TEST_CASE("A signal saves what there is and asks nothing, even if nothing can be saved") {

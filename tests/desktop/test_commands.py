@@ -89,14 +89,3 @@ class EndOfALoad(SavingTestCase):
                 end()
                 self.assertEqual(self.program.wait_for_end(3), 0)
                 self.assertEqual(path.stat().st_mtime_ns, before.st_mtime_ns)
-
-
-class FileInTheWay(SavingTestCase):
-    def test_the_chooser_asks_in_plain_text_and_a_signal_ends_that_too(self):
-        target = Path(self._home) / "<b>1.txt"
-        target.write_text("kept")
-        self.save_as(target)
-        self.find("label", "Le fichier <b>1.txt existe")
-        self.program.signal(signal.SIGTERM)
-        self.assertEqual(self.program.wait_for_end(), 0)
-        self.assertEqual(target.read_text(), "kept")

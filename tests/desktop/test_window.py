@@ -6,21 +6,6 @@ from case import ProgramTestCase
 from screen import ROOT
 
 
-class BehindADialog(ProgramTestCase):
-    def test_nothing_acts_whoever_presses_it(self):
-        self.press_button("BevelButtonListe")
-        self.wait_for_focus("EditFieldFin")
-        calculate = self.find("push button", "Calculer Nbres")
-        limit = self.control("EditFieldFin")
-        self.screen.type("100")
-        self.screen.press("ctrl+o")
-        self.find_with_keyboard("dialog", "Sélectionner le Fichier")
-        calculate.press()  # as a screen reader does, which no dialog keeps away
-        self.find("push button", "Annuler").press()  # the toolkit does both in this order, a moment later
-        self.wait_until_gone("dialog", "Sélectionner le Fichier")
-        self.assertEqual(limit.text, "100")  # a run would have put its last prime there
-
-
 class Window(ProgramTestCase):
     def test_the_desktop_knows_the_window_and_shows_an_icon(self):
         entry = (ROOT / "resources/linux/org.tessarolyne.Tessarolyne.desktop").read_text()

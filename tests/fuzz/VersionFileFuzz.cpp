@@ -1,9 +1,8 @@
-// Any bytes whatever as what the update check fetched: what is read stands there, doesn't
-// depend on the kind of line ending, and no address passes that could lead elsewhere than it says.
+// Any bytes whatever as what the update check fetched: what is read stands there, and doesn't
+// depend on the kind of line ending.
 #include "app/VersionFile.h"
 #include "fuzz/Must.h"
 #include "platform/Text.h"
-#include "ui/SafeAddress.h"
 
 #include <iterator>
 
@@ -26,20 +25,6 @@ void CheckReading(const std::string& bytes, const VersionReply& reply) {
     }
 }
 
-// A browser's view of the address, in which user information, a backslash or a blank could hide the host.
-void CheckAddress(const std::string& address) {
-    if (!IsSafeAddress(address)) {
-        return;
-    }
-    for (const char c : address) {
-        Must(c > ' ' && c < 127 && c != '\\' && c != '"' && c != '<' && c != '`', "plain characters only");
-    }
-    const auto authority = address.substr(7, address.find_first_of("/?#", 7) - 7);
-    Must(!authority.empty() && authority[0] != ':', "there is a host");
-    Must(
-        authority.find('@') == std::string::npos && authority.find('%') == std::string::npos, "host as seen");
-}
-
 } // namespace
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
@@ -49,7 +34,5 @@ extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size
     constexpr const char* endings[] = {"\r", "\n", "\r\n"};
     const std::string alike = ReplaceLineEndings(bytes, endings[size % std::size(endings)]);
     Must(ReadVersionReply(alike) == reply, "line endings are all alike");
-    CheckAddress(reply.downloadPage);
-    CheckAddress("http://" + bytes);
     return 0;
 }

@@ -143,13 +143,6 @@ TEST_CASE(
     CHECK(gone.program->app.FichNbPrems.has_value());
 }
 
-TEST_CASE("The end of the session under a question about a file leaves that as it was") {
-    Bound bad("4\t6\t8\n");
-    bad.dialogs.Expect(None, [&] { bad.program->EndWithoutAsking(); });
-    bad.Load();
-    CHECK(bad.Content() == "4\t6\t8\n");
-}
-
 TEST_CASE("While it works the window is drawn, holds the commands and can't be closed") {
     Bound world("x : 500\n2\t3\t5\t7\t11\t13");
     for (const bool saving : {false, true}) {

@@ -128,13 +128,3 @@ TEST_CASE("A table that a file made odd is divided by as it stands") {
     RunFixture other;
     CHECK(Factor(21, table, other.untimed) == Numbers{3, 7});
 }
-
-TEST_CASE("The entries of an odd table are divided by until a stop, and none is added then") {
-    Numbers entries = {2, 3, 5, 7, 1'000'003};
-    entries.resize(20'000, 17);
-    TableOf table(entries);
-    RunFixture run(100); // too few looks to get to the end
-    CHECK(Factor(11 * 13, table, run.timed) == none);
-    CHECK(run.timed.End() == RunEnd::OutOfTime);
-    CHECK(table.Size() == 20'000);
-}
