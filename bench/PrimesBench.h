@@ -1,7 +1,6 @@
 #pragma once
 
 #include "machine/SystemClock.h"
-#include "machine/SystemMemory.h"
 #include "primes/engine/PrimeTable.h"
 #include "primes/engine/RunControl.h"
 

@@ -8,7 +8,6 @@
 #include "desktop/Resources.h"
 #include "machine/PosixFileSystem.h"
 #include "machine/SystemClock.h"
-#include "machine/SystemMemory.h"
 #include "platform/Text.h"
 #include "primes/WinNbresPremiers.h"
 #include "ui/Program.h"

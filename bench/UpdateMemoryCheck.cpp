@@ -7,7 +7,6 @@
 #include "desktop/Resources.h"
 #include "machine/PosixFileSystem.h"
 #include "machine/SystemClock.h"
-#include "machine/SystemMemory.h"
 #include "ui/Program.h"
 
 #include <QTimer>

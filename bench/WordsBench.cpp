@@ -2,7 +2,6 @@
 // the same run. The peers spell by interpreted rules for any language; what they show is the order of
 // magnitude. Exits with 1 when one of our figures is above the bar.
 
-#include "words/AmountInWords.h"
 #include "words/NumbersInWords.h"
 
 #include <Numbertext.hxx>

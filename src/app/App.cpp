@@ -1,11 +1,10 @@
-#include "ui/App.h"
+#include "ui/Program.h"
 
 #include "app/PreferencesFile.h"
 #include "app/Version.h"
 #include "conversion/WinMain.h"
-#include "platform/FileSystem.h"
+#include "platform/FolderItem.h"
 #include "platform/Services.h"
-#include "platform/Stage.h"
 #include "ui/FileItems.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"

@@ -2,12 +2,9 @@
 #include "app/Version.h"
 #include "desktop/QtApplication.h"
 #include "desktop/QtServices.h"
-#include "desktop/QtTranslations.h"
 #include "desktop/Resources.h"
 #include "machine/PosixFileSystem.h"
-#include "machine/Signals.h"
 #include "machine/SystemClock.h"
-#include "machine/SystemMemory.h"
 #include "platform/System.h"
 #include "ui/Program.h"
 

@@ -1,13 +1,10 @@
 #include "app/PreferencesFile.h"
 
-#include "platform/FileSystem.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
 #include "ui/FileItems.h"
 
 #include <algorithm>
-#include <cstddef>
-#include <span>
 
 namespace tessarolyne {
 

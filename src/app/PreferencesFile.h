@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Date.h"
 #include "platform/FolderItem.h"
+#include "platform/Services.h"
 
 #include <array>
 #include <cstddef>

@@ -2,18 +2,16 @@
 
 #include "conversion/NumberEntry.h"
 #include "platform/Controls.h"
-#include "platform/EventLoop.h"
 #include "platform/Numbers.h"
 #include "platform/Services.h"
 #include "primes/Calculation.h"
 #include "primes/PrimeFileBinding.h"
 #include "primes/WinChargSauvNb1ers.h"
 #include "primes/WinNbresPremiers.h"
-#include "ui/App.h"
 #include "ui/FileItems.h"
 #include "ui/Localisation.h"
-#include "ui/NumberFormat.h"
 #include "ui/Program.h"
+#include "ui/WrittenNumber.h"
 
 namespace tessarolyne {
 

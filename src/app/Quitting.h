@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Timer.h"
+#include "platform/EventLoop.h"
 
 #include <string>
 

@@ -3,16 +3,15 @@
 #include "app/PreferencesFile.h"
 #include "app/Version.h"
 #include "conversion/WinMain.h"
-#include "platform/Clock.h"
 #include "platform/EventLoop.h"
 #include "platform/Numbers.h"
 #include "platform/Services.h"
 #include "platform/Text.h"
 #include "primes/WinChargSauvNb1ers.h"
 #include "primes/WinNbresPremiers.h"
-#include "ui/App.h"
 #include "ui/FileItems.h"
 #include "ui/Localisation.h"
+#include "ui/Program.h"
 #include "ui/WinInfos.h"
 
 #include <set>

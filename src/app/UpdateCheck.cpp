@@ -2,17 +2,15 @@
 
 #include "app/Version.h"
 #include "app/VersionFile.h"
-#include "platform/EventLoop.h"
 #include "platform/Numbers.h"
 #include "platform/Services.h"
 #include "platform/Text.h"
-#include "ui/App.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"
+#include "ui/Program.h"
 #include "ui/SafeAddress.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace tessarolyne {
 

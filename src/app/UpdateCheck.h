@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/Event.h"
+#include "platform/EventLoop.h"
 #include "platform/Http.h"
-#include "platform/Timer.h"
 
 #include <string>
 

@@ -6,11 +6,11 @@
 #include "platform/Numbers.h"
 #include "platform/Text.h"
 #include "platform/TextControls.h"
-#include "ui/App.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"
 #include "ui/NumberField.h"
-#include "ui/NumberFormat.h"
+#include "ui/Program.h"
+#include "ui/WrittenNumber.h"
 
 #include <utility>
 

@@ -1,8 +1,23 @@
 #include "conversion/MenuBar1.h"
 
 #include "app/Version.h"
+#include "conversion/BaseConversion.h"
+#include "conversion/WinMain.h"
+#include "platform/Numbers.h"
+#include "platform/Services.h"
+#include "platform/Text.h"
+#include "primes/WinNbresPremiers.h"
 #include "ui/Localisation.h"
+#include "ui/NumberField.h"
+#include "ui/Program.h"
+#include "ui/WinInfos.h"
+#include "ui/WinPrefs.h"
 
+#include <array>
+
+// Menus, buttons and keys of the main window, and the one rule for what may be used when.
+
+#include <array>
 namespace tessarolyne {
 
 namespace {
@@ -48,6 +63,155 @@ MenuBar1::MenuBar1() {
     MenuItem& help = AddMenu("AideMenu", Menu_Aide());
     help.AltKey = Alt_Menu_Aide();
     help.Append("AideAide", Menu_AideAide(), "Cmd+?", byProgram).AltKey = Alt_Menu_AideAide();
+}
+
+void WinMain::EnableMenuBoutons() {
+    app.EnableMenuItems();
+    EnableControls();
+    if (BevelButtonListe.Value) {
+        program.winNbresPremiers().EnableControls();
+    }
+}
+
+void WinMain::Event_EnableMenuItems() {
+    for (const auto& menu : app.GetMenuBar()->Menus()) {
+        for (const auto& item : menu->Items()) {
+            if (!item->AutoEnable) {
+                item->Enabled = fncts.DrapMenu;
+            }
+        }
+    }
+}
+
+bool WinMain::Event_KeyDown(const std::string& key) {
+    calculation.StopOnEscape(key);
+    return key != Chr(9);
+}
+
+void WinMain::TurnWheel(bool& reason, bool on) {
+    reason = on;
+    ProgressWheel1.AccessibleName =
+        factorsTakeTime_ ? Localisation::Acc_Calcul() : Localisation::Acc_VerMaJ();
+    ProgressWheel1.Visible = factorsTakeTime_ || checkTakesTime_;
+}
+
+// In the order of sight. Ctrl, which is down then, must not pass for the key that resets the currencies.
+void WinMain::AddCopyShortcuts() {
+    const std::array<std::pair<PushButton*, TextControl*>, 4> copies = {
+        {{&PushButtonPressPapBOrg, &EditFieldBaseOrg}, {&PushButtonPressPapBDest, &EditFieldBaseDest},
+            {&PushButtonPressPapPrem, &TxtAreaDecomp1er}, {&PushButtonPressPapLettr, &TxtAreaLettres}}};
+    for (std::size_t i = 0; i < copies.size(); ++i) {
+        const auto [button, source] = copies[i];
+        const std::string digit = Str(static_cast<int>(i) + 1);
+        button->KeyTag = Localisation::Touche_Ctrl() + digit;
+        AddShortcut("Cmd+" + digit, [this, button = button, source = source] {
+            if (button->Enabled()) {
+                fncts.CopyToClipboard(source->Text);
+            }
+        });
+    }
+}
+
+// In the bases that programs write with a prefix, also with that.
+void WinMain::OfferBaseCopies(TextField& source, const PopupMenu& baseMenu) {
+    OfferCopies(source, fncts, [this, &baseMenu](const std::string& bare, auto& commands) {
+        const std::array<std::pair<int, const char*>, 3> prefixes = {{{16, "0x"}, {8, "0o"}, {2, "0b"}}};
+        for (const auto& [base, prefix] : prefixes) {
+            if (baseMenu.ListIndex == base - 2 && RadioButton09AZ[0].Value()) {
+                const std::string text = prefix + BareDigits(bare, base, entry.Alphabet());
+                commands.push_back(
+                    CopyCommand(fncts, fncts.Filled(Localisation::Txt_CopierForme(), {text}), text));
+            }
+        }
+    });
+}
+
+// Ctrl, pressed with the copy button, stands for the language's own currency.
+void WinMain::PushButtonPressPapLettr_Action() {
+    if (!program.services.desktop.OptionKeyIsDown()) {
+        fncts.CopyToClipboard(TxtAreaLettres.Text);
+    } else if (app.initProg) {
+        words.ResetCurrencies();
+    }
+}
+
+// The switch between grouped and bare numbers brings what is on the screen into line at once.
+void WinMain::CheckBoxFormatAuto_Action() {
+    if (!app.initProg) {
+        return;
+    }
+    app.initProg = false; // the changes of text below are no input
+    const bool grouped = CheckBoxFormatAuto.Value;
+    entry.Regroup(grouped);
+    decomposition.Regroup(grouped);
+    if (BevelButtonListe.Value) {
+        program.winNbresPremiers().Regroup(grouped);
+    }
+    app.initProg = true;
+}
+
+bool WinMain::Event_CancelClose(bool appQuitting) {
+    return quitting.CancelClose(appQuitting);
+}
+
+void WinMain::PushButtDecomposer_Action() {
+    if (calculation.CalculEnCours()) {
+        fncts.Beep(); // the list window's run may hold the table
+        return;
+    }
+    decomposition.DecompPremDeb(true);
+}
+
+// The button's Value says whether the window is open. It is looked at first: asking for the window makes it.
+void WinMain::BevelButtonListe_Action() {
+    if (BevelButtonListe.Value) {
+        program.winNbresPremiers().Close();
+    } else {
+        program.winNbresPremiers().Show();
+    }
+}
+
+// A shortcut reaches a command also when its item isn't enabled: it counts as handled, and does nothing.
+void WinMain::AddMenuHandlers() {
+    const auto on = [this](const char* name, std::function<void()> command) {
+        if (MenuItem* item = app.GetMenuBar()->Find(name)) {
+            item->Action = [item, command = std::move(command)] {
+                if (item->Enabled()) {
+                    command();
+                }
+                return true;
+            };
+        }
+    };
+    on("FichChoixFichNbP", [this] { UsePrimeFile(true); });
+    on("FichSauvFichNbP", [this] { UsePrimeFile(false); });
+    on("AppleAPropos", [this] { program.winInfos().ShowModal(); });
+    on("AppleVMaJ", [this] { updateCheck.Start(); });
+    on("ApplePrefs", [this] { program.winPrefs().ShowModal(); });
+    on("AppleDon", [this] {
+        app.DejaDonne = true;
+        fncts.ShowURL(donationAddress);
+    });
+    on("AideAide", [this] { AideAide_Action(); });
+}
+
+void WinMain::UsePrimeFile(bool load) {
+    if (!BevelButtonListe.Value) {
+        program.winNbresPremiers().Show();
+    }
+    program.winNbresPremiers().Btn_Fich(load, false, false);
+}
+
+void WinMain::AideAide_Action() {
+    const std::string message = fncts.Filled(Localisation::Txt_AideNonDispo(),
+        {"Tessarolyne", Localisation::Menu_AppleApropos(), Fncts::TypeCompil()});
+    const int answer = fncts.MyDialogBox(message, "", Localisation::Btn_LireAbout(),
+        Localisation::Btn_Fermer(), Localisation::Btn_FAQ(), 0, nullptr, {"", "", questionsAddress});
+    if (answer == 1) {
+        program.winInfos().ShowModal();
+    } else if (answer == 3) {
+        fncts.ShowURL(questionsAddress);
+    }
 }
 
 } // namespace tessarolyne

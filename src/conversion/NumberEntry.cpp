@@ -3,22 +3,17 @@
 #include "conversion/NumberEntry.h"
 
 #include "conversion/BaseConversion.h"
-#include "platform/Clock.h"
-#include "platform/Controls.h"
 #include "platform/Numbers.h"
 #include "platform/Services.h"
 #include "platform/Text.h"
-#include "platform/TextControls.h"
 #include "primes/Calculation.h"
 #include "primes/Decomposition.h"
-#include "ui/App.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"
-#include "ui/NumberFormat.h"
+#include "ui/Program.h"
 #include "words/Words.h"
 
 #include <initializer_list>
-#include <utility>
 
 namespace tessarolyne {
 

@@ -2,8 +2,8 @@
 
 #include "conversion/NumberHistory.h"
 #include "platform/Event.h"
+#include "platform/EventLoop.h"
 #include "platform/TextControls.h"
-#include "platform/Timer.h"
 #include "ui/NumberField.h"
 
 #include <array>

@@ -7,8 +7,8 @@
 #include "platform/Numbers.h"
 #include "platform/Text.h"
 #include "platform/TextControls.h"
-#include "ui/App.h"
-#include "ui/NumberFormat.h"
+#include "ui/Program.h"
+#include "ui/WrittenNumber.h"
 
 #include <algorithm>
 

@@ -2,7 +2,6 @@
 
 #include "primes/WinNbresPremiers.h"
 #include "ui/Localisation.h"
-#include "ui/NumberField.h"
 
 namespace tessarolyne {
 

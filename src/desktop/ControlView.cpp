@@ -1,6 +1,7 @@
 #include "desktop/ControlView.h"
 
 #include "desktop/QtText.h"
+#include "desktop/TextEdits.h"
 
 #include "platform/Application.h"
 #include "platform/Services.h"
@@ -20,6 +21,7 @@ constexpr int shortestToBeSeen = 150; // milliseconds
 ControlView::ControlView(Control& control, QWidget* widget)
     : control_(control), widget_(widget),
       disabling_(control.GetWindow().GetApplication().GetServices().loop, shortestToBeSeen) {
+    MendAccess();
     disabling_.Action = [this] { widget_->setEnabled(false); };
     widget_->setObjectName(ToQt(control.Name));
     // A click moves the focus into texts alone, see their views; the rest takes it from the keyboard.

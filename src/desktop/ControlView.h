@@ -1,9 +1,10 @@
 #pragma once
 
 #include "platform/Control.h"
-#include "platform/Signal.h"
-#include "platform/Timer.h"
+#include "platform/Event.h"
+#include "platform/EventLoop.h"
 
+#include <QAccessible>
 #include <QWidget>
 
 #include <functional>
@@ -11,6 +12,13 @@
 #include <string>
 
 namespace tessarolyne {
+
+// A widget that tells screen readers of itself what Qt wouldn't. Null is as Qt would.
+class HasAccess {
+public:
+    virtual ~HasAccess() = default;
+    virtual QAccessibleInterface* MakeAccess() = 0;
+};
 
 // What draws one control: holds its widget and keeps place, visibility, enabling, help tag and accessible
 // name in step with the model. A kind of control adds its own state in Read(). The widget belongs to its

@@ -1,9 +1,8 @@
 #include "desktop/QtApplication.h"
 
-#include "desktop/OutlinedStyle.h"
 #include "desktop/QtText.h"
 #include "desktop/Resources.h"
-#include "desktop/TextAccess.h"
+#include "desktop/TextEdits.h"
 
 #include <QEvent>
 #include <QIcon>
@@ -12,7 +11,6 @@
 
 #include <cstdlib>
 #include <iostream>
-#include <string>
 #include <utility>
 
 namespace tessarolyne {

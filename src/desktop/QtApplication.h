@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/ColorScheme.h"
+#include "desktop/Appearance.h"
 
 #include <QApplication>
 

@@ -9,7 +9,6 @@
 #include <QTimerEvent>
 
 #include <chrono>
-#include <utility>
 
 namespace tessarolyne {
 

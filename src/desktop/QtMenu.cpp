@@ -1,7 +1,7 @@
 #include "desktop/QtMenu.h"
 
-#include "desktop/EditCommands.h"
 #include "desktop/QtText.h"
+#include "desktop/TextEdits.h"
 #include "desktop/WindowView.h"
 #include "platform/Application.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
+#include "platform/Event.h"
 #include "platform/MenuBar.h"
-#include "platform/Signal.h"
 
 #include <QMenuBar>
 #include <QObject>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Signal.h"
-#include "platform/Stage.h"
+#include "platform/Event.h"
+#include "platform/Services.h"
 
 #include <QPointer>
 

@@ -11,7 +11,6 @@
 #include <QWidget>
 
 #include <algorithm>
-#include <cstddef>
 
 namespace tessarolyne {
 

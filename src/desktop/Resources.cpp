@@ -5,6 +5,13 @@
 #include <QCoreApplication>
 #include <QDir>
 #include <QFileInfo>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QPainter>
+#include <QPalette>
+#include <QPixmap>
+#include <QPixmapCache>
+#include <QRect>
 #include <QStandardPaths>
 
 namespace tessarolyne {
@@ -25,6 +32,33 @@ QString FirstPlace(const std::string& name, bool (QFileInfo::*fits)() const) {
         }
     }
     return {};
+}
+
+QPixmap Load(const std::string& name) {
+    QPixmap pixmap;
+    const QString key = QLatin1String("tessarolyne/") + ToQt(name);
+    if (!QPixmapCache::find(key, &pixmap)) {
+        const QString path = ResourcePath("pictures/" + name + ".png");
+        if (!path.isEmpty()) {
+            pixmap.load(path);
+        }
+        QPixmapCache::insert(key, pixmap);
+    }
+    return pixmap;
+}
+
+// Of the defaults in the string table.
+constexpr const char* builtInLanguage = "fr";
+
+constexpr QLatin1String prefix("tessarolyne_");
+constexpr QLatin1String suffix(".qm");
+
+std::vector<std::string> DesktopLanguages() {
+    std::vector<std::string> languages;
+    for (const QString& tag : QLocale::system().uiLanguages()) {
+        languages.push_back(FromQt(tag));
+    }
+    return languages;
 }
 
 } // namespace
@@ -55,6 +89,72 @@ std::optional<std::string> FindFolder(KnownFolder folder) {
     }
     const QFileInfo found(path);
     return found.isDir() ? std::optional(FromQt(found.canonicalFilePath())) : std::nullopt;
+}
+
+void DrawPicture(QPainter& painter, const Picture& picture, const QRect& area) {
+    const QSize given(picture.width, picture.height);
+    if (picture.resource.empty()) {
+        painter.fillRect(QRect(area.topLeft(), given), QColor::fromRgb(picture.fill));
+        return;
+    }
+    const QPixmap pixmap = Load(picture.resource);
+    if (pixmap.isNull()) {
+        return;
+    }
+    const QSize size = given.isEmpty() ? pixmap.deviceIndependentSize().toSize() : given;
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    painter.drawPixmap(QRect(area.topLeft(), size), pixmap);
+}
+
+QColor TextColorOn(const Picture& picture, const QPalette& palette) {
+    if (!picture.resource.empty() || picture.width == 0) {
+        return palette.color(QPalette::ButtonText);
+    }
+    return qGray(picture.fill) > 128 ? Qt::black : Qt::white;
+}
+
+QtTranslations::QtTranslations() : QtTranslations(ResourceFolder("translations"), DesktopLanguages()) {}
+
+QtTranslations::QtTranslations(const QString& folder, const std::vector<std::string>& wanted) {
+    // An empty path would be the working directory to QDir.
+    const QStringList files =
+        folder.isEmpty() ? QStringList() : QDir(folder).entryList({prefix + u'*' + suffix}, QDir::Files);
+    for (const QString& file : files) {
+        auto catalogue = std::make_unique<QTranslator>();
+        if (catalogue->load(file, folder)) {
+            const QString language = file.mid(prefix.size()).chopped(suffix.size());
+            catalogues_.emplace(FromQt(language), std::move(catalogue));
+        }
+    }
+    chain_ = ChainFor(wanted);
+    LoadQtTexts();
+}
+
+std::optional<std::string> QtTranslations::Find(std::string_view key, std::string_view language) const {
+    const std::string name(key);
+    for (const std::string& link : language.empty() ? chain_ : ChainFor({std::string(language)})) {
+        const QString text = catalogues_.at(link)->translate("", name.c_str());
+        if (!text.isNull()) {
+            return FromQt(text);
+        }
+    }
+    return std::nullopt;
+}
+
+std::vector<std::string> QtTranslations::ChainFor(const std::vector<std::string>& wanted) const {
+    std::vector<std::string> available;
+    for (const auto& [language, catalogue] : catalogues_) {
+        available.push_back(language);
+    }
+    return CatalogueChain(wanted, available, builtInLanguage);
+}
+
+void QtTranslations::LoadQtTexts() {
+    const QLocale locale(ToQt(chain_.empty() ? builtInLanguage : chain_.front()));
+    const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+    if (qtTexts_.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"), folder)) {
+        QCoreApplication::installTranslator(&qtTexts_);
+    }
 }
 
 } // namespace tessarolyne

@@ -1,12 +1,22 @@
 #pragma once
 
-#include "platform/FileSystem.h"
+#include "platform/Controls.h"
+#include "platform/FolderItem.h"
+#include "platform/System.h"
 
+#include <QColor>
 #include <QString>
-
+#include <QTranslator>
+#include <map>
+#include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <vector>
 
+class QPainter;
+class QPalette;
+class QRect;
 namespace tessarolyne {
 
 // The path of one of the program's resources ("sounds/Bip.wav"), in the installed tree or beside the build.
@@ -19,5 +29,36 @@ QString ResourceFolder(const std::string& name);
 // Where the desktop keeps things, without a link in the path; nothing if there is no such folder. The one for
 // preferences is made if it is missing, readable to the user alone.
 std::optional<std::string> FindFolder(KnownFolder folder);
+
+// Draws the picture with its top left at that of `area`: a resource (its name with ".png") at its own or its
+// size that is given, or an area of one colour. A resource that isn't there draws nothing.
+void DrawPicture(QPainter& painter, const Picture& picture, const QRect& area);
+
+// A colour that can be read on the picture: black or white on a fill, else the palette's button text.
+QColor TextColorOn(const Picture& picture, const QPalette& palette);
+
+// The translations of the program's texts, from compiled Qt catalogues; and, for as long as it lives, Qt's
+// own texts (the file chooser, context menus) in the same language, where they are installed. Made after
+// Qt's application object.
+class QtTranslations final : public Translations {
+public:
+    // The catalogues beside the program, in the languages of the user's desktop.
+    QtTranslations();
+    // The catalogues "tessarolyne_<language>.qm" of `folder`, for a desktop that wants these languages, in
+    // the order of preference.
+    QtTranslations(const QString& folder, const std::vector<std::string>& wanted);
+
+    std::optional<std::string> Find(std::string_view key, std::string_view language) const override;
+
+private:
+    std::vector<std::string> ChainFor(const std::vector<std::string>& wanted) const;
+    void LoadQtTexts();
+
+    // By language.
+    std::map<std::string, std::unique_ptr<QTranslator>> catalogues_;
+    // Of the language in which the program runs.
+    std::vector<std::string> chain_;
+    QTranslator qtTexts_;
+};
 
 } // namespace tessarolyne

@@ -1,19 +1,25 @@
 #include "desktop/ControlView.h"
-#include "desktop/Pictures.h"
-#include "desktop/Pressable.h"
 #include "desktop/QtText.h"
+#include "desktop/Resources.h"
 #include "platform/Controls.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
 #include <QApplication>
+#include <QBasicTimer>
+#include <QCursor>
 #include <QFontInfo>
 #include <QGroupBox>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QMetaObject>
+#include <QMouseEvent>
 #include <QPainter>
 #include <QProgressBar>
-
+#include <QStyleOptionFocusRect>
+#include <QStylePainter>
+#include <QTimerEvent>
+#include <QToolTip>
 #include <algorithm>
 #include <functional>
 #include <utility>
@@ -21,6 +27,92 @@
 namespace tessarolyne {
 
 namespace {
+
+// A link as a screen reader meets it: called one, and with a press that needs neither mouse nor keyboard.
+class LinkAccess final : public QAccessibleWidget {
+public:
+    LinkAccess(QWidget& widget, std::function<void()> press)
+        : QAccessibleWidget(&widget, QAccessible::Link), press_(std::move(press)) {}
+
+    QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
+    // The reader doesn't wait for what the press brings up.
+    void doAction(const QString& action) override {
+        if (action == pressAction()) {
+            QMetaObject::invokeMethod(widget(), press_, Qt::QueuedConnection);
+        } else {
+            QAccessibleWidget::doAction(action);
+        }
+    }
+
+private:
+    const std::function<void()> press_;
+};
+
+// Gives a widget class the mouse of a model that has MouseDown, MouseUp, MouseEnter and MouseExit: a press
+// that the model takes is followed by its release. With the focus, Space and Return are a press in place.
+template <typename Base, typename Model>
+class Pressable : public Base, public HasAccess {
+public:
+    Pressable(Model& model, QWidget* parent) : Base(parent), model_(model) {}
+
+    Model& PressedModel() const { return model_; }
+    QAccessibleInterface* MakeAccess() override {
+        return model_.IsLink ? new LinkAccess(*this, [this] { Press(); }) : nullptr;
+    }
+    // A press in place, without the mouse. False if the model doesn't take any.
+    bool Press() {
+        const bool taken = model_.UserPressed(0, 0);
+        if (taken) {
+            model_.MouseUp(0, 0);
+        }
+        return taken;
+    }
+
+protected:
+    void mousePressEvent(QMouseEvent* event) override {
+        const QPoint at = event->position().toPoint();
+        pressed_ = event->button() == Qt::LeftButton && model_.UserPressed(at.x(), at.y());
+        // An overlay keeps its presses to itself, also those that the model doesn't follow.
+        event->setAccepted(pressed_ || SwallowsPresses());
+    }
+    void mouseReleaseEvent(QMouseEvent* event) override {
+        const QPoint at = event->position().toPoint();
+        if (pressed_ && event->button() == Qt::LeftButton) {
+            pressed_ = false;
+            model_.MouseUp(at.x(), at.y());
+        }
+    }
+    void enterEvent(QEnterEvent*) override { model_.MouseEnter(); }
+    void leaveEvent(QEvent*) override { model_.MouseExit(); }
+
+    void keyPressEvent(QKeyEvent* event) override {
+        const bool presses =
+            event->key() == Qt::Key_Space || event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        if (presses && event->isAutoRepeat()) {
+            return; // a key that is held down is one press
+        }
+        if (!presses || !Press()) {
+            event->ignore();
+        }
+    }
+
+    void paintEvent(QPaintEvent* event) override {
+        Base::paintEvent(event);
+        if (this->hasFocus()) {
+            QStylePainter painter(this);
+            QStyleOptionFocusRect focus;
+            focus.initFrom(this);
+            focus.state |= QStyle::State_KeyboardFocusChange;
+            painter.drawPrimitive(QStyle::PE_FrameFocusRect, focus);
+        }
+    }
+
+    virtual bool SwallowsPresses() const { return false; }
+
+private:
+    Model& model_;
+    bool pressed_ = false;
+};
 
 class LabelWidget final : public Pressable<QLabel, Label> {
 public:
@@ -61,46 +153,12 @@ protected:
     }
 };
 
-// A link as a screen reader meets it: called one, and with a press that needs neither mouse nor keyboard.
-class LinkAccess final : public QAccessibleWidget {
-public:
-    LinkAccess(QWidget& widget, std::function<void()> press)
-        : QAccessibleWidget(&widget, QAccessible::Link), press_(std::move(press)) {}
-
-    QStringList actionNames() const override { return {pressAction(), setFocusAction()}; }
-    // The reader doesn't wait for what the press brings up.
-    void doAction(const QString& action) override {
-        if (action == pressAction()) {
-            QMetaObject::invokeMethod(widget(), press_, Qt::QueuedConnection);
-        } else {
-            QAccessibleWidget::doAction(action);
-        }
-    }
-
-private:
-    const std::function<void()> press_;
-};
-
-template <typename PressableWidget>
-QAccessibleInterface* MakeIfLink(QObject* object) {
-    auto* const widget = dynamic_cast<PressableWidget*>(object);
-    return widget == nullptr || !widget->PressedModel().IsLink
-               ? nullptr
-               : new LinkAccess(*widget, [widget] { widget->Press(); });
-}
-
-QAccessibleInterface* MakeAccess(const QString&, QObject* object) {
-    QAccessibleInterface* const label = MakeIfLink<LabelWidget>(object);
-    return label != nullptr ? label : MakeIfLink<CanvasWidget>(object);
-}
-
 // Plain text, whatever it holds. A link is drawn in the palette's link colour; an overlay draws nothing and
 // lies above all other controls.
 class LabelView final : public View<Label, LabelWidget> {
 public:
     LabelView(Label& model, QWidget* parent) : View(model, new LabelWidget(model, parent)) {
         widget_->setTextFormat(Qt::PlainText);
-        QAccessible::installFactory(MakeAccess); // once, however often it is called
     }
 
     void LeadTo(QWidget* target) override {
@@ -176,13 +234,101 @@ void ProgressBarView::Read() {
 
 class CanvasView final : public View<Canvas, CanvasWidget> {
 public:
-    CanvasView(Canvas& model, QWidget* parent) : View(model, new CanvasWidget(model, parent)) {
-        QAccessible::installFactory(MakeAccess);
-    }
+    CanvasView(Canvas& model, QWidget* parent) : View(model, new CanvasWidget(model, parent)) {}
 
 private:
     void Read() override { widget_->update(); }
 };
+
+class WheelAccess final : public QAccessibleWidget, public QAccessibleValueInterface {
+public:
+    WheelAccess(QWidget& wheel, const ProgressWheel& model)
+        : QAccessibleWidget(&wheel, QAccessible::ProgressBar), model_(model) {}
+
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        return type == QAccessible::ValueInterface ? static_cast<QAccessibleValueInterface*>(this)
+                                                   : QAccessibleWidget::interface_cast(type);
+    }
+    QVariant currentValue() const override { return QVariant::fromValue<qint64>(model_.Value); }
+    void setCurrentValue(const QVariant&) override {}
+    QVariant maximumValue() const override { return QVariant::fromValue<qint64>(model_.Maximum); }
+    QVariant minimumValue() const override { return 0; }
+    QVariant minimumStepSize() const override { return 0; }
+
+private:
+    const ProgressWheel& model_;
+};
+
+class WheelWidget final : public QWidget, public HasAccess {
+public:
+    WheelWidget(const ProgressWheel& model, QWidget* parent) : QWidget(parent), model_(model) {}
+
+    QAccessibleInterface* MakeAccess() override { return new WheelAccess(*this, model_); }
+
+protected:
+    void showEvent(QShowEvent*) override {
+        turn_ = -2;
+        timer_.start(turnPeriod, this);
+    }
+    void hideEvent(QHideEvent*) override { timer_.stop(); }
+    void timerEvent(QTimerEvent*) override {
+        turn_ = (turn_ + 1) % spokes;
+        update();
+    }
+    void paintEvent(QPaintEvent*) override {
+        if (turn_ < 0) {
+            return; // what is over before would only flicker
+        }
+        QPainter painter(this);
+        painter.setRenderHint(QPainter::Antialiasing);
+        const qreal radius = std::min(width(), height()) / 2.0;
+        painter.translate(width() / 2.0, height() / 2.0);
+        QColor color = palette().color(QPalette::WindowText);
+        for (int i = 0; i < spokes; ++i) {
+            color.setAlphaF(0.15F + 0.85F * static_cast<float>((i + spokes - turn_) % spokes) / spokes);
+            painter.save();
+            painter.rotate(-360.0 * i / spokes);
+            painter.setPen(QPen(color, radius / 6, Qt::SolidLine, Qt::RoundCap));
+            painter.drawLine(QPointF(0, -radius * 0.5), QPointF(0, -radius * 0.85));
+            painter.restore();
+        }
+    }
+
+private:
+    static constexpr int spokes = 12;
+    static constexpr int turnPeriod = 80; // milliseconds a spoke
+    const ProgressWheel& model_;
+    QBasicTimer timer_;
+    int turn_ = 0;
+};
+
+// Spokes that turn; the timer runs only while they can be seen. To a screen reader it is a progress bar,
+// which it speaks of by itself, as often as its user likes.
+class WheelView final : public View<ProgressWheel, WheelWidget> {
+public:
+    WheelView(ProgressWheel& model, QWidget* parent);
+
+protected:
+    void Read() override;
+    std::string Description() const override { return model_.Spoken; }
+
+private:
+    std::int64_t toldValue_ = 0;
+};
+
+WheelView::WheelView(ProgressWheel& model, QWidget* parent) : View(model, new WheelWidget(model, parent)) {}
+
+void WheelView::Read() {
+    if (toldValue_ != model_.Value) {
+        toldValue_ = model_.Value;
+        QAccessibleValueChangeEvent event(Widget(), QVariant::fromValue<qint64>(toldValue_));
+        QAccessible::updateAccessibility(&event);
+    }
+    // A help tag that is up follows what goes on.
+    if (Widget()->underMouse() && QToolTip::isVisible()) {
+        QToolTip::showText(QCursor::pos(), Widget()->toolTip(), Widget());
+    }
+}
 
 } // namespace
 
@@ -194,6 +340,10 @@ std::unique_ptr<ControlView> MakeShowingView(Control& control, QWidget* parent) 
         }
     }
     return nullptr;
+}
+
+std::unique_ptr<ControlView> MakeWheelView(Control& control, QWidget* parent) {
+    return MakeIf<ProgressWheel, WheelView>(control, parent);
 }
 
 } // namespace tessarolyne

@@ -3,11 +3,9 @@
 #include "desktop/QtMenu.h"
 #include "desktop/QtText.h"
 #include "platform/Application.h"
-#include "platform/EventLoop.h"
 #include "platform/Services.h"
 #include "platform/Window.h"
 
-#include <QAccessible>
 #include <QAccessibleWidget>
 #include <QAction>
 #include <QApplication>
@@ -49,16 +47,6 @@ Qt::WindowFlags Flags(const WindowFrame& frame) {
     return flags;
 }
 
-// A screen reader tells by the role which kind of window one is in; Qt calls a mere widget a filler.
-QAccessibleInterface* MakeAccess(const QString&, QObject* object) {
-    auto* const view = dynamic_cast<WindowView*>(object);
-    if (view == nullptr) {
-        return nullptr;
-    }
-    const bool isDialog = view->Model().Frame.kind == WindowFrame::Kind::MovableModal;
-    return new QAccessibleWidget(view, isDialog ? QAccessible::Dialog : QAccessible::Window);
-}
-
 // Wayland neither tells a window where it stands nor lets it choose.
 bool PlacesWindows() {
     return !QGuiApplication::platformName().startsWith(u"wayland");
@@ -85,7 +73,6 @@ void StandBeforeOthers(QWidget& dialog) {
 WindowView::WindowView(Window& window, QtMenu* menu, bool withBar)
     : QWidget(nullptr, Flags(window.Frame)), window_(window), content_(new WindowContent(this)),
       focus_(window, *this, [this](const Control* control) { return Find(control); }) {
-    QAccessible::installFactory(MakeAccess); // once, however often it is called
     if (window.Frame.kind == WindowFrame::Kind::MovableModal && window.Frame.blocksOthers) {
         setWindowModality(Qt::ApplicationModal);
     }
@@ -115,6 +102,12 @@ void WindowView::AddShortcuts() {
             action, &QAction::triggered, this, [this, &shortcut] { window_.UserPressedShortcut(shortcut); });
         addAction(action);
     }
+}
+
+// A screen reader tells by the role which kind of window one is in; Qt calls a mere widget a filler.
+QAccessibleInterface* WindowView::MakeAccess() {
+    const bool isDialog = window_.Frame.kind == WindowFrame::Kind::MovableModal;
+    return new QAccessibleWidget(this, isDialog ? QAccessible::Dialog : QAccessible::Window);
 }
 
 WindowView::~WindowView() {

@@ -2,7 +2,7 @@
 
 #include "desktop/ControlView.h"
 #include "desktop/WindowFocus.h"
-#include "platform/Signal.h"
+#include "platform/Event.h"
 
 #include <QScrollArea>
 #include <QWidget>
@@ -36,7 +36,7 @@ void StandBeforeOthers(QWidget& dialog);
 // The real window of a model: its frame, menu bar and controls. The menu bar stands above the model's
 // area, which keeps its size and scrolls where the screen is smaller. The view never closes by itself; it
 // asks the model, and goes when that has closed.
-class WindowView final : public QWidget {
+class WindowView final : public QWidget, public HasAccess {
 public:
     // `menu` may be null; `withBar` shows the menus in this window.
     WindowView(Window& window, QtMenu* menu, bool withBar);
@@ -45,6 +45,7 @@ public:
     Window& Model() const { return window_; }
     // The widget of the control that has the program's focus; null if none has it.
     QWidget* FocusedWidget() const;
+    QAccessibleInterface* MakeAccess() override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;

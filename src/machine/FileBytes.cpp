@@ -2,12 +2,10 @@
 
 #include <algorithm>
 #include <array>
-#include <cstddef>
 #include <fcntl.h>
 #include <filesystem>
 #include <sys/mman.h>
 #include <sys/stat.h>
-#include <vector>
 
 namespace tessarolyne {
 

@@ -1,9 +1,7 @@
 #include "machine/PosixFileSystem.h"
 
-#include "machine/Descriptor.h"
+#include "machine/FileBytes.h"
 #include "machine/SafeFile.h"
-#include "machine/SaveTarget.h"
-#include "machine/TemporaryFile.h"
 
 #include <algorithm>
 #include <array>
@@ -13,7 +11,6 @@
 #include <filesystem>
 #include <fstream>
 #include <sstream>
-#include <string>
 #include <sys/stat.h>
 
 namespace tessarolyne {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/FileSystem.h"
+#include "platform/FolderItem.h"
 
 #include <functional>
 #include <istream>

@@ -1,18 +1,273 @@
 #include "machine/SafeFile.h"
 
-#include "machine/FileAccess.h"
-#include "machine/FileBytes.h"
+#include "platform/Text.h"
 
-#include <cstddef>
+#include <algorithm>
+#include <climits>
+#include <dirent.h>
 #include <fcntl.h>
+#include <linux/limits.h>
+#include <sys/file.h>
+#include <sys/stat.h>
+#include <sys/xattr.h>
 
 namespace tessarolyne {
 
 namespace {
 
+// As many as the kernel follows.
+constexpr int longestChainOfLinks = 40;
+
+std::string FolderOf(const std::string& path) {
+    const auto slash = path.rfind('/');
+    return slash == 0 || slash == std::string::npos ? "/" : path.substr(0, slash);
+}
+
+// What the link holds, made absolute.
+std::string Followed(const std::string& link) {
+    char target[PATH_MAX];
+    const auto length = ::readlink(link.c_str(), target, sizeof target);
+    if (length < 0) {
+        ThrowErrno("read link " + link);
+    }
+    std::string text(target, static_cast<std::size_t>(length));
+    return text.starts_with('/') ? text : FolderOf(link) + "/" + text;
+}
+
+// What stands at the path itself; nothing if nothing does.
+std::optional<struct stat> Look(const std::string& path) {
+    struct stat status {};
+    if (::lstat(path.c_str(), &status) == 0) {
+        return status;
+    }
+    if (errno != ENOENT) {
+        ThrowErrno("look at " + path);
+    }
+    return std::nullopt;
+}
+
+// In a folder with the sticky bit, as /tmp, a name can be taken only from a file of one's own.
+bool MayTakeName(const std::string& folder, const struct stat& file) {
+    struct stat status {};
+    if (::stat(folder.c_str(), &status) != 0) {
+        ThrowErrno("look at the folder " + folder);
+    }
+    if ((status.st_mode & S_ISVTX) == 0) {
+        return true;
+    }
+    const uid_t user = ::geteuid();
+    return user == 0 || user == status.st_uid || user == file.st_uid;
+}
+
+// How Linux shows a POSIX access control list; it is copied as it is.
+constexpr const char* accessList = "system.posix_acl_access";
+
+bool SaysNone(int error) {
+    return error == ENODATA || error == EOPNOTSUPP || error == ENOSYS;
+}
+
+// Empty for a file without one; nothing if it can't be told.
+std::optional<std::string> ListOf(const std::string& path) {
+    std::string list(XATTR_SIZE_MAX, '\0');
+    const auto size = ::lgetxattr(path.c_str(), accessList, list.data(), list.size());
+    if (size < 0) {
+        return SaysNone(errno) ? std::optional(std::string()) : std::nullopt;
+    }
+    list.resize(static_cast<std::size_t>(size));
+    return list;
+}
+
+// An empty list takes away what a new file may have from its folder. Where a sandbox is given a file, even
+// that is refused, and there is nothing to take away.
+bool SetList(int file, const std::string& list) {
+    if (list.empty()) {
+        return ::fremovexattr(file, accessList) == 0 ||
+               (::fgetxattr(file, accessList, nullptr, 0) < 0 && SaysNone(errno));
+    }
+    return ::fsetxattr(file, accessList, list.data(), list.size(), 0) == 0;
+}
+
+struct stat Look(int file) {
+    struct stat status {};
+    if (::fstat(file, &status) != 0) {
+        ThrowErrno("look at the temporary file");
+    }
+    return status;
+}
+
+// False if the file keeps another group. Whatever the error, it only says that they can't be given.
+bool GiveTo(int file, const SaveTarget::Owner& old) {
+    constexpr auto sameUser = static_cast<uid_t>(-1);
+    const auto made = Look(file);
+    if (made.st_uid != old.user && ::fchown(file, old.user, old.group) == 0) {
+        return true;
+    }
+    return made.st_gid == old.group || ::fchown(file, sameUser, old.group) == 0;
+}
+
+constexpr std::string_view prefix = ".tessarolyne-save-";
+constexpr int mostNames = 10000;
+
+enum class Locked { Yes, No, ByAnother };
+
+// A file system without locks gives No: a save goes on there, and a sweep leaves its files alone.
+Locked TryLock(int file) {
+    if (Uninterrupted([&] { return ::flock(file, LOCK_EX | LOCK_NB); }) == 0) {
+        return Locked::Yes;
+    }
+    return errno == EWOULDBLOCK ? Locked::ByAnother : Locked::No;
+}
+
+// Whether a name is one that TemporaryFile gives.
+bool IsOurs(std::string_view name) {
+    if (!name.starts_with(prefix) || name.size() == prefix.size()) {
+        return false;
+    }
+    name.remove_prefix(prefix.size());
+    return std::all_of(name.begin(), name.end(), IsDigit);
+}
+
+void Sweep(int folder, const std::string& name) {
+    // Open for writing, as network file systems want it for an exclusive lock.
+    constexpr int flags = O_RDWR | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+    const Descriptor file(Uninterrupted([&] { return ::openat(folder, name.c_str(), flags); }));
+    // Two sweeps may meet: the first removes the name, and a new save takes it before the second has its
+    // lock.
+    if (file.IsOpen() && TryLock(*file) == Locked::Yes && IsNamed(folder, name, *file)) {
+        ::unlinkat(folder, name.c_str(), 0);
+    }
+}
+
 constexpr std::size_t bufferSize = std::size_t{256} * 1024;
 
 } // namespace
+
+std::string FollowLinks(const std::string& path) {
+    std::string place = path;
+    struct stat status {};
+    for (int count = 0; ::lstat(place.c_str(), &status) == 0 && S_ISLNK(status.st_mode); ++count) {
+        if (count == longestChainOfLinks) {
+            throw IOException("too many links: " + path);
+        }
+        place = Followed(place);
+    }
+    return place;
+}
+
+SaveTarget FindSaveTarget(const std::string& path, LinkPolicy links) {
+    const std::string place = links == LinkPolicy::ReplaceTarget ? FollowLinks(path) : path;
+    const auto status = Look(place);
+    SaveTarget target{FolderOf(place), place.substr(place.rfind('/') + 1), std::nullopt};
+    if (target.name.empty() || target.name == "." || target.name == "..") {
+        throw IOException("not the name of a file: " + place);
+    }
+    if (!status) {
+        return target;
+    }
+    if (S_ISLNK(status->st_mode)) {
+        if (!MayTakeName(target.folder, *status)) {
+            throw IOException("another user's link, in a folder that keeps it: " + place);
+        }
+        return target;
+    }
+    if (!S_ISREG(status->st_mode)) {
+        throw IOException("not a regular file: " + place);
+    }
+    if (::faccessat(AT_FDCWD, place.c_str(), W_OK, AT_EACCESS) != 0) {
+        ThrowErrno("may not write " + place);
+    }
+    target.old = SaveTarget::Owner{status->st_mode & 0777U, status->st_uid, status->st_gid};
+    return target;
+}
+
+bool TakeOverAccess(int made, const std::string& path, const SaveTarget::Owner& old) {
+    const auto list = ListOf(path);
+    const bool hasGroup = GiveTo(made, old);
+    if (!list || (!list->empty() && !hasGroup) || !SetList(made, *list)) {
+        return false;
+    }
+    mode_t permissions = old.permissions;
+    if (!hasGroup) {
+        // The new group isn't the one that was meant, and the old one's members are anybody now: both get
+        // what both had.
+        const mode_t both = (permissions >> 3U) & permissions & 07U;
+        permissions = (permissions & 0700U) | (both << 3U) | both;
+    }
+    const mode_t has = Look(made).st_mode & 0777U;
+    return has == permissions || ::fchmod(made, permissions) == 0 || (has & ~permissions) == 0;
+}
+
+std::unique_ptr<TemporaryFile> TemporaryFile::Make(int folder, mode_t permissions) {
+    constexpr int flags = O_RDWR | O_CREAT | O_EXCL | O_NOFOLLOW | O_CLOEXEC;
+    for (int number = 0; number < mostNames; ++number) {
+        const std::string name = std::string(prefix) + std::to_string(number);
+        Descriptor file(Uninterrupted([&] { return ::openat(folder, name.c_str(), flags, permissions); }));
+        if (file.IsOpen()) {
+            std::unique_ptr<TemporaryFile> made(new TemporaryFile(folder, name, std::move(file)));
+            if (made->Lock()) {
+                return made;
+            }
+        } else if (IsRefusal(errno)) {
+            return nullptr;
+        } else if (errno != EEXIST) {
+            ThrowErrno("make a temporary file");
+        }
+    }
+    throw IOException("make a temporary file: all names are taken");
+}
+
+TemporaryFile::~TemporaryFile() {
+    // A second time, since nobody hears of a failure and the next chance is the next start.
+    for (int times = 0; times < 2 && !name_.empty(); ++times) {
+        if (::unlinkat(folder_, name_.c_str(), 0) == 0) {
+            name_.clear();
+        }
+    }
+}
+
+// False if a sweep took the new file for a leftover in the moment before it was locked.
+bool TemporaryFile::Lock() {
+    if (TryLock(*file_) == Locked::ByAnother) {
+        return false;
+    }
+    struct stat status {};
+    if (::fstat(*file_, &status) != 0) {
+        ThrowErrno("look at the temporary file");
+    }
+    if (status.st_nlink > 0 || IsNamed(folder_, name_, *file_)) {
+        return true;
+    }
+    name_.clear(); // it may be another save's by now
+    return false;
+}
+
+bool TemporaryFile::TakeName(const std::string& name) {
+    // Over a network the answer may get lost: what counts is whose name it is.
+    const bool renamed = ::renameat(folder_, name_.c_str(), folder_, name.c_str()) == 0;
+    const int error = errno;
+    if (!renamed && !IsNamed(folder_, name, *file_)) {
+        errno = error;
+        return false;
+    }
+    name_.clear();
+    return true;
+}
+
+void SweepTemporaryFiles(const std::string& folder) {
+    const std::unique_ptr<DIR, int (*)(DIR*)> entries(::opendir(folder.c_str()), &::closedir);
+    if (entries == nullptr) {
+        return;
+    }
+    std::vector<std::string> names;
+    while (const dirent* entry = ::readdir(entries.get())) {
+        if (IsOurs(entry->d_name)) {
+            names.emplace_back(entry->d_name);
+        }
+    }
+    for (const std::string& name : names) {
+        Sweep(::dirfd(entries.get()), name);
+    }
+}
 
 SafeFile::SafeFile(const std::string& path, LinkPolicy links, const std::string& like)
     : target_(FindSaveTarget(path, links)),

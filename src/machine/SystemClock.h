@@ -1,6 +1,10 @@
 #pragma once
 
-#include "platform/Clock.h"
+#include "platform/Services.h"
+
+#include <cstdint>
+#include <filesystem>
+#include <limits>
 
 namespace tessarolyne {
 
@@ -9,6 +13,41 @@ class SystemClock final : public Clock {
 public:
     std::int64_t Milliseconds() const override;
     Date Now() const override;
+};
+
+// What the machine, the process's control groups (versions 1 and 2) and its resource limits leave: the least
+// of them. Reads a dozen small files, some hundred microseconds; not for inner loops.
+class SystemMemory final : public MemoryLimits {
+public:
+    // `root` holds the directories proc and sys.
+    explicit SystemMemory(std::filesystem::path root = "/") : root_(std::move(root)) {}
+
+    std::uint64_t AvailableBytes() const override;
+
+private:
+    static constexpr std::uint64_t unlimited = std::numeric_limits<std::uint64_t>::max();
+
+    std::uint64_t MachineBytes() const;
+    std::uint64_t GroupBytes() const;
+    std::uint64_t ResourceLimitBytes() const;
+
+    std::filesystem::path root_;
+};
+
+// Terminate, hang-up and interrupt signals as something that an event loop can wait for: while the object
+// lives, each makes the descriptor readable instead of ending the process. At most one object at a time.
+class Signals {
+public:
+    // Throws std::system_error if the machine has no descriptors left.
+    Signals();
+    ~Signals();
+    Signals(const Signals&) = delete;
+    Signals& operator=(const Signals&) = delete;
+
+    // Readable when a signal has come.
+    int Descriptor() const;
+    // The number of the oldest signal not yet taken; 0 if there is none.
+    int Take();
 };
 
 } // namespace tessarolyne

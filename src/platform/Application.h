@@ -1,8 +1,6 @@
 #pragma once
 
 #include "platform/Event.h"
-#include "platform/Property.h"
-#include "platform/Signal.h"
 #include "platform/Window.h"
 
 #include <vector>

@@ -2,7 +2,6 @@
 
 #include "platform/Application.h"
 #include "platform/Services.h"
-#include "platform/Sound.h"
 #include "platform/Window.h"
 
 namespace tessarolyne {

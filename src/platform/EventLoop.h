@@ -1,7 +1,13 @@
 #pragma once
 
+#include "platform/Event.h"
+
+#include <atomic>
 #include <cstdint>
 #include <functional>
+#include <future>
+#include <string>
+#include <vector>
 
 namespace tessarolyne {
 
@@ -40,6 +46,84 @@ public:
     // Ends the loop and all that RunUntil nested in it.
     virtual void Quit(int exitCode) = 0;
     virtual bool IsQuitting() const = 0;
+};
+
+// Runs one body at a time beside the main thread. The body must not touch controls; what it has to say it
+// says through a Timer's Mode, which takes effect on the main thread when the body has been left for good.
+class Thread {
+public:
+    explicit Thread(EventLoop& loop) : loop_(loop) {}
+    // Waits for the body; raise its stop flag first.
+    ~Thread() = default;
+    Thread(const Thread&) = delete;
+    Thread& operator=(const Thread&) = delete;
+
+    // Starts the body; nothing if it runs. A thread that the system refuses fails like a body.
+    void Start();
+    // Whether the body has been started and not yet been left.
+    bool IsRunning() const { return isRunning_.load(std::memory_order_acquire); }
+
+    // The thread whose body the caller runs in, or null on any other thread.
+    static Thread* Current();
+    // From the body: runs `task` on the main thread after the body has been left.
+    void AfterBody(std::function<void()> task) { afterBody_.push_back(std::move(task)); }
+
+    Event<void()> Run;
+    // On the main thread, with the reason: after a body that ended by an exception, or could not begin.
+    Event<void(const std::string& reason)> Failed;
+
+private:
+    void Body();
+
+    EventLoop& loop_;
+    std::atomic<bool> isRunning_ = false;
+    std::vector<std::function<void()>> afterBody_;
+    std::future<void> thread_; // the last member: its end waits for the body, which uses the others
+};
+
+// Gives `Action` on the main thread, once or again and again. Mode: 0 off, 1 single, 2 multiple. A single
+// timer is off again before its Action runs. The only timer property that a Thread's body may touch is Mode;
+// what it assigns takes effect once the body has been left, the period counted from the assignment on.
+class Timer {
+public:
+    Timer(EventLoop& loop, int period) : Mode(*this), Period(period), loop_(loop) {}
+    ~Timer() { Disarm(); }
+    Timer(const Timer&) = delete;
+    Timer& operator=(const Timer&) = delete;
+
+    // Begins the period anew if the timer runs.
+    void Reset();
+
+    // Mode, assigned and read by its name.
+    class ModeProperty {
+    public:
+        explicit ModeProperty(Timer& timer) : timer_(timer) {}
+        ModeProperty(const ModeProperty&) = delete;
+        ModeProperty& operator=(int mode) {
+            timer_.SetMode(mode);
+            return *this;
+        }
+        operator int() const { return timer_.mode_; }
+
+    private:
+        Timer& timer_;
+    };
+
+    ModeProperty Mode;
+    int Period; // milliseconds
+
+    Event<void()> Action;
+
+private:
+    void SetMode(int mode);
+    void SetModeSince(std::int64_t moment, int mode);
+    void Arm(std::int64_t since);
+    void Disarm();
+    void Fire();
+
+    EventLoop& loop_;
+    int mode_ = 0;
+    EventLoop::AlarmId alarm_ = 0;
 };
 
 } // namespace tessarolyne

@@ -1,12 +1,117 @@
 #pragma once
 
-#include "platform/FileSystem.h"
-
+#include <cstddef>
+#include <cstdint>
+#include <memory>
 #include <optional>
+#include <span>
+#include <stdexcept>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace tessarolyne {
+
+// A file operation that failed: raised where it arises, caught at the operation that the user asked for. Its
+// text names the step and the file for a developer; users read the texts of the string table instead.
+class IOException final : public std::runtime_error {
+public:
+    using std::runtime_error::runtime_error;
+};
+
+// What stands under a path, looked at without following a link. Unknown is what can't be looked at: a file
+// may be there, and opening it tells what is wrong.
+enum class FileKind { None, Regular, Folder, Link, Other, Unknown };
+
+// What a save does with a link: keep it and replace the file it leads to, or put a file in the link's place.
+enum class LinkPolicy { ReplaceTarget, ReplaceLink };
+
+enum class KnownFolder { Home, Preferences, Documents, Application };
+
+// A mounted file system, by the name that the user sees and the folder under which it stands.
+struct Volume {
+    std::string name;
+    std::string root;
+
+    bool operator==(const Volume&) const = default;
+};
+
+// By what a file is known again: as long as all of it is the same, so is the content.
+struct FileStamp {
+    std::uint64_t device = 0;
+    std::uint64_t inode = 0;
+    std::uint64_t size = 0;
+    std::int64_t changed = 0; // nanoseconds
+
+    bool operator==(const FileStamp&) const = default;
+};
+
+// An open regular file, read from its start up to where its end was when it was opened, so that one that
+// grows all the time has an end too.
+class InputFile {
+public:
+    virtual ~InputFile() = default;
+
+    // As it was when the file was opened.
+    virtual FileStamp Stamp() const = 0;
+
+    // Fills `bytes` from the file and gives the count; a lower count only at the end of the file. Throws
+    // IOException.
+    virtual std::size_t Read(std::span<char> bytes) = 0;
+};
+
+// A file being saved. Until Commit has returned, the place holds what it held before; an object that goes
+// without a Commit, or whose call threw, leaves nothing behind.
+class OutputFile {
+public:
+    virtual ~OutputFile() = default;
+
+    // Throws IOException.
+    virtual void Write(std::string_view bytes) = 0;
+    // Puts the whole content in its place, as durably as the file system can. Once; throws IOException.
+    virtual void Commit() = 0;
+};
+
+// The machine's files. Paths are native, absolute, without "." and ".." and without a zero byte; FolderItem
+// sees to that. Not for launching files, which is the desktop's business.
+class FileSystem {
+public:
+    virtual ~FileSystem() = default;
+
+    virtual FileKind Kind(const std::string& path) const = 0;
+    // Of the regular file to which the path leads; nothing if it leads to none.
+    virtual std::optional<FileStamp> Stamp(const std::string& path) const = 0;
+    // The path without a link in it; nothing if it leads nowhere. A link to what can't be looked at gives the
+    // path to that.
+    virtual std::optional<std::string> Resolve(const std::string& path) const = 0;
+
+    // The root file system first.
+    virtual std::vector<Volume> Volumes() const = 0;
+    // The name of the volume whose root folder this is; nothing for any other path.
+    virtual std::optional<std::string> VolumeNameAt(const std::string& path) const = 0;
+    // Nothing if there is no such folder; the one for preferences is made if it is missing.
+    virtual std::optional<std::string> Find(KnownFolder folder) = 0;
+
+    // False if it didn't succeed.
+    virtual bool MakeFolder(const std::string& path) = 0;
+
+    // Never waits for a FIFO's other end. Throws IOException, also for all but regular files.
+    virtual std::unique_ptr<InputFile> OpenForReading(const std::string& path) = 0;
+    // Begins a save. Throws IOException, also for a folder, a device, a FIFO, or a file that may not be
+    // written.
+    virtual std::unique_ptr<OutputFile> CreateSafely(const std::string& path, LinkPolicy links) = 0;
+    // Whether such a save would be let begin now.
+    virtual bool CanReplace(const std::string& path, LinkPolicy links) const = 0;
+    // Makes `copy` hold the content of the regular file `path`, replacing what stood there, unless that is
+    // the file itself. Throws IOException.
+    virtual void KeepAs(const std::string& path, const std::string& copy) = 0;
+    // Removes what saves of killed runs left in the folder; a save under way in another process is left
+    // alone.
+    virtual void SweepLeftovers(const std::string& folder) = 0;
+
+    // Whether the folder is one that the system shows as a single file, as macOS does.
+    virtual bool IsPackage(const std::string&) const { return false; }
+};
 
 // A reference to a place in the file system, by value; a file need not stand there. Nil is an optional
 // without a value. An alias is a symbolic link. Holds no open file and caches nothing: each answer is the

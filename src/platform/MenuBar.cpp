@@ -4,8 +4,6 @@
 #include "platform/EventLoop.h"
 #include "platform/Services.h"
 
-#include <utility>
-
 namespace tessarolyne {
 
 MenuItem::MenuItem(

@@ -5,11 +5,9 @@
 #include <algorithm>
 #include <charconv>
 #include <clocale>
-#include <cmath>
 #include <cstddef>
 #include <cstdlib>
 #include <iterator>
-#include <limits>
 
 namespace tessarolyne {
 

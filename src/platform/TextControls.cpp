@@ -4,7 +4,6 @@
 #include "platform/Text.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace tessarolyne {
 

@@ -3,10 +3,8 @@
 #include "platform/Application.h"
 #include "platform/EventLoop.h"
 #include "platform/Services.h"
-#include "platform/Stage.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace tessarolyne {
 

@@ -1,8 +1,7 @@
 #pragma once
 
 #include "platform/Control.h"
-#include "platform/Property.h"
-#include "platform/Signal.h"
+#include "platform/Event.h"
 
 #include <functional>
 #include <string>

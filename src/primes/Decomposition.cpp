@@ -9,7 +9,7 @@
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"
 #include "ui/NumberField.h"
-#include "ui/NumberFormat.h"
+#include "ui/WrittenNumber.h"
 
 #include <numeric>
 

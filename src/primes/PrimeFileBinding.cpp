@@ -1,19 +1,14 @@
 #include "primes/PrimeFileBinding.h"
 
-#include "platform/Desktop.h"
-#include "platform/MemoryLimits.h"
 #include "platform/Services.h"
 #include "primes/WinChargSauvNb1ers.h"
-#include "primes/engine/PrimeFile.h"
-#include "ui/App.h"
 #include "ui/FileItems.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"
-#include "ui/NumberFormat.h"
 #include "ui/Program.h"
+#include "ui/WrittenNumber.h"
 
 #include <algorithm>
-#include <exception>
 
 namespace tessarolyne {
 

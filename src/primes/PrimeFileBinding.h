@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/FolderItem.h"
-#include "primes/engine/BoundFile.h"
+#include "primes/engine/PrimeFile.h"
 #include "primes/engine/PrimeTable.h"
 
 #include <cstdint>

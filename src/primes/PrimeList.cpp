@@ -8,7 +8,7 @@
 #include "primes/WinNbresPremiers.h"
 #include "primes/engine/PrimeTable.h"
 #include "ui/Localisation.h"
-#include "ui/NumberFormat.h"
+#include "ui/WrittenNumber.h"
 
 #include <algorithm>
 

@@ -1,19 +1,11 @@
 #include "primes/WinChargSauvNb1ers.h"
 
-#include "platform/Clock.h"
 #include "platform/EventLoop.h"
-#include "platform/FileSystem.h"
-#include "platform/MemoryLimits.h"
-#include "platform/Services.h"
 #include "primes/PrimeFileBinding.h"
-#include "ui/App.h"
 #include "ui/FileItems.h"
 #include "ui/Localisation.h"
 
-#include <chrono>
-#include <exception>
 #include <future>
-#include <optional>
 
 namespace tessarolyne {
 

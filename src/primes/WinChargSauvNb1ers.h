@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/Controls.h"
-#include "platform/FileSystem.h"
+#include "platform/FolderItem.h"
 #include "primes/engine/PrimeFile.h"
 #include "ui/BlockingOverlay.h"
 #include "ui/ProgramWindow.h"

@@ -1,19 +1,12 @@
 #include "primes/WinNbresPremiers.h"
 
 #include "app/Quitting.h"
-#include "platform/Controls.h"
-#include "platform/Desktop.h"
 #include "platform/Numbers.h"
-#include "platform/Services.h"
-#include "platform/Stage.h"
 #include "platform/Text.h"
 #include "primes/Calculation.h"
 #include "primes/PrimeFileBinding.h"
-#include "ui/App.h"
 #include "ui/FileItems.h"
 #include "ui/Localisation.h"
-#include "ui/NumberField.h"
-#include "ui/NumberFormat.h"
 
 namespace tessarolyne {
 

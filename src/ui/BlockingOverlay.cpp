@@ -3,9 +3,6 @@
 #include "platform/Application.h"
 #include "ui/Fncts.h"
 
-#include <string>
-#include <utility>
-
 namespace tessarolyne {
 
 namespace {

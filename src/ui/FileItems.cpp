@@ -1,8 +1,5 @@
 #include "ui/FileItems.h"
 
-#include <cstddef>
-#include <vector>
-
 namespace tessarolyne {
 
 namespace {

@@ -2,12 +2,8 @@
 
 #include "app/Version.h"
 #include "platform/Application.h"
-#include "platform/Clock.h"
-#include "platform/Desktop.h"
-#include "platform/Dialogs.h"
 #include "platform/EventLoop.h"
 #include "platform/Numbers.h"
-#include "platform/Services.h"
 #include "platform/Text.h"
 #include "platform/TextControls.h"
 #include "ui/FileItems.h"

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/FolderItem.h"
-#include "platform/Sound.h"
+#include "platform/Services.h"
 
 #include <atomic>
 #include <optional>

@@ -4,10 +4,8 @@
 #include "platform/Text.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"
-#include "ui/NumberFormat.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace tessarolyne {
 

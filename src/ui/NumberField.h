@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/TextControls.h"
-#include "ui/NumberTyping.h"
+#include "ui/WrittenNumber.h"
 
 #include <functional>
 #include <string>

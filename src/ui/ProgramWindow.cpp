@@ -1,11 +1,8 @@
 #include "ui/ProgramWindow.h"
 
-#include "platform/Services.h"
 #include "ui/Localisation.h"
 
 #include <algorithm>
-#include <string_view>
-#include <utility>
 
 namespace tessarolyne {
 

@@ -1,8 +1,7 @@
 #pragma once
 
-#include "platform/Stage.h"
+#include "platform/Services.h"
 #include "platform/Window.h"
-#include "ui/App.h"
 #include "ui/Fncts.h"
 #include "ui/Program.h"
 

@@ -2,10 +2,7 @@
 
 #include "app/Version.h"
 #include "platform/Text.h"
-#include "ui/App.h"
 #include "ui/Localisation.h"
-
-#include <utility>
 
 namespace tessarolyne {
 

@@ -1,9 +1,6 @@
 #include "ui/WinPrefs.h"
 
 #include "app/Version.h"
-#include "platform/Services.h"
-#include "platform/Stage.h"
-#include "ui/App.h"
 #include "ui/Localisation.h"
 
 #include <algorithm>

@@ -1,9 +1,9 @@
 #include "ui/WrittenNumber.h"
 
+#include "platform/Numbers.h"
 #include "platform/Text.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace tessarolyne {
 
@@ -172,6 +172,53 @@ std::string_view WithoutCurrency(std::string_view text) {
     return isNumber ? text.substr(begin, end - begin) : std::string_view();
 }
 
+using Refusal = NumberTyping::Refusal;
+
+std::string After(TextEdit edit, const std::string& inserted) {
+    edit.inserted = inserted;
+    return edit.After();
+}
+
+void ReplaceAllOf(TextEdit& edit, const std::string& text) {
+    edit.start = 0;
+    edit.removed = static_cast<int>(Len(edit.before));
+    edit.inserted = text;
+}
+
+// What of a number with too many digits there are too many of.
+Refusal WhyItDoesNotFit(std::string_view number, const Mask& mask) {
+    const std::string bare = WithoutBlanks(number);
+    const std::size_t point = std::min(bare.find('.'), bare.size());
+    const std::string decimals = bare.substr(std::min(point + 1, bare.size()));
+    if (!std::ranges::all_of(bare.substr(0, point) + decimals, IsDigit)) {
+        return Refusal::NoNumber;
+    }
+    if (decimals.size() > mask.Decimals() || (point < bare.size() && mask.Decimals() == 0)) {
+        return Refusal::TooManyDecimals;
+    }
+    return point > mask.WholeDigits() ? Refusal::TooManyDigits : Refusal::NoNumber;
+}
+
+int GroupSize(int base) {
+    switch (base) {
+    case 2:
+        return 4;
+    case 8:
+    case 10:
+        return 3;
+    case 16:
+        return 2;
+    default:
+        return 5;
+    }
+}
+
+// Whether two decimals show a fraction. One that they don't show gets no ".00", which the next reading would
+// take for a whole number and show without.
+bool ShowsFraction(double value) {
+    return value != Round(value) && !Format(value, "0.00").ends_with(".00");
+}
+
 } // namespace
 
 std::string_view Trimmed(std::string_view text) {
@@ -237,6 +284,125 @@ std::optional<WrittenNumber> ReadPasted(std::string_view pasted, std::size_t dec
         number->decimals.pop_back();
     }
     return number;
+}
+
+Refusal NumberTyping::Take(TextEdit& edit, const Mask& mask, DecimalSign sign) {
+    const bool isOwn = StandsInPart() && edit.before == shown_;
+    if (edit.inserted.empty()) {
+        if (isOwn) {
+            TakeDeletion(edit, mask, sign);
+        }
+        return Refusal::None;
+    }
+    if (!mask.Holds(edit.before) && !isOwn) { // a message gives way to a number
+        ReplaceAllOf(edit, edit.inserted);
+    }
+    edit.inserted = WithPlainSigns(edit.inserted);
+    const bool isKey = Len(edit.inserted) == 1;
+    const Refusal refusal = isKey ? TakeKey(edit, mask, sign) : TakePaste(edit, mask, sign);
+    return refusal != Refusal::None && edit.inserted.starts_with('-') ? Refusal::Minus : refusal;
+}
+
+void NumberTyping::Forget() {
+    if (!StandsInPart()) {
+        written_.clear();
+        shown_.clear();
+    }
+}
+
+void NumberTyping::TakeDeletion(TextEdit& edit, const Mask& mask, DecimalSign sign) {
+    const std::string left = After(edit, "");
+    if (!Stands(edit, left, mask, sign)) {
+        written_ = shown_ = left;
+    }
+}
+
+Refusal NumberTyping::TakeKey(TextEdit& edit, const Mask& mask, DecimalSign sign) {
+    const bool isAtEnd = edit.start + edit.removed >= Len(edit.before);
+    const std::string key = edit.inserted == "," ? "." : edit.inserted;
+    if (isAtEnd) {
+        const bool goesOn = edit.removed == 0 && edit.before == shown_;
+        const std::string written = goesOn ? written_ : Left(edit.before, edit.start);
+        if (Stands(edit, written + edit.inserted, mask, sign)) {
+            return Refusal::None;
+        }
+    } else if (key != " " && mask.Holds(After(edit, key))) {
+        edit.inserted = key;
+        return Refusal::None;
+    }
+    return WhyItDoesNotFit(After(edit, key), mask);
+}
+
+Refusal NumberTyping::TakePaste(TextEdit& edit, const Mask& mask, DecimalSign sign) {
+    const auto number = ReadPasted(edit.inserted, mask.Decimals(), sign);
+    if (!number) {
+        return Refusal::NoNumber;
+    }
+    const std::string after = After(edit, number->Text());
+    if (!mask.Holds(after)) {
+        return WhyItDoesNotFit(after, mask);
+    }
+    edit.inserted = number->Text();
+    return Refusal::None;
+}
+
+// Whether the written text is a number for the field, or will be one with more digits; the edit then shows
+// it.
+bool NumberTyping::Stands(TextEdit& edit, const std::string& written, const Mask& mask, DecimalSign sign) {
+    const auto number = ReadNumber(written, sign);
+    std::string shown;
+    if (number && mask.Holds(number->Text())) {
+        shown = number->Text();
+    } else if (sign == DecimalSign::Point && mask.Decimals() > 0 && BeginsGroups(written) &&
+               std::count_if(written.begin(), written.end(), IsDigit) <
+                   static_cast<std::ptrdiff_t>(mask.WholeDigits())) {
+        shown = written;
+    } else {
+        return false;
+    }
+    ReplaceAllOf(edit, shown);
+    written_ = written;
+    shown_ = shown;
+    return true;
+}
+
+std::string FormatString(std::string_view text, std::string_view separator, int groupSize) {
+    if (groupSize <= 0) {
+        return std::string(text);
+    }
+    std::string result;
+    std::int64_t left = Len(text);
+    for (std::size_t at = 0; at < text.size();) {
+        const std::size_t size = CharacterAt(text, at).size;
+        result += text.substr(at, size);
+        at += size;
+        --left;
+        if (left > 0 && left % groupSize == 0) {
+            result += separator;
+        }
+    }
+    return result;
+}
+
+std::string FormatNbre(std::string_view nombre, bool formatAuto) {
+    if (!IsNumeric(nombre)) {
+        return std::string(nombre);
+    }
+    const double value = CDbl(nombre);
+    std::string mask(formatAuto ? groupedMask : plainMask);
+    if (ShowsFraction(value)) {
+        mask += ".00";
+    }
+    return Format(value, mask);
+}
+
+std::string FormatType(std::string_view nombre, int base, bool formatAuto) {
+    const std::string digits = WithoutBlanks(nombre);
+    return formatAuto ? FormatString(digits, " ", GroupSize(base)) : digits;
+}
+
+std::string FormatWhole(std::uint64_t value, bool grouped) {
+    return Format(static_cast<double>(value), grouped ? groupedMask : plainMask);
 }
 
 } // namespace tessarolyne

@@ -4,11 +4,11 @@
 #include "platform/Numbers.h"
 #include "platform/Text.h"
 #include "platform/TextControls.h"
-#include "ui/App.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"
 #include "ui/NumberField.h"
-#include "words/AmountInWords.h"
+#include "ui/Program.h"
+#include "words/NumbersInWords.h"
 
 namespace tessarolyne {
 

@@ -1,6 +1,6 @@
 #include "app/PreferencesFile.h"
 #include "fuzz/Damage.h"
-#include "platform/FileSystem.h"
+#include "platform/FolderItem.h"
 #include "support/MemoryFileSystem.h"
 
 #include <doctest/doctest.h>

@@ -1,4 +1,4 @@
-#include "desktop/MessageView.h"
+#include "desktop/QtDialogs.h"
 #include "desktop/QtServices.h"
 #include "machine/SystemClock.h"
 #include "primes/WinNbresPremiers.h"

@@ -1,4 +1,4 @@
-#include "desktop/Replacement.h"
+#include "desktop/TextEdits.h"
 
 #include <QString>
 

@@ -2,7 +2,7 @@
 #include "conversion/WinMain.h"
 #include "desktop/QtMenu.h"
 #include "desktop/QtText.h"
-#include "desktop/QtTranslations.h"
+#include "desktop/Resources.h"
 #include "desktop/WindowView.h"
 #include "primes/WinChargSauvNb1ers.h"
 #include "primes/WinNbresPremiers.h"

@@ -1,7 +1,7 @@
 // Any bytes whatever as a server's answer: a page is made of its bytes, and whole before the end only if it
 // stays the same whatever comes behind it.
 #include "fuzz/Must.h"
-#include "platform/HttpAnswer.h"
+#include "platform/Http.h"
 
 using namespace tessarolyne;
 

@@ -1,7 +1,7 @@
 #include "machine/PosixFileSystem.h"
 #include "machine/FailingCalls.h"
 #include "machine/TemporaryFolder.h"
-#include "platform/FileSystem.h"
+#include "platform/FolderItem.h"
 
 #include <doctest/doctest.h>
 

@@ -1,4 +1,4 @@
-#include "machine/SystemMemory.h"
+#include "machine/SystemClock.h"
 #include "machine/TemporaryFolder.h"
 
 #include <doctest/doctest.h>

@@ -1,6 +1,6 @@
 #include "primes/WinChargSauvNb1ers.h"
 
-#include "platform/FileSystem.h"
+#include "platform/FolderItem.h"
 #include "primes/engine/PlainPrimeFile.h"
 #include "support/TestWorld.h"
 #include "ui/Localisation.h"

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/FileSystem.h"
 #include "platform/FolderItem.h"
 
 #include <algorithm>

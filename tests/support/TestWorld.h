@@ -1,13 +1,8 @@
 #pragma once
 
 #include "conversion/WinMain.h"
-#include "platform/Desktop.h"
-#include "platform/Dialogs.h"
 #include "platform/Http.h"
-#include "platform/MemoryLimits.h"
 #include "platform/Services.h"
-#include "platform/Sound.h"
-#include "platform/Stage.h"
 #include "support/MemoryFileSystem.h"
 #include "support/VirtualLoop.h"
 #include "ui/Program.h"

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "platform/Clock.h"
 #include "platform/EventLoop.h"
+#include "platform/Services.h"
 
 #include <doctest/doctest.h>
 

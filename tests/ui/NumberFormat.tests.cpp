@@ -1,4 +1,4 @@
-#include "ui/NumberFormat.h"
+#include "ui/WrittenNumber.h"
 
 #include <doctest/doctest.h>
 

@@ -1,6 +1,6 @@
-#include "ui/NumberTyping.h"
 #include "conversion/BaseConversion.h"
 #include "platform/Text.h"
+#include "ui/WrittenNumber.h"
 
 #include <doctest/doctest.h>
 

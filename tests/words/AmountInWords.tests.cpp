@@ -1,4 +1,4 @@
-#include "words/AmountInWords.h"
+#include "words/NumbersInWords.h"
 
 #include <doctest/doctest.h>
 

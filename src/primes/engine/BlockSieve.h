@@ -1,7 +1,6 @@
 #pragma once
 
 #include "primes/engine/PrimeTable.h"
-#include "primes/engine/StrikeList.h"
 
 #include <array>
 #include <cstddef>
@@ -9,7 +8,74 @@
 #include <span>
 #include <vector>
 
+// The bit map of the sieve: byte b stands for the numbers from 30 b to 30 b + 29, and its eight bits for
+// those of them that 2, 3 and 5 don't divide.
 namespace tessarolyne {
+
+namespace Wheel30 {
+
+// Bit k of byte b is the number 30 b + residues[k].
+inline constexpr std::array<std::uint8_t, 8> residues = {1, 7, 11, 13, 17, 19, 23, 29};
+
+// From one residue to the next, the last one to the first of the next byte.
+inline constexpr std::array<std::uint8_t, 8> steps = {6, 4, 2, 4, 2, 4, 6, 2};
+
+inline constexpr auto bitOfResidue = [] {
+    std::array<std::uint8_t, 30> bits{};
+    bits.fill(8);
+    for (std::uint8_t k = 0; k < 8; ++k) {
+        bits[residues[k]] = k;
+    }
+    return bits;
+}();
+
+inline constexpr auto bitsUpTo = [] {
+    std::array<std::uint8_t, 30> masks{};
+    for (std::size_t residue = 0; residue < 30; ++residue) {
+        for (std::size_t k = 0; k < 8; ++k) {
+            if (residues[k] <= residue) {
+                masks[residue] = static_cast<std::uint8_t>(masks[residue] | (1U << k));
+            }
+        }
+    }
+    return masks;
+}();
+
+// The bit of a number in its byte, 8 where 2, 3 or 5 divides it.
+constexpr std::uint8_t BitOf(std::uint64_t number) {
+    return bitOfResidue[static_cast<std::size_t>(number % 30)];
+}
+
+// The bits of the numbers in the byte of `number` that are not above it.
+constexpr std::uint8_t BitsUpTo(std::uint64_t number) {
+    return bitsUpTo[static_cast<std::size_t>(number % 30)];
+}
+
+} // namespace Wheel30
+
+// Primes that strike their multiples out of consecutive stretches of a wheel-30 bit map. Each
+// prime remembers where it stands between two stretches. A stretch has at most 2^24 bytes.
+class StrikeList {
+public:
+    // Adds a prime above 5 and below 2^22. Its first multiple to strike is the square, or the first one that
+    // lies in or behind byte `startByte`, where the next stretch begins.
+    void Add(std::uint64_t prime, std::uint64_t startByte);
+
+    // Strikes the multiples in the next `size` bytes.
+    void Strike(std::uint8_t* bytes, std::uint32_t size);
+
+private:
+    // A prime is 30 quotient + residue, and the list that it is in tells the residue.
+    struct Striker {
+        std::uint32_t quotient;
+        std::uint32_t place; // 8 times the byte of the next multiple, plus the bit of its cofactor's residue
+    };
+
+    template <unsigned Class>
+    static void StrikeClass(std::vector<Striker>& strikers, std::uint8_t* bytes, std::uint32_t size);
+
+    std::array<std::vector<Striker>, 8> classes_;
+};
 
 // Finds the primes that follow those of a table, window by window, by striking out the multiples of the
 // table's own entries. It keeps nothing that it finds: whoever asks appends it to the table, or compares it

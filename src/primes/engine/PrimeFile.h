@@ -1,12 +1,13 @@
 #pragma once
 
-#include "platform/FileSystem.h"
+#include "platform/FolderItem.h"
 #include "primes/engine/PrimeTable.h"
 
 #include <cstddef>
 #include <cstdint>
 #include <exception>
 #include <limits>
+#include <optional>
 #include <string_view>
 
 // The text file that keeps a table of primes between runs. First a header, a label and " : " and the number
@@ -70,5 +71,23 @@ PrimeFileContent ReadPrimeFile(InputFile& file, PrimeTable& table, PrimeFileProg
 
 // Whether these are 2, 3, 5, 7.
 bool BeginsWithFirstPrimes(const PrimeTable& table);
+
+// What the program knows of the content of the prime file that it is bound to. Not its place, which the
+// application keeps as a setting.
+struct BoundFile {
+    // The content that was read, written, or shown to the user as what a save replaces.
+    std::optional<FileStamp> seen;
+    // It holds something, which the table doesn't stem from: reading it failed.
+    bool isForeign = false;
+};
+
+// What a save would take away that nobody has seen.
+enum class UnseenContent { None, MorePrimes, Other, Unreadable };
+
+// Looks at the file at `item` before a save of `table`. One that isn't as `known` says is read, until it
+// holds more primes than the table; that takes no more than `mostBytes` bytes. Tells `progress` of the Work
+// alone.
+UnseenContent LookBeforeSaving(const FolderItem& item, const BoundFile& known, const PrimeTable& table,
+    std::uint64_t mostBytes, PrimeFileProgress& progress);
 
 } // namespace tessarolyne

@@ -1,4 +1,4 @@
-#include "platform/FileSystem.h"
+#include "platform/FolderItem.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
 #include "primes/engine/DigitNeighbourhood.h"

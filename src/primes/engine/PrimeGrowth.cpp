@@ -1,13 +1,12 @@
 #include "primes/engine/PrimeGrowth.h"
 
 #include "primes/engine/BlockSieve.h"
-#include "primes/engine/Primality.h"
+#include "primes/engine/Factors.h"
 
 #include <algorithm>
 #include <cmath>
 #include <limits>
 #include <new>
-#include <span>
 
 namespace tessarolyne {
 

@@ -1,7 +1,6 @@
 #pragma once
 
-#include "platform/Clock.h"
-#include "platform/MemoryLimits.h"
+#include "platform/Services.h"
 
 #include <atomic>
 #include <cstdint>

@@ -1,7 +1,6 @@
 #include "primes/engine/Factors.h"
 
 #include "primes/RunFixture.h"
-#include "primes/engine/Primality.h"
 #include "primes/engine/PrimeGrowth.h"
 #include "primes/engine/Reference.h"
 

@@ -1,4 +1,4 @@
-#include "primes/engine/Primality.h"
+#include "primes/engine/Factors.h"
 
 #include "primes/engine/Reference.h"
 

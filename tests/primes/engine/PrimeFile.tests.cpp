@@ -1,4 +1,4 @@
-#include "platform/FileSystem.h"
+#include "platform/FolderItem.h"
 #include "primes/RunFixture.h"
 #include "primes/engine/PlainPrimeFile.h"
 #include "primes/engine/Reference.h"

@@ -1,7 +1,7 @@
 #include "primes/engine/PrimeGrowth.h"
 
 #include "primes/RunFixture.h"
-#include "primes/engine/Primality.h"
+#include "primes/engine/Factors.h"
 #include "primes/engine/Reference.h"
 
 #include <doctest/doctest.h>

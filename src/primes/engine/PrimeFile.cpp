@@ -1,6 +1,4 @@
-#include "primes/engine/BoundFile.h"
-
-#include <exception>
+#include "primes/engine/PrimeFile.h"
 
 namespace tessarolyne {
 

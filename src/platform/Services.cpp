@@ -1,4 +1,4 @@
-#include "platform/Date.h"
+#include "platform/Services.h"
 
 #include "platform/Text.h"
 

@@ -1,0 +1,204 @@
+#include "desktop/QtServices.h"
+
+#include "desktop/ControlView.h"
+#include "desktop/QtText.h"
+#include "desktop/Resources.h"
+
+#include <QAccessible>
+#include <QAccessibleWidget>
+#include <QApplication>
+#include <QClipboard>
+#include <QDesktopServices>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QGuiApplication>
+#include <QProcess>
+#include <QStandardPaths>
+#include <QUrl>
+#include <algorithm>
+#include <csignal>
+#include <sys/types.h>
+#include <unistd.h>
+
+namespace tessarolyne {
+
+namespace {
+
+// The box or the label in it.
+class NoticePart final : public QWidget, public HasAccess {
+public:
+    NoticePart(QAccessible::Role role, QWidget* parent) : QWidget(parent), role_(role) { resize(1, 1); }
+
+    QAccessibleInterface* MakeAccess() override { return new QAccessibleWidget(this, role_); }
+
+private:
+    const QAccessible::Role role_;
+};
+
+// The window that has the keyboard, else, while another program has it, any that is shown.
+QWidget* WindowToSpeakFrom() {
+    if (QWidget* const active = QApplication::activeWindow()) {
+        return active;
+    }
+    const auto all = QApplication::topLevelWidgets();
+    const auto shown = std::find_if(all.begin(), all.end(), [](const QWidget* widget) {
+        return widget->isVisible() &&
+               (widget->windowType() == Qt::Window || widget->windowType() == Qt::Dialog);
+    });
+    return shown == all.end() ? nullptr : *shown;
+}
+
+// An opener that ends later had the browser in its own foreground: the address was taken.
+constexpr int longestOpening = 20'000; // milliseconds
+
+// Gives the address to the desktop's own opener, which says by its status whether a program took it; Qt
+// starts the same one, but doesn't listen. False if there is none.
+bool AskOpener(const QUrl& url, const std::function<void()>& refused) {
+    const QString opener = QStandardPaths::findExecutable(QLatin1String("xdg-open"));
+    if (opener.isEmpty()) {
+        return false;
+    }
+    // Without a parent: a process that is destroyed while it runs is killed, and the browser with it.
+    auto* const process = new QProcess;
+    process->setStandardInputFile(QProcess::nullDevice());
+    process->setStandardOutputFile(QProcess::nullDevice());
+    process->setStandardErrorFile(QProcess::nullDevice());
+    process->setChildProcessModifier([] { ::setsid(); }); // a Ctrl+C in our terminal isn't meant for it
+    QElapsedTimer since;
+    since.start();
+    QObject::connect(process, &QProcess::finished, process, [=](int status, QProcess::ExitStatus how) {
+        process->deleteLater();
+        if ((status != 0 || how != QProcess::NormalExit) && since.elapsed() < longestOpening) {
+            refused();
+        }
+    });
+    QObject::connect(process, &QProcess::errorOccurred, process, [=](QProcess::ProcessError error) {
+        if (error == QProcess::FailedToStart) {
+            process->deleteLater();
+            refused();
+        }
+    });
+    process->start(opener, {QString::fromLatin1(url.toEncoded())});
+    return true;
+}
+
+// Of PipeWire, PulseAudio, ALSA and macOS.
+constexpr const char* players[] = {"pw-play", "paplay", "aplay", "afplay"};
+
+class PlayingFile final : public Playing {
+public:
+    explicit PlayingFile(qint64 player) : player_(player) { since_.start(); }
+    bool IsPlaying() const override {
+        return player_ != 0 && since_.elapsed() < longest && ::kill(static_cast<pid_t>(player_), 0) == 0;
+    }
+
+private:
+    // In milliseconds: more than any of the program's sounds, so that a player that hangs makes nobody wait
+    // for ever.
+    static constexpr qint64 longest = 10'000;
+
+    const qint64 player_; // its process; 0 is none
+    QElapsedTimer since_;
+};
+
+// Gives the player's process, 0 if it didn't start.
+qint64 Start(const QString& player, const QString& path) {
+    QProcess process;
+    process.setProgram(player);
+    process.setArguments({path});
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+    qint64 id = 0;
+    return process.startDetached(&id) ? id : 0;
+}
+
+} // namespace
+
+// Not at once: where a run ends, all controls come back, and a reader that many events reach together passes
+// over some of them, Orca over all but those of the focus.
+void QtAnnouncer::Say(const std::string& text) {
+    constexpr int rest = 400; // milliseconds
+    text_ = WithLineFeeds(text);
+    if (QAccessible::isActive()) {
+        rest_.start(rest);
+    }
+}
+
+// A reader asks for the text a moment after it was told that the box shows, so that it has to stay.
+void QtAnnouncer::Show() {
+    QWidget* const window = WindowToSpeakFrom();
+    if (window == nullptr) {
+        return;
+    }
+    delete last_;
+    auto* const box = new NoticePart(QAccessible::Notification, window);
+    auto* const label = new NoticePart(QAccessible::StaticText, box);
+    label->setAccessibleName(text_);
+    last_ = box;
+    box->show();
+}
+
+void QtDesktop::SetClipboardText(const std::string& text) {
+    QGuiApplication::clipboard()->setText(ToQt(text));
+}
+
+bool QtDesktop::OptionKeyIsDown() const {
+    Qt::KeyboardModifiers option = Qt::AltModifier;
+#ifndef Q_OS_MACOS
+    option |= Qt::ControlModifier;
+#endif
+    return QGuiApplication::queryKeyboardModifiers().testAnyFlags(option);
+}
+
+bool QtDesktop::ShiftKeyIsDown() const {
+    return QGuiApplication::queryKeyboardModifiers().testFlag(Qt::ShiftModifier);
+}
+
+void QtDesktop::OpenAddress(const std::string& address, std::function<void()> refused) {
+    const QUrl url(ToQt(address), QUrl::StrictMode);
+    const QString scheme = url.scheme();
+    const bool known = scheme == u"http" || scheme == u"https" || scheme == u"mailto";
+    const auto postRefusal = [&loop = loop_, refused = std::move(refused)] { loop.Post(refused); };
+    const bool taken =
+        known && url.isValid() && (AskOpener(url, postRefusal) || QDesktopServices::openUrl(url));
+    if (!taken) {
+        postRefusal();
+    }
+}
+
+bool QtDesktop::OpenFile(const FolderItem& item) {
+    const QString path = QFile::decodeName(QByteArray::fromStdString(item.NativePath()));
+    return QDesktopServices::openUrl(QUrl::fromLocalFile(path));
+}
+
+void QtDesktop::AskForAttention() {
+    if (QApplication::activeWindow() == nullptr) {
+        QApplication::alert(nullptr); // all windows: a taskbar shows them as one or each
+    }
+}
+
+void QtSounds::Beep() {
+    QApplication::beep();
+}
+
+std::unique_ptr<Playing> QtSounds::Play(const std::string& file) {
+    const QString path = ResourcePath("sounds/" + file);
+    const bool canPlay = !path.isEmpty() && !Player().isEmpty();
+    return std::make_unique<PlayingFile>(canPlay ? Start(Player(), path) : 0);
+}
+
+const QString& QtSounds::Player() {
+    if (!player_) {
+        player_.emplace();
+        for (const char* player : players) {
+            *player_ = QStandardPaths::findExecutable(QLatin1String(player));
+            if (!player_->isEmpty()) {
+                break;
+            }
+        }
+    }
+    return *player_;
+}
+
+} // namespace tessarolyne

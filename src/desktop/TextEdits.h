@@ -1,0 +1,96 @@
+#pragma once
+
+#include "platform/MenuBar.h"
+#include "platform/TextControls.h"
+
+#include <QEvent>
+#include <QPalette>
+#include <QPlainTextEdit>
+#include <QString>
+#include <QWidget>
+#include <functional>
+
+class QContextMenuEvent;
+class QMenu;
+class QWidget;
+namespace tessarolyne {
+
+// The colours of `parent` with a fainter text.
+QPalette FaintPalette(const QWidget& parent);
+
+// An edit that can show its text fainter, also when the desktop's colours change. The colour of the text
+// alone is its own; that follows the desktop's, which the parent has.
+template <typename Edit>
+class Dimmable : public Edit {
+public:
+    using Edit::Edit;
+
+    void SetDimmed(bool dimmed) {
+        if (dimmed != dimmed_) {
+            dimmed_ = dimmed;
+            ReadPalette();
+        }
+    }
+
+protected:
+    void changeEvent(QEvent* event) override {
+        Edit::changeEvent(event);
+        if (event->type() == QEvent::PaletteChange) {
+            ReadPalette();
+        }
+    }
+
+private:
+    void ReadPalette() { this->setPalette(dimmed_ ? FaintPalette(*this->parentWidget()) : QPalette()); }
+
+    bool dimmed_ = false;
+};
+
+// A text of several lines whose copies hold the text alone, without the styles of the screen. Qt's own never
+// stops to drag a selection that left it in a single move of the mouse, and takes all input for that.
+class PlainEdit final : public Dimmable<QPlainTextEdit> {
+public:
+    using Dimmable::Dimmable;
+
+    // Shows the menu, which it takes, for a context menu's event; without it the menu is Qt's own.
+    std::function<void(QMenu*, const QContextMenuEvent&)> onMenu;
+
+protected:
+    void contextMenuEvent(QContextMenuEvent* event) override;
+    QMimeData* createMimeDataFromSelection() const override;
+    void mouseMoveEvent(QMouseEvent* event) override;
+};
+
+// One stretch of a text put in the place of another, in UTF-16 units.
+struct Replacement {
+    qsizetype start = 0;
+    qsizetype removed = 0;
+    QString inserted;
+};
+
+// What the user did to turn `before` into `after`, with the caret then at `caret`. Where the texts alone
+// leave it open ("1" typed among other ones), the caret decides; what was selected (from `selectionStart`)
+// counts as replaced as a whole, so that all of a pasted text is seen.
+Replacement FindReplacement(
+    const QString& before, const QString& after, qsizetype selectionStart, qsizetype caret);
+
+// Mends what Qt tells screen readers of lines of text, of widgets that lend their focus to another, and of
+// those that have something of their own to tell. Once is enough, and more does no harm.
+void MendAccess();
+
+// Keeps from screen readers what a text that hasn't the focus yet says of its caret and selection. Qt tells
+// of a move of the focus last, when the text that gets it has long placed its caret: a reader then takes that
+// for a move within the text, and never speaks where it has come.
+void TellFocusBeforeCaret();
+
+// Opens the edit's own context menu, with the control's commands at its end. Takes the menu.
+void OpenContextMenu(QMenu* menu, TextControl& control, const QContextMenuEvent& event);
+
+// The edit commands of the menu on the widget with the focus.
+// Cut, Copy, Paste, Clear and SelectAll.
+bool IsEditRole(MenuRole role);
+// Whether the command would do something there now; never without a text.
+bool CanEdit(const QWidget* target, MenuRole role);
+void Edit(QWidget* target, MenuRole role);
+
+} // namespace tessarolyne
