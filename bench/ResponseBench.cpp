@@ -166,7 +166,7 @@ private:
     void BeginTable() {
         main_.primeFile.Nbres_Premiers.Clear();
         for (const std::uint64_t prime : {2U, 3U, 5U, 7U}) {
-            static_cast<void>(main_.primeFile.Nbres_Premiers.AppendNextPrime(prime));
+            static_cast<void>(main_.primeFile.Nbres_Premiers.Append(prime));
         }
     }
 

@@ -31,7 +31,7 @@ struct Bound : TestWorld {
     void Save(LinkPolicy links = LinkPolicy::ReplaceTarget) {
         program->winChargSauvNb1ers().SaveNb1ers(links);
     }
-    Numbers Table() { return NumbersOf(Main().primeFile.Nbres_Premiers); }
+    Numbers Table() { return Entries(Main().primeFile.Nbres_Premiers); }
     std::string Content() { return files.entries[path].content; }
     std::string LastMessage() { return dialogs.asked.empty() ? "" : dialogs.asked.back().message; }
 };

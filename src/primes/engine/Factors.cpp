@@ -165,11 +165,27 @@ std::uint64_t FactorByWalk(std::uint64_t n, std::uint64_t start) {
     return divisor;
 }
 
-using Factors = std::span<const std::uint64_t>;
+// Adds the factors of n, which has none below trialEnd or is prime and below trialEnd squared.
+void Split(std::uint64_t n, std::vector<std::uint64_t>& factors) {
+    if (IsPrimeWithoutSmallFactor(n)) {
+        factors.push_back(n);
+        return;
+    }
+    std::uint64_t divisor = n;
+    for (std::uint64_t start = 2; divisor == n; ++start) {
+        divisor = FactorByWalk(n, start);
+    }
+    Split(divisor, factors);
+    Split(n / divisor, factors);
+}
 
-bool StopFor(RunControl& run, RunEnd reason) {
-    run.StopFor(reason);
-    return false;
+// At least so many primes are not above `n`, to within a thousandth for large n; 0 below the formula's range.
+// P. Dusart, "Estimates of some functions over primes without R.H." (2010): for x >= 88783,
+// pi(x) >= x/ln x (1 + 1/ln x + 2/ln^2 x).
+double LeastPrimeCount(std::uint64_t n) {
+    const auto x = static_cast<double>(n);
+    const double log = std::log(x);
+    return n < 88783 ? 0 : x / log * (1 + 1 / log + 2 / (log * log));
 }
 
 // The largest size that the table may have at the end of a timed run.
@@ -177,34 +193,25 @@ std::int32_t TimedSize(const PrimeTable& table) {
     return table.Size() + std::min(timedRunEntries, table.LargestSize() - table.Size());
 }
 
-bool GrowInTime(PrimeTable& table, std::uint64_t largest, RunControl& run) {
-    const std::int32_t withinBudget = SizeWithinBudget(table, run);
-    const std::int32_t inTime = TimedSize(table);
-    const RunEnd end = GrowConsecutive(table, largest, std::min(withinBudget, inTime), run);
-    if (end == RunEnd::TableFull) {
-        inTime <= withinBudget ? run.StopFor(RunEnd::OutOfTime) : StopForWantOfRoom(table, run);
-        return false;
-    }
-    return end == RunEnd::Finished;
-}
-
 // How far the table must reach for `factors` to be certain when it can't hold the last of them.
-std::uint64_t LeastReach(Factors factors) {
-    const std::uint64_t root = FloorSquareRoot(factors.back());
+std::uint64_t LeastReach(const std::vector<std::uint64_t>& factors) {
+    const auto root = static_cast<std::uint64_t>(std::sqrt(static_cast<double>(factors.back())));
     return factors.size() < 2 ? root : std::max(root, factors[factors.size() - 2]);
 }
 
-bool GrowAsFarAsNeeded(PrimeTable& table, Factors factors, RunControl& run) {
+// Has a table of consecutive primes reach the last factor, or as far as it has to.
+bool GrowToFactors(PrimeTable& table, const std::vector<std::uint64_t>& factors, RunControl& run) {
     const std::uint64_t largest = factors.back();
-    const std::uint64_t leastReach = LeastReach(factors);
+    const std::uint64_t leastReach = run.IsTimed() ? largest : LeastReach(factors);
     const std::int32_t withinBudget = SizeWithinBudget(table, run);
+    const bool timeEndsFirst = run.IsTimed() && TimedSize(table) <= withinBudget;
     const bool outOfReach = LeastPrimeCount(largest) > static_cast<double>(withinBudget);
     const std::uint64_t goal = outOfReach ? leastReach : largest;
     run.Aim(goal);
-    const RunEnd end = GrowConsecutive(table, goal, withinBudget, run);
+    const RunEnd end = GrowConsecutive(table, goal, timeEndsFirst ? TimedSize(table) : withinBudget, run);
     // The estimate takes some numbers for reachable that are not; the full table has passed the root by then.
     if (end == RunEnd::TableFull && table.Back() < leastReach) {
-        StopForWantOfRoom(table, run);
+        timeEndsFirst ? run.StopFor(RunEnd::OutOfTime) : StopForWantOfRoom(table, run);
         return false;
     }
     return end != RunEnd::Stopped;
@@ -212,90 +219,52 @@ bool GrowAsFarAsNeeded(PrimeTable& table, Factors factors, RunControl& run) {
 
 // Divides what the known primes leave of a number by the entries that follow them, and by new ones, until
 // nothing is left.
-class IrregularTableScan {
-public:
-    IrregularTableScan(PrimeTable& table, std::vector<std::uint64_t>& result, RunControl& run)
-        : table_(table), result_(result), run_(run), largestSize_(TimedSize(table)) {}
-
-    bool Run(Factors factors) {
-        for (const std::uint64_t factor : factors) {
-            if (factor <= table_.ConsecutiveBack()) {
-                result_.push_back(factor);
-            } else {
-                rest_ *= factor;
-            }
-        }
-        return ScanEntries() && ScanNewEntries();
-    }
-
-private:
+bool DivideByEntries(PrimeTable& table, std::vector<std::uint64_t>& factors, RunControl& run) {
     // The clock is slow beside a division, so the entries in between go without it.
-    static constexpr std::int32_t entriesPerLook = 64;
-
-    bool ScanEntries() {
-        const std::int32_t first = std::min(table_.ConsecutiveCount(), table_.UpperBound());
-        PrimeTable::Cursor entry(table_, first);
-        do {
-            if (entry.Rank() % entriesPerLook == 0 && run_.MustStop()) {
+    constexpr std::int32_t entriesPerLook = 64;
+    const std::int32_t timedSize = TimedSize(table);
+    std::uint64_t rest = 1;
+    for (; !factors.empty() && factors.back() > table.ConsecutiveBack(); factors.pop_back()) {
+        rest *= factors.back();
+    }
+    PrimeTable::Cursor entry(table, table.ConsecutiveCount());
+    for (bool isNew = false;;) {
+        if ((isNew || entry.Rank() % entriesPerLook == 0) && run.MustStop()) {
+            return false;
+        }
+        if (entry.Value() == 1) { // it would divide for ever, so it ends the run as the user would have to
+            run.StopFor(RunEnd::Stopped);
+            return false;
+        }
+        for (; entry.Value() > 1 && rest % entry.Value() == 0; rest /= entry.Value()) {
+            factors.push_back(entry.Value());
+        }
+        if (rest == 1) {
+            return true;
+        }
+        if (!entry.Next()) {
+            if (run.IsTimed() && table.Size() >= timedSize) {
+                run.StopFor(RunEnd::OutOfTime);
                 return false;
             }
-            if (!DivideOut(entry.Value())) {
-                return false;
-            }
-        } while (rest_ != 1 && entry.Next());
-        return true;
-    }
-
-    bool ScanNewEntries() {
-        while (rest_ != 1) {
-            if (run_.IsTimed() && table_.Size() >= largestSize_) {
-                return StopFor(run_, RunEnd::OutOfTime);
-            }
-            const std::uint64_t entry = NbresPremCalc(table_, 0, run_);
-            if (run_.MustStop() || !DivideOut(entry)) {
-                return false;
-            }
+            NbresPremCalc(table, 0, run);
+            entry = PrimeTable::Cursor(table, table.UpperBound());
+            isNew = true;
         }
-        return true;
     }
+}
 
-    // A 1 would divide for ever, so it ends the run as the user would have to.
-    bool DivideOut(std::uint64_t entry) {
-        if (entry == 1 && rest_ != 1) {
-            return StopFor(run_, RunEnd::Stopped);
-        }
-        while (entry > 1 && rest_ % entry == 0) {
-            result_.push_back(entry);
-            rest_ /= entry;
-        }
-        return true;
-    }
-
-    PrimeTable& table_;
-    std::vector<std::uint64_t>& result_;
-    RunControl& run_;
-    std::int32_t largestSize_; // of a timed run
-    std::uint64_t rest_ = 1;
-};
-
-bool Factorise(std::uint64_t n, PrimeTable& table, std::vector<std::uint64_t>& result, RunControl& run) {
-    const PrimeFactors primes(n);
-    const Factors factors = primes.All();
+bool Factorise(std::uint64_t n, PrimeTable& table, std::vector<std::uint64_t>& factors, RunControl& run) {
+    FindFactors(n, factors);
     const std::uint64_t largest = factors.back();
     if (!BeginTable(table, run) || !VerifyPrimes(table, largest, run)) {
         return false;
     }
-    if (table.ConsecutiveBack() < largest) {
-        run.Aim(largest);
-        if (!table.IsConsecutive()) {
-            return IrregularTableScan(table, result, run).Run(factors);
-        }
-        if (!(run.IsTimed() ? GrowInTime(table, largest, run) : GrowAsFarAsNeeded(table, factors, run))) {
-            return false;
-        }
+    if (table.ConsecutiveBack() >= largest) {
+        return true;
     }
-    result.assign(factors.begin(), factors.end());
-    return true;
+    run.Aim(largest);
+    return table.IsConsecutive() ? GrowToFactors(table, factors, run) : DivideByEntries(table, factors, run);
 }
 
 } // namespace
@@ -312,59 +281,22 @@ bool IsPrime(std::uint64_t n) {
     return n > 1 && IsPrimeWithoutSmallFactor(n);
 }
 
-std::uint64_t FloorSquareRoot(std::uint64_t n) {
-    // The floating-point root can be off by one on either side above 2^53, and its square can pass 2^64.
-    constexpr std::uint64_t largestRoot = 4294967295;
-    auto root = std::min(static_cast<std::uint64_t>(std::sqrt(static_cast<double>(n))), largestRoot);
-    while (root * root > n) {
-        --root;
-    }
-    while (root < largestRoot && (root + 1) * (root + 1) <= n) {
-        ++root;
-    }
-    return root;
-}
-
-double LeastPrimeCount(std::uint64_t n) {
-    if (n < 88783) {
-        return 0;
-    }
-    const auto x = static_cast<double>(n);
-    const double log = std::log(x);
-    return x / log * (1 + 1 / log + 2 / (log * log));
-}
-
-PrimeFactors::PrimeFactors(std::uint64_t n) {
-    for (int twos = std::countr_zero(n); twos > 0; --twos) {
-        Add(2);
-        n /= 2;
+void FindFactors(std::uint64_t n, std::vector<std::uint64_t>& factors) {
+    for (; n % 2 == 0; n /= 2) {
+        factors.push_back(2);
     }
     for (const std::uint64_t prime : trialDivisors) {
         for (; n % prime == 0; n /= prime) {
-            Add(prime);
+            factors.push_back(prime);
         }
         if (prime * prime > n) {
             break;
         }
     }
     if (n > 1) {
-        Split(n);
-        std::sort(factors_.begin(), factors_.begin() + static_cast<std::ptrdiff_t>(count_));
+        Split(n, factors);
+        std::sort(factors.begin(), factors.end());
     }
-}
-
-// Adds the factors of n, which has none below trialEnd or is prime and below trialEnd squared.
-void PrimeFactors::Split(std::uint64_t n) {
-    if (IsPrimeWithoutSmallFactor(n)) {
-        Add(n);
-        return;
-    }
-    std::uint64_t divisor = n;
-    for (std::uint64_t start = 2; divisor == n; ++start) {
-        divisor = FactorByWalk(n, start);
-    }
-    Split(divisor);
-    Split(n / divisor);
 }
 
 void DecompPremCalc(

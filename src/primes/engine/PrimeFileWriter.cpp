@@ -7,8 +7,6 @@
 #include <cstdlib>
 #include <cstring>
 #include <memory>
-#include <span>
-#include <string>
 
 namespace tessarolyne {
 
@@ -16,12 +14,9 @@ namespace {
 
 // More than a file keeps back, so that it is written at once.
 constexpr std::size_t bufferSize = std::size_t{320} * 1024;
-constexpr std::size_t burstSize = 256;
-constexpr std::size_t longestNumber = 20;
-constexpr std::size_t burstRoom = burstSize * (longestNumber + 1) + 16;
+constexpr std::size_t roomForNumber = 32; // what is copied at once ends behind the number
 
 constexpr std::uint64_t lowEnd = 1000; // one step of the leading digits
-constexpr std::uint64_t exactEnd = std::uint64_t{1} << 53U;
 
 // "000\t" to "999\t".
 using LowDigits = std::array<std::array<char, 4>, lowEnd>;
@@ -34,132 +29,39 @@ constexpr LowDigits lowDigits = [] {
     return table;
 }();
 
-// A number in a file has the exactness of a double.
-char* PutNumber(char* out, std::uint64_t value) {
-    if (value < exactEnd) {
-        return std::to_chars(out, out + longestNumber, value).ptr;
-    }
-    const std::string text = Format(static_cast<double>(value), plainMask);
-    return std::copy(text.begin(), text.end(), out);
-}
-
-// Turns numbers into text. Of one number to the next only the last three digits change, but for one in some
-// fifty: so the others are kept as text and copied, and the three come from a table.
+// Of one number to the next only the last three digits change, but for one in some fifty: so the others are
+// kept as text and copied, and the three come from a table. A number in a file has the exactness of a double,
+// and one that isn't exact is written as it is, like one that has no other digits.
 class NumberText {
 public:
-    NumberText(OutputFile& file, PrimeFileProgress& progress, std::int64_t lineLength)
-        : file_(file), progress_(progress), lineLength_(lineLength), leftInLine_(lineLength) {}
-
-    // Each number with what parts it from the next. At most burstSize numbers.
-    void Append(std::span<const std::uint64_t> numbers);
-    // Ends the line of the last number.
-    void EndLine() { buffer_[used_ - 1] = '\n'; }
-    void Append(std::string_view text);
-    void Flush();
+    // Writes the number and a tab, and gives the place behind it.
+    char* Put(char* out, std::uint64_t value) {
+        if (value - base_ >= span_) {
+            Lead(value);
+        }
+        if (span_ == 0) {
+            const std::string text = Format(static_cast<double>(value), plainMask) + '\t';
+            return std::copy(text.begin(), text.end(), out);
+        }
+        std::memcpy(out, leading_.data(), leading_.size());
+        out += leadingSize_;
+        std::memcpy(out, lowDigits[static_cast<std::size_t>(value - base_)].data(), 4);
+        return out + 4;
+    }
 
 private:
-    using Leading = std::array<char, 16>;
-
-    void MakeRoom() {
-        if (used_ + burstRoom > bufferSize) {
-            Flush();
-        }
+    void Lead(std::uint64_t value) {
+        constexpr std::uint64_t exactEnd = (std::uint64_t{1} << 53U) - lowEnd;
+        span_ = value >= lowEnd && value < exactEnd ? lowEnd : 0;
+        base_ = value - value % lowEnd;
+        const auto end = std::to_chars(leading_.begin(), leading_.end(), value / lowEnd).ptr;
+        leadingSize_ = static_cast<std::size_t>(end - leading_.begin());
     }
-    std::uint64_t LeadWith(std::uint64_t value);
 
-    OutputFile& file_;
-    PrimeFileProgress& progress_;
-    const std::int64_t lineLength_;
-    std::int64_t leftInLine_;
-    // Not zeroed: a short table touches only what it fills.
-    std::unique_ptr<char[]> buffer_ = std::make_unique_for_overwrite<char[]>(bufferSize);
-    std::size_t used_ = 0;
-    Leading leading_{};
+    std::array<char, 16> leading_{};
     std::size_t leadingSize_ = 0;
     std::uint64_t base_ = 0;
     std::uint64_t span_ = 0; // numbers from base_ on that have these leading digits
-};
-
-// Gives the span, 0 for numbers that have no leading digits, or too many.
-std::uint64_t NumberText::LeadWith(std::uint64_t value) {
-    constexpr std::uint64_t end = 1'000'000'000'000'000;
-    span_ = 0;
-    if (value < lowEnd || value >= end) {
-        return 0;
-    }
-    base_ = value - value % lowEnd;
-    span_ = lowEnd;
-    const auto written = std::to_chars(leading_.data(), leading_.data() + leading_.size(), value / lowEnd);
-    leadingSize_ = static_cast<std::size_t>(written.ptr - leading_.data());
-    return span_;
-}
-
-void NumberText::Append(std::span<const std::uint64_t> numbers) {
-    MakeRoom();
-    char* out = buffer_.get() + used_;
-    // Copies, which the characters written can't be suspected to change.
-    Leading leading = leading_;
-    std::size_t leadingSize = leadingSize_;
-    std::uint64_t base = base_;
-    std::uint64_t span = span_;
-    std::int64_t left = leftInLine_;
-    for (const std::uint64_t value : numbers) {
-        if (value - base >= span) {
-            span = LeadWith(value);
-            leading = leading_;
-            leadingSize = leadingSize_;
-            base = base_;
-        }
-        if (span != 0) {
-            std::memcpy(out, leading.data(), leading.size());
-            out += leadingSize;
-            std::memcpy(out, lowDigits[static_cast<std::size_t>(value - base)].data(), 4);
-            out += 4;
-        } else {
-            out = PutNumber(out, value);
-            *out++ = '\t';
-        }
-        if (--left == 0) {
-            out[-1] = '\n';
-            left = lineLength_;
-        }
-    }
-    leftInLine_ = left;
-    used_ = static_cast<std::size_t>(out - buffer_.get());
-}
-
-void NumberText::Append(std::string_view text) {
-    Flush();
-    file_.Write(text);
-}
-
-void NumberText::Flush() {
-    if (used_ > 0) {
-        file_.Write(std::string_view(buffer_.get(), used_));
-        used_ = 0;
-        progress_.Work();
-    }
-}
-
-// Tells of indexes as they are passed.
-class Milestones {
-public:
-    Milestones(std::int64_t maximum, PrimeFileProgress& progress)
-        : progress_(progress), step_(std::max<std::int64_t>(ProgressStep(maximum), 1)), next_(step_) {}
-
-    // How many numbers, with the one at `index` the first, lead up to the next milestone, it included.
-    std::size_t Distance(std::int64_t index) const { return static_cast<std::size_t>(next_ - index + 1); }
-    void Written(std::int64_t index) {
-        if (index == next_) {
-            progress_.Reach(index);
-            next_ += step_;
-        }
-    }
-
-private:
-    PrimeFileProgress& progress_;
-    std::int64_t step_;
-    std::int64_t next_;
 };
 
 } // namespace
@@ -171,27 +73,38 @@ std::int64_t ProgressStep(std::int64_t maximum) {
 
 void WritePrimeFile(const PrimeTable& table, std::string_view label, int perLine, OutputFile& file,
     PrimeFileProgress& progress) {
-    const std::int32_t count = table.Size();
+    const std::int64_t count = table.Size();
     progress.Expect(count);
-    NumberText text(file, progress, perLine != 0 ? std::abs(std::int64_t{perLine}) : std::max(count, 1));
-    text.Append(std::string(label) + " : " + Str(count) + "\n");
-    Milestones milestones(count, progress);
-    std::array<std::uint64_t, 16 * burstSize> numbers{};
-    for (std::int32_t index = 0; index < count;) {
-        std::span<const std::uint64_t> rest(
-            numbers.data(), static_cast<std::size_t>(table.CopyTo(index, numbers)));
-        while (!rest.empty()) {
-            const std::size_t burst = std::min({rest.size(), burstSize, milestones.Distance(index)});
-            text.Append(rest.first(burst));
-            rest = rest.subspan(burst);
-            index += static_cast<std::int32_t>(burst);
-            if (index == count) {
-                text.EndLine();
-            }
-            milestones.Written(index - 1);
-        }
+    file.Write(std::string(label) + " : " + Str(count) + "\n");
+    if (count == 0) {
+        return;
     }
-    text.Flush();
+    const std::int64_t step = std::max<std::int64_t>(ProgressStep(count), 1);
+    const std::int64_t lineLength = perLine != 0 ? std::abs(std::int64_t{perLine}) : count;
+    std::int64_t nextStep = step;
+    std::int64_t lineEnd = std::min(lineLength, count) - 1; // the index of its last number
+    // Not zeroed: a short table touches only what it fills.
+    const auto buffer = std::make_unique_for_overwrite<char[]>(bufferSize);
+    char* out = buffer.get();
+    NumberText text;
+    PrimeTable::Cursor number(table, 0);
+    do {
+        const std::int64_t index = number.Rank();
+        out = text.Put(out, number.Value());
+        if (index == lineEnd) {
+            out[-1] = '\n';
+            lineEnd = std::min(lineEnd + lineLength, count - 1);
+        }
+        if (out + roomForNumber > buffer.get() + bufferSize || index == count - 1) {
+            file.Write({buffer.get(), out});
+            out = buffer.get();
+            progress.Work();
+        }
+        if (index == nextStep) {
+            progress.Reach(index);
+            nextStep += step;
+        }
+    } while (number.Next());
 }
 
 } // namespace tessarolyne

@@ -33,8 +33,8 @@ bool VerifyPrimes(PrimeTable& table, std::uint64_t upTo, RunControl& run);
 RunEnd GrowConsecutive(PrimeTable& table, std::uint64_t end, std::int32_t largestSize, RunControl& run);
 
 // Stops a run for which the table has no more room, for that of the two reasons that holds: its greatest size
-// or the memory.
-void StopForWantOfRoom(const PrimeTable& table, RunControl& run);
+// or the memory. Gives RunEnd::Stopped.
+RunEnd StopForWantOfRoom(const PrimeTable& table, RunControl& run);
 
 // The largest size that the run's memory budget and the ranks allow the table.
 std::int32_t SizeWithinBudget(const PrimeTable& table, RunControl& run);

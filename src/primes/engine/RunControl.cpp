@@ -15,11 +15,12 @@ bool RunControl::MustStop() {
     return true;
 }
 
-void RunControl::StopFor(RunEnd reason) {
+RunEnd RunControl::StopFor(RunEnd reason) {
     if (end_ == RunEnd::Finished) {
         end_ = stopFlag_.load(std::memory_order_acquire) ? RunEnd::Stopped : reason;
     }
     stopFlag_.store(true, std::memory_order_release);
+    return RunEnd::Stopped;
 }
 
 std::uint64_t RunControl::ByteCeiling(std::uint64_t bytesNow) {

@@ -37,8 +37,8 @@ public:
     // True when the calculation has to end now. Raises the flag itself when the time is spent.
     bool MustStop();
 
-    // Raises the flag for `reason`; the first reason stays.
-    void StopFor(RunEnd reason);
+    // Raises the flag for `reason`; the first reason stays. Gives RunEnd::Stopped.
+    RunEnd StopFor(RunEnd reason);
 
     // Tells who looks on, by the `goal` that the object was made with, which number the table has to reach.
     void Aim(std::uint64_t goal) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Numbers.h"
+#include "primes/RunFixture.h"
 #include "primes/engine/PrimeFile.h"
 #include "support/MemoryFileSystem.h"
 
@@ -71,18 +72,12 @@ public:
     std::vector<std::int64_t> reached;
 };
 
-inline std::vector<std::uint64_t> NumbersOf(const PrimeTable& table) {
-    std::vector<std::uint64_t> numbers(static_cast<std::size_t>(table.Size()));
-    table.CopyTo(0, numbers);
-    return numbers;
-}
-
 inline PrimeFileReading ReadQuickly(const std::string& bytes, std::size_t chunkSize) {
     MemoryInputFile file(bytes);
     PrimeTable table;
     RecordingProgress progress;
     ReadPrimeFile(file, table, progress, UINT64_MAX, chunkSize);
-    return {NumbersOf(table), progress.maximum, progress.reached};
+    return {Entries(table), progress.maximum, progress.reached};
 }
 
 // Keeps what is written.

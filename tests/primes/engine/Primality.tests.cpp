@@ -41,25 +41,14 @@ TEST_CASE("The factors are primes, rise, and make up the number") {
         numbers.push_back(1 + (random() >> (1 + random() % 62)));
     }
     for (const std::uint64_t n : numbers) {
-        const PrimeFactors factors(n);
+        std::vector<std::uint64_t> factors;
+        FindFactors(n, factors);
         std::uint64_t product = 1;
-        for (const std::uint64_t factor : factors.All()) {
+        for (const std::uint64_t factor : factors) {
             product *= factor;
         }
         REQUIRE(product == n);
-        REQUIRE(std::is_sorted(factors.All().begin(), factors.All().end()));
-        REQUIRE(std::all_of(factors.All().begin(), factors.All().end(), IsPrime));
-    }
-    CHECK(PrimeFactors(1).All().empty());
-}
-
-TEST_CASE("The whole root of a number is right beside every square") {
-    std::mt19937_64 random(5);
-    for (int i = 0; i < 20'000; ++i) {
-        const std::uint64_t root =
-            i < 4 ? 0xFFFFFFFF - static_cast<std::uint64_t>(i) : 1 + random() % 0xFFFFFFFF;
-        REQUIRE(FloorSquareRoot(root * root) == root);
-        REQUIRE(FloorSquareRoot(root * root - 1) == root - 1);
-        REQUIRE(FloorSquareRoot(root * root + 2 * root) == root);
+        REQUIRE(std::is_sorted(factors.begin(), factors.end()));
+        REQUIRE(std::all_of(factors.begin(), factors.end(), IsPrime));
     }
 }

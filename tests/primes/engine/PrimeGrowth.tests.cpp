@@ -92,7 +92,8 @@ TEST_CASE("Round 2^32, and where the ranks end, the primes are right") {
         while (!IsPrime(prime)) {
             --prime;
         }
-        REQUIRE(table.AppendNextPrime(prime));
+        REQUIRE(table.Append(prime));
+        table.NoteConsecutive(table.Size());
         std::int32_t rank = table.UpperBound();
         CHECK(GrowConsecutive(table, around + 400'001, PrimeTable::maxSize, run.untimed) == RunEnd::Finished);
         for (std::uint64_t n = prime; n <= around + 400'001; ++n) {
