@@ -94,7 +94,7 @@ bool LastRank() {
         static_cast<unsigned long long>(table.Back()), seconds, static_cast<double>(table.Bytes()) / 1e6);
     return Keeps("2 147 483 647 entries, the last one 50 685 770 143",
         table.Size() == PrimeTable::maxSize && table.Back() == 50'685'770'143 &&
-            run.control.End() == RunEnd::OutOfMemory);
+            run.control.End() == RunEnd::TableFull);
 }
 
 } // namespace
