@@ -1,5 +1,5 @@
 #include "app/PreferencesFile.h"
-#include "fuzz/Damage.h"
+#include "fuzz/Fuzz.h"
 #include "platform/FolderItem.h"
 #include "support/MemoryFileSystem.h"
 

@@ -1,5 +1,5 @@
 #include "app/VersionFile.h"
-#include "fuzz/Damage.h"
+#include "fuzz/Fuzz.h"
 
 #include <doctest/doctest.h>
 

@@ -1,6 +1,6 @@
 // Any bytes whatever as a server's answer: a page is made of its bytes, and whole before the end only if it
 // stays the same whatever comes behind it.
-#include "fuzz/Must.h"
+#include "fuzz/Fuzz.h"
 #include "platform/Http.h"
 
 using namespace tessarolyne;

@@ -1,7 +1,7 @@
 // Any bytes whatever as a preferences file: what is read stays within its types and limits, doesn't depend on
 // the kind of line ending, and comes back from the file that is written of it.
 #include "app/PreferencesFile.h"
-#include "fuzz/Must.h"
+#include "fuzz/Fuzz.h"
 #include "platform/Text.h"
 
 using namespace tessarolyne;

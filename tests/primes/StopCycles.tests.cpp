@@ -47,8 +47,7 @@ TEST_CASE("Runs that are stopped at any moment leave the table as one that grew 
             window.EditFieldNbre.Text = goal;
             window.decomposition.DecompPremDeb(true);
         }
-        for (auto yields = random() % 8; yields > 0 || table.Back() < reach;
-             yields -= yields > 0 ? 1 : 0) {
+        for (auto yields = random() % 8; yields > 0 || table.Back() < reach; yields -= yields > 0 ? 1 : 0) {
             std::this_thread::yield();
         }
         REQUIRE(list.UserPressedKey(Chr(27)));

@@ -1,7 +1,7 @@
 #include "primes/WinChargSauvNb1ers.h"
 
 #include "platform/FolderItem.h"
-#include "primes/engine/PlainPrimeFile.h"
+#include "primes/RunFixture.h"
 #include "support/TestWorld.h"
 #include "ui/Localisation.h"
 

@@ -1,8 +1,6 @@
 #include "primes/engine/Factors.h"
 
 #include "primes/RunFixture.h"
-#include "primes/engine/PrimeGrowth.h"
-#include "primes/engine/Reference.h"
 
 #include <doctest/doctest.h>
 
@@ -24,22 +22,54 @@ Numbers Factor(std::uint64_t n, PrimeTable& table, RunControl& run) {
 
 } // namespace
 
-TEST_CASE("Factors and the table's end are those of dividing by entry after entry") {
-    for (std::uint64_t n = 0; n < 3000; ++n) {
-        Numbers expectedTable = {2, 3, 5, 7};
-        const Numbers expected = Reference::DecompPremCalc(n, expectedTable, 1'000'000'000);
-        TableOf table;
-        RunFixture run;
-        REQUIRE(Factor(n, table, n % 2 == 0 ? run.timed : run.untimed) == expected);
-        REQUIRE(Entries(table) == expectedTable);
+TEST_CASE("Primes are told from all other numbers") {
+    const auto primes = Reference::Primes(1'000'000);
+    auto next = primes.begin();
+    for (std::uint64_t n = 0; n <= primes.back(); ++n) {
+        REQUIRE(IsPrime(n) == (*next == n));
+        next += *next == n ? 1 : 0;
     }
+    // Strong pseudoprimes to the first bases (OEIS A014233), and to 2, 13 and 23.
+    for (const std::uint64_t n : {2047ULL, 1373653ULL, 25326001ULL, 3215031751ULL, 2152302898747ULL,
+             3474749660383ULL, 341550071728321ULL, 3825123056546413051ULL, 1122004669633ULL}) {
+        CHECK_FALSE(IsPrime(n));
+    }
+    // And primes, some of them beside those or beside the ends of types.
+    for (const std::uint64_t n : {999'999'999'989ULL, 50'685'770'143ULL, 4'294'967'291ULL, 4'294'967'311ULL,
+             9'223'372'036'854'775'783ULL, 18'446'744'073'709'551'557ULL}) {
+        CHECK(IsPrime(n));
+    }
+}
+
+TEST_CASE("The factors are primes, rise, and make up the number") {
+    std::mt19937_64 random(4);
+    Numbers numbers = {999'983ULL * 999'983, 2147483647ULL * 2147483629, 521ULL * 521 * 521,
+        4294967291ULL * 2147483647, 9223372036854775807ULL};
+    for (int i = 0; i < 3000; ++i) {
+        numbers.push_back(1 + random() % 999'999'999'999);
+        numbers.push_back(1 + (random() >> (1 + random() % 62)));
+    }
+    for (std::uint64_t n : numbers) {
+        Numbers factors;
+        FindFactors(n, factors);
+        REQUIRE(std::is_sorted(factors.begin(), factors.end()));
+        for (const std::uint64_t factor : factors) {
+            REQUIRE((IsPrime(factor) && n % factor == 0));
+            n /= factor;
+        }
+        REQUIRE(n == 1);
+    }
+}
+
+TEST_CASE("Factors and the table's end are those of dividing by entry after entry") {
     std::mt19937_64 random(7);
     TableOf table;
     Numbers expectedTable = {2, 3, 5, 7};
     RunFixture run;
-    for (int i = 0; i < 300; ++i) {
-        const std::uint64_t n = (1 + random() % 30'000) * (1 + random() % 3000);
-        REQUIRE(Factor(n, table, run.untimed) == Reference::DecompPremCalc(n, expectedTable, 1'000'000'000));
+    for (std::uint64_t i = 0; i < 3300; ++i) {
+        const std::uint64_t n = i < 3000 ? i : (1 + random() % 30'000) * (1 + random() % 3000);
+        RunControl& control = i % 2 == 0 ? run.timed : run.untimed;
+        REQUIRE(Factor(n, table, control) == Reference::DecompPremCalc(n, expectedTable, 1'000'000'000));
         REQUIRE(table.Back() == expectedTable.back());
     }
     CHECK(Entries(table) == expectedTable);
@@ -49,44 +79,39 @@ TEST_CASE("Factors and the table's end are those of dividing by entry after entr
 }
 
 TEST_CASE("Without a time limit every number is answered, a far factor by its root") {
-    RunFixture run(forEver, 8'000'000);
-    TableOf first;
-    CHECK(Factor(999'999'999'989, first, run.untimed) == Numbers{999'999'999'989});
-    CHECK(first.Back() == 999'983);
-    TableOf second;
-    CHECK(Factor(999'999'999'958, second, run.untimed) == Numbers{2, 499'999'999'979});
-    CHECK(second.Back() == 707'099); // the last prime below the root
-    // About at the budget of 4 MB, where an estimate alone can't tell.
-    for (std::uint64_t near : {64'000'031U, 66'000'049U, 68'000'069U, 70'000'027U, 75'000'007U}) {
-        while (!IsPrime(near)) {
-            near += 2;
-        }
+    const struct {
+        Numbers factors;
+        std::uint64_t reach; // 0: wherever the budget of 4 MB ends, about which an estimate alone can't tell
+    } rows[] = {{{999'999'999'989}, 999'983}, {{2, 499'999'999'979}, 707'099}, {{64'000'031}, 0},
+        {{66'000'049}, 0}, {{68'000'077}, 0}, {{70'000'027}, 0}, {{75'000'007}, 0}};
+    for (const auto& row : rows) {
         TableOf table;
-        RunFixture budget(forEver, 8'000'000);
-        CHECK(Factor(near, table, budget.untimed) == Numbers{near});
-        CHECK_FALSE(budget.ArretUrg);
+        RunFixture run(forEver, 8'000'000);
+        std::uint64_t n = 1;
+        for (const std::uint64_t factor : row.factors) {
+            n *= factor;
+        }
+        CHECK(Factor(n, table, run.untimed) == row.factors);
+        CHECK((row.reach == 0 || table.Back() == row.reach));
+        CHECK_FALSE(run.ArretUrg);
     }
-    CHECK_FALSE(run.ArretUrg);
-    TableOf third;
+    TableOf table;
     RunFixture tiny(forEver, 0); // not even the root
-    CHECK(Factor(999'999'999'989, third, tiny.untimed) == none);
+    CHECK(Factor(999'999'999'989, table, tiny.untimed) == none);
     CHECK(tiny.untimed.End() == RunEnd::OutOfMemory);
     CHECK(tiny.ArretUrg);
 }
 
 TEST_CASE("With a time limit a number adds a fixed number of entries, and goes further when it comes again") {
     TableOf table;
-    Numbers factors = none;
     for (int again = 0; again < 3; ++again) {
         const std::int32_t size = table.Size();
         RunFixture run;
-        factors = Factor(2 * 49'999'991, table, run.timed);
-        REQUIRE(run.ArretUrg == (again < 2));
-        REQUIRE(run.timed.End() == (again < 2 ? RunEnd::OutOfTime : RunEnd::Finished));
-        REQUIRE((factors != none || table.Size() == size + timedRunEntries));
+        const bool reached = again == 2;
+        REQUIRE(Factor(2 * 49'999'991, table, run.timed) == (reached ? Numbers{2, 49'999'991} : none));
+        REQUIRE(run.timed.End() == (reached ? RunEnd::Finished : RunEnd::OutOfTime));
+        REQUIRE((reached ? table.Back() == 49'999'991 : table.Size() == size + timedRunEntries));
     }
-    CHECK(factors == Numbers{2, 49'999'991});
-    CHECK(table.Back() == 49'999'991);
 }
 
 TEST_CASE("A stop leaves no factors, and what the table has gained") {
@@ -98,18 +123,14 @@ TEST_CASE("A stop leaves no factors, and what the table has gained") {
         RunFixture again;
         CHECK(Factor(6 * 9'999'991ULL, table, again.untimed) == Numbers{2, 3, 9'999'991});
         CHECK(table.Back() == 9'999'991);
+        again.ArretUrg = true;
+        CHECK(Factor(2, table, again.untimed) == none);
+        CHECK(again.untimed.End() == RunEnd::Stopped);
     }
-    TableOf table;
-    RunFixture run;
-    run.ArretUrg = true;
-    CHECK(Factor(2, table, run.untimed) == none);
-    CHECK(run.untimed.End() == RunEnd::Stopped);
 }
 
 TEST_CASE("A table that a file made odd is divided by as it stands") {
-    const std::vector<Numbers> tables = {{2, 3, 5, 7, 1'000'003}, {2, 3, 5, 7, 11, 13, 9},
-        {2, 3, 5, 7, 121, 11, 169, 13}, {2, 3, 5, 7, 3}, {2, 3, 5, 7, 8}, {2, 3, 5, 7, 13, 11}};
-    for (const Numbers& odd : tables) {
+    for (const Numbers& odd : Reference::oddTables) {
         for (std::uint64_t n = 2; n < 400; ++n) {
             Numbers expectedTable = odd;
             const Numbers expected = Reference::DecompPremCalc(n, expectedTable, 20'000);
@@ -121,8 +142,7 @@ TEST_CASE("A table that a file made odd is divided by as it stands") {
     }
     TableOf table({2, 3, 5, 7, 1});
     RunFixture run;
+    CHECK(Factor(21, table, run.untimed) == Numbers{3, 7});
     CHECK(Factor(22, table, run.untimed) == none); // a 1 would divide for ever
     CHECK(run.ArretUrg);
-    RunFixture other;
-    CHECK(Factor(21, table, other.untimed) == Numbers{3, 7});
 }

@@ -59,17 +59,11 @@ inline PrimeFileReading ReadPlainly(std::string bytes) {
     return reading;
 }
 
-// Remembers what it is told since the last count.
-class RecordingProgress final : public PrimeFileProgress {
-public:
-    void Expect(std::int64_t value) override {
-        maximum = value;
-        reached.clear();
-    }
-    void Reach(std::int64_t index) override { reached.push_back(index); }
-
-    std::int64_t maximum = -1;
-    std::vector<std::int64_t> reached;
+// Remembers what it is told.
+struct RecordingProgress final : PrimeFileProgress {
+    void Expect(std::int64_t maximum) override { reading.maximum = maximum; }
+    void Reach(std::int64_t index) override { reading.reached.push_back(index); }
+    PrimeFileReading reading;
 };
 
 inline PrimeFileReading ReadQuickly(const std::string& bytes, std::size_t chunkSize) {
@@ -77,12 +71,12 @@ inline PrimeFileReading ReadQuickly(const std::string& bytes, std::size_t chunkS
     PrimeTable table;
     RecordingProgress progress;
     ReadPrimeFile(file, table, progress, UINT64_MAX, chunkSize);
-    return {Entries(table), progress.maximum, progress.reached};
+    progress.reading.numbers = Entries(table);
+    return progress.reading;
 }
 
 // Keeps what is written.
-class TextFile final : public OutputFile {
-public:
+struct TextFile final : OutputFile {
     void Write(std::string_view bytes) override { text += bytes; }
     void Commit() override {}
     std::string text;

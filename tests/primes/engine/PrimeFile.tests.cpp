@@ -1,11 +1,7 @@
-#include "platform/FolderItem.h"
-#include "primes/RunFixture.h"
+#include "fuzz/Fuzz.h"
 #include "primes/engine/PlainPrimeFile.h"
-#include "primes/engine/Reference.h"
 
 #include <doctest/doctest.h>
-
-#include <utility>
 
 using namespace tessarolyne;
 using namespace tessarolyne::tests;
@@ -16,22 +12,8 @@ using Reference::Numbers;
 using Reference::Primes;
 
 std::string WrittenNumbers(const Numbers& numbers, int perLine) {
-    PrimeTable table;
-    REQUIRE(AppendAll(table, numbers));
-    return Written(table, perLine);
+    return Written(TableOf(numbers), perLine);
 }
-
-struct BreakingFile final : InputFile {
-    bool broken = false;
-    FileStamp Stamp() const override { return {}; }
-    std::size_t Read(std::span<char> bytes) override {
-        if (std::exchange(broken, true)) {
-            throw IOException("the disk is gone");
-        }
-        std::fill(bytes.begin(), bytes.end(), '3');
-        return bytes.size();
-    }
-};
 
 } // namespace
 
@@ -76,28 +58,44 @@ TEST_CASE("A file that others wrote gives the numbers that it holds") {
     }
 }
 
-TEST_CASE("Whatever ends the reading early is reported") {
-    RecordingProgress progress;
-    BreakingFile breaking;
-    PrimeTable table;
-    CHECK_THROWS_AS(ReadPrimeFile(breaking, table, progress), IOException);
+TEST_CASE("Any bytes whatever give the numbers that a plain reader finds in them") {
+    // Rows as the program writes them: numbers that rise by small even gaps, of any length.
+    const auto rows = [](Random& random) {
+        std::string text = random() % 2 == 0 ? "x : 1000\n" : "";
+        std::uint64_t number = 1;
+        for (auto digits = random() % 15; digits > 0; --digits) {
+            number = number * 10 + random() % 10;
+        }
+        for (auto count = 1 + random() % 60; count > 0; --count) {
+            text += std::to_string(number) + (count % 7 == 0 ? '\n' : '\t');
+            number += 2 * (random() % 40);
+        }
+        return text;
+    };
+    RunOnDamaged(rows,
+        {"\r", "\n", "\r\n", "\t", "\t\t", " : ", " :", ": ", "\xEF\xBB\xBF", "-", "+", ".", " ", "e", "e5",
+            "E-3", "0", "00000000", "999999999999", "99999999999999999999", "9007199254740993", "0.0000001e9",
+            std::string(1, '\0'), "x", "1000003\t1000033\t1000037\t1000039\t1000081\t1000099\t", "/",
+            "10000000001\t10000000003\t"},
+        10'000);
+}
 
+TEST_CASE("A reading ends where the memory or the table does") {
+    PrimeFileProgress nobody;
     std::string text;
     for (int i = 0; i < 100'000; ++i) {
         text += i % 2 == 0 ? "9\t" : "999999\t";
     }
-    MemoryInputFile first(text);
-    CHECK_THROWS_AS(ReadPrimeFile(first, table, progress, 100'000, 4096), IOException);
+    PrimeTable table;
+    MemoryInputFile limited(text);
+    CHECK_THROWS_AS(ReadPrimeFile(limited, table, nobody, 100'000, 4096), IOException);
     CHECK(table.Bytes() < 600'000);
-
-    for (const int allocations : {0, 1, 4}) {
-        ShortMemory memory(allocations);
-        PrimeTable poor(&memory);
-        MemoryInputFile second(text);
-        CHECK_THROWS_AS(ReadPrimeFile(second, poor, progress), IOException);
-        ShortMemory memoryForPrimes(allocations);
-        PrimeTable poorInPrimes(&memoryForPrimes);
-        MemoryInputFile third(WrittenNumbers(Primes(7'000'000), 10));
-        CHECK_THROWS_AS(ReadPrimeFile(third, poorInPrimes, progress), IOException);
+    for (const std::string& bytes : {text, WrittenNumbers(Primes(7'000'000), 10)}) {
+        for (const int allocations : {0, 1, 3}) {
+            ShortMemory memory(allocations);
+            PrimeTable poor(&memory);
+            MemoryInputFile file(bytes);
+            CHECK_THROWS_AS(ReadPrimeFile(file, poor, nobody), IOException);
+        }
     }
 }

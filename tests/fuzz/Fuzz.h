@@ -1,13 +1,24 @@
 #pragma once
 
-#include "fuzz/Must.h"
-
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
 #include <functional>
 #include <random>
 #include <string>
 #include <vector>
 
+extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+
 namespace tessarolyne::tests {
+
+// Ends a fuzz target's run, and says why.
+inline void Must(bool holds, const char* what) {
+    if (!holds) {
+        std::fprintf(stderr, "does not hold: %s\n", what);
+        std::abort();
+    }
+}
 
 using Random = std::mt19937;
 
