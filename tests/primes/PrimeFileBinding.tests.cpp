@@ -1,3 +1,7 @@
+#include "primes/WinChargSauvNb1ers.h"
+
+#include "platform/FolderItem.h"
+#include "primes/RunFixture.h"
 #include "primes/WinNbresPremiers.h"
 #include "support/TestWorld.h"
 #include "ui/Localisation.h"
@@ -6,22 +10,48 @@
 
 using namespace tessarolyne;
 using namespace tessarolyne::tests;
+using enum DialogButton;
 
 namespace {
 
+using Numbers = std::vector<std::uint64_t>;
+
 const std::string path = "/home/user/primes.txt";
 const std::string sixPrimes = "2\t3\t5\t7\t11\t13\n";
+const Numbers firstFour{2, 3, 5, 7};
+const Numbers found{2, 3, 5, 7, 11, 13};
+const std::string foundText = "Nombre de Nombres Premiers : 6\n" + sixPrimes;
 
-struct Binding : TestWorld {
-    explicit Binding(bool bound) {
-        files.AddFile(path, sixPrimes);
+// A program with four primes beside a file of these bytes, which it hasn't read.
+struct World : TestWorld {
+    explicit World(const std::string& bytes) { files.AddFile(path, bytes); }
+    std::optional<FolderItem>& BoundFile() { return program->app.FichNbPrems; }
+    Numbers Table() { return Entries(Main().primeFile.Nbres_Premiers); }
+    std::string Content() { return files.entries[path].content; }
+    std::string LastMessage() { return dialogs.asked.empty() ? "" : dialogs.asked.back().message; }
+};
+
+// One that is bound to the file, and has found two primes more.
+struct Bound : World {
+    explicit Bound(const std::string& bytes) : World(bytes) {
+        BoundFile() = files.At(path);
+        Find();
+    }
+    void Find() { Main().calculation.NbresPremCalc(13, false); }
+    void Load() { program->winChargSauvNb1ers().LoadNb1ers(); }
+    void Save(LinkPolicy links = LinkPolicy::ReplaceTarget) {
+        program->winChargSauvNb1ers().SaveNb1ers(links);
+    }
+};
+
+// One whose list shows the button of the file.
+struct WithButton : World {
+    explicit WithButton(bool bound) : World(sixPrimes) {
         if (bound) {
-            Bound() = files.At(path);
+            BoundFile() = files.At(path);
         }
         Main().BevelButtonListe.UserPressed();
     }
-
-    std::optional<FolderItem>& Bound() { return program->app.FichNbPrems; }
     std::string Caption() { return program->winNbresPremiers().PushButtonFichier.Caption; }
     // A chooser gives that path, or is cancelled without one.
     void Click(bool option, bool shift, const std::string& chosen) {
@@ -34,7 +64,201 @@ struct Binding : TestWorld {
     }
 };
 
+// A place that takes everything and then has no room for it.
+struct FullDisk final : MemoryFileSystem {
+    std::unique_ptr<OutputFile> CreateSafely(const std::string&, LinkPolicy) override {
+        struct Full final : OutputFile {
+            void Write(std::string_view) override {}
+            void Commit() override { throw IOException("no space left"); }
+        };
+        return std::make_unique<Full>();
+    }
+};
+
 } // namespace
+
+TEST_CASE("A file of primes becomes the table; any other leaves it, and is named before it is replaced") {
+    const struct {
+        std::string bytes;
+        Numbers numbers;
+        std::optional<DialogButton> answer = {};
+    } rows[] = {{"x : 5\n2\t3\t5\t7\t11\n", {2, 3, 5, 7, 11}}, {"x : 0\n2\t3\t5\t7\n", firstFour},
+        {"2\t3\t5\t7\t1\t1\t6\n", {2, 3, 5, 7, 1, 1, 6}}, {"", found}, {"\r\n \t\n", found},
+        {"Nombre : 25\n", found}, {"\xEF\xBB\xBFNombre : 25", found}, {"Dear Anne\nyours\n", found, Action},
+        {"Dear Anne\nyours\n", found, Cancel}, {"Dear Anne\nyours\n", found, None},
+        {"Dear Anne : hello", found, Cancel}, {"4\n", found, Action}, {"2\t3\t5\n", found, Cancel},
+        {"2\t3 : 5\n7\t11\t13\t17\n", found, Cancel}, {std::string(9, '\0'), found, Cancel}};
+    for (const auto& [bytes, numbers, answer] : rows) {
+        CAPTURE(bytes);
+        Bound world(bytes);
+        if (answer) {
+            world.dialogs.Expect(*answer, [&] { CHECK(world.Table() == found); });
+        }
+        world.Load();
+        const bool isKnown = numbers != found || answer == Action;
+        CHECK(world.Table() == numbers);
+        CHECK(world.Main().primeFile.Nb_NbrePcharg == (isKnown ? numbers.size() : 0));
+        CHECK(world.BoundFile().has_value() == (answer != Cancel));
+        CHECK(world.Content() == (answer == Action ? foundText : bytes));
+        CHECK(world.LastMessage() == (answer ? Localisation::Txt_CeFichContPasNb1er() : ""));
+        CHECK(world.sounds.beeps == (answer ? 1 : 0));
+    }
+}
+
+TEST_CASE(
+    "After a load that failed nothing is offered or saved until more is found, and then with a warning") {
+    using Fault = std::function<void(Bound&, MemoryFileSystem::Entry&)>;
+    const std::string fewer = "2\t3\t5\t7\t11\n";
+    int faults = 0;
+    for (const Fault& fault : {Fault([](auto&, auto&file) { file.kind = FileKind::Folder; }),
+             Fault([](auto&, auto&file) { file.kind = FileKind::Unknown; }), // its folder can't be searched
+             Fault([](auto&world, auto&) { world.files.unreadable.insert(path); }),
+             Fault([](auto&world, auto&) { world.memory.available = 0; }),
+             Fault([](auto&, auto&file) { file.claimedSize = std::uint64_t{2'147'483'647} * 13 + 5000; })}) {
+        CAPTURE(faults);
+        ++faults;
+        const auto fail = [&](Bound& world) {
+            fault(world, world.files.entries[path]);
+            world.dialogs.Expect(Action, [&] { CHECK_FALSE(world.program->fncts.DrapMenu); });
+            world.Load();
+        };
+        Bound atStart(fewer);
+        atStart.Main().primeFile.Nbres_Premiers.Clear();
+        fail(atStart);
+        CHECK(atStart.Table() == firstFour);
+        CHECK(atStart.BoundFile().has_value());
+        CHECK(atStart.LastMessage() ==
+              (faults == 5 ? Localisation::Txt_FichTropGrand() : Localisation::Txt_ErreurLectFich()));
+        CHECK(atStart.dialogs.asked[0].icon == 1);
+        CHECK(atStart.sounds.beeps == 1);
+        atStart.Main().UserClosed(); // asks nothing
+        atStart.loop.Advance(50);
+        CHECK(atStart.loop.IsQuitting());
+
+        Bound later(fewer);
+        fail(later);
+        CHECK(later.Table() == found);
+        later.dialogs.Expect(Alternate);
+        later.Main().UserClosed();
+        CHECK(later.LastMessage().starts_with("Il y a 2 nouveaux"));
+        CHECK(later.dialogs.asked.back().explanation == Localisation::Txt_CeciEffSonCont());
+        later.program->EndWithoutAsking();
+        CHECK(later.Content() == fewer);
+    }
+    Bound gone("");
+    gone.files.AddLink(path, "/home/user/gone.txt");
+    gone.Load();
+    CHECK(gone.BoundFile().has_value());
+}
+
+TEST_CASE("While it works the window is drawn, holds the commands and can't be closed") {
+    Bound world("x : 500\n" + sixPrimes);
+    for (const bool saving : {false, true}) {
+        WinChargSauvNb1ers& window = world.program->winChargSauvNb1ers();
+        int drawn = 0;
+        const Connection connection = window.DrawNow.Connect([&] {
+            ++drawn;
+            CHECK_FALSE(world.program->fncts.DrapMenu);
+            window.UserClosed();
+            CHECK_FALSE(window.IsClosed());
+        });
+        saving ? window.SaveNb1ers() : window.LoadNb1ers();
+        CHECK(drawn == (saving ? 5 : 6));
+        CHECK(window.IsClosed());
+        CHECK(world.program->fncts.DrapMenu);
+    }
+}
+
+TEST_CASE("A load at the start shows nothing, unless it lasts, and then leaves the keyboard where it is") {
+    for (const bool lasts : {false, true}) {
+        Bound world("x : 500\n" + sixPrimes);
+        CHECK(world.stage.Count<WinChargSauvNb1ers>() == 0); // from the start with no file
+        const std::int64_t start = world.loop.Ticks();
+        {
+            const QuietShowing quiet(world.program->app);
+            WinChargSauvNb1ers& window = world.program->winChargSauvNb1ers();
+            const Connection connection = window.DrawNow.Connect([&] {
+                world.loop.Advance(lasts ? 20 : 0);
+                CHECK_FALSE((window.Visible() && window.TakesKeyboard()));
+            });
+            window.LoadNb1ers();
+        }
+        CHECK((world.loop.Ticks() == start) != lasts);
+        CHECK(world.stage.Count<WinChargSauvNb1ers>() == (lasts ? 1 : 0));
+        CHECK(world.Table() == found);
+    }
+}
+
+TEST_CASE("A save writes the table in the user's line length, to a link's target or in the link's place") {
+    for (const LinkPolicy links : {LinkPolicy::ReplaceTarget, LinkPolicy::ReplaceLink}) {
+        Bound world("");
+        const std::string far = "/home/user/far.txt";
+        world.files.AddFile(far);
+        world.files.AddLink(path, far);
+        world.Main().primeFile.NbreNbPparLigne = 4;
+        world.Save(links);
+        const bool stays = links == LinkPolicy::ReplaceTarget;
+        CHECK(world.files.entries[stays ? far : path].content ==
+              "Nombre de Nombres Premiers : 6\n2\t3\t5\t7\n11\t13\n");
+        CHECK((world.files.entries[path].kind == FileKind::Link) == stays);
+        CHECK(world.Main().primeFile.Nb_NbrePcharg == 6);
+    }
+}
+
+TEST_CASE("A file that changed since it was seen is replaced only if nothing is lost by it") {
+    const std::string more = "2\t3\t5\t7\t11\t13\t17\n";
+    const std::string fewer = "2\t3\t5\t7\t11\n";
+    const struct {
+        std::string now;
+        bool isQuiet;
+        std::string content;
+        std::string message; // none: nothing is said
+    } rows[] = {{more, false, more, Localisation::Txt_FichAPlusDeNb1ers()}, {more, true, more, ""},
+        {fewer, false, foundText, ""}, {fewer, true, foundText, ""}, {"", false, foundText, ""},
+        {"Dear Anne", true, "Dear Anne", ""},
+        {"Dear Anne", false, foundText, Localisation::Txt_CeFichContPasNb1er()}};
+    for (const auto& file : rows) {
+        CAPTURE(file.now);
+        Bound world("2\t3\t5\t7\n");
+        world.Load();
+        world.Find();
+        world.files.AddFile(path, file.now);
+        if (!file.message.empty()) {
+            world.dialogs.Expect(Action);
+        }
+        file.isQuiet ? world.program->EndWithoutAsking() : world.Save();
+        CHECK(world.LastMessage() == file.message);
+        CHECK(world.Content() == file.content);
+        CHECK((world.Main().primeFile.Nb_NbrePcharg == 6 || file.isQuiet));
+    }
+    Bound own("2\t3\t5\t7\n"); // what was saved is seen, too
+    own.Load();
+    own.Find();
+    own.Save();
+    own.Main().primeFile.Nbres_Premiers.Clear();
+    own.Save();
+    CHECK(own.Content() == "Nombre de Nombres Premiers : 0\n");
+}
+
+TEST_CASE("A failed save says so with three beeps and leaves table and file as they were") {
+    Bound world("2\t3\t5\t7\n");
+    FullDisk full;
+    world.files.unwritable.insert(path);
+    int beeps = 0;
+    for (const std::optional<FolderItem>& item :
+        {world.BoundFile(), std::optional(full.At(path)), std::optional<FolderItem>()}) {
+        world.BoundFile() = item;
+        world.dialogs.Expect(Action);
+        world.Save();
+        CHECK(world.LastMessage() == Localisation::Txt_ErreurEcritFich());
+        CHECK(world.dialogs.asked.back().icon == 1);
+        CHECK(world.sounds.beeps == (beeps += 3));
+        CHECK(world.Table() == found);
+        CHECK(world.Main().primeFile.Nb_NbrePcharg == 6);
+        CHECK(world.program->fncts.DrapMenu);
+    }
+    CHECK(world.Content() == "2\t3\t5\t7\n");
+}
 
 TEST_CASE("The binding, Option and Shift decide what a click does") {
     for (int keys = 0; keys < 8; ++keys) {
@@ -42,19 +266,19 @@ TEST_CASE("The binding, Option and Shift decide what a click does") {
         const bool option = (keys & 2) != 0;
         const bool shift = (keys & 4) != 0;
         CAPTURE(keys);
-        Binding world(bound);
+        WithButton world(bound);
         const bool load = bound != shift;
         const std::string chosen = load ? path : "/home/user/new.txt";
         world.Click(option, shift, chosen);
         if (option) {
             CHECK(world.desktop.opened.size() == (bound ? 1U : 0U));
             CHECK(world.sounds.beeps == (bound ? 0 : 1));
-            CHECK(world.Bound().has_value() == bound);
+            CHECK(world.BoundFile().has_value() == bound);
             continue;
         }
         CHECK(world.dialogs.fileDialogs.back().prompt ==
               (load ? Localisation::Txt_SelectFichierNbPrem() : Localisation::Txt_SelectDossSauv()));
-        CHECK(world.Bound() == world.files.At(chosen));
+        CHECK(world.BoundFile() == world.files.At(chosen));
         CHECK(world.Caption() == "Changer Fichier");
         CHECK(world.Main().primeFile.Nbres_Premiers.Back() == (load ? 13 : 7));
         CHECK(world.files.entries.at(chosen).content.starts_with(load ? "2\t3" : "Nombre de"));
@@ -62,34 +286,34 @@ TEST_CASE("The binding, Option and Shift decide what a click does") {
 }
 
 TEST_CASE("A cancelled chooser asks what becomes of a bound file, and is silent without one") {
-    Binding unbound(true);
+    WithButton unbound(true);
     unbound.files.entries.erase(path); // as good as none
     unbound.Click(false, false, path);
     CHECK(unbound.files.entries.at(path).content.starts_with("Nombre de Nombres Premiers : 4\n"));
-    unbound.Bound().reset();
+    unbound.BoundFile().reset();
     unbound.Click(false, true, "");
     CHECK(unbound.dialogs.asked.empty());
 
-    for (const DialogButton answer : {DialogButton::Action, DialogButton::Cancel, DialogButton::None}) {
-        Binding world(true);
+    for (const DialogButton answer : {Action, Cancel, None}) {
+        WithButton world(true);
         world.dialogs.Expect(answer);
         world.Click(false, false, "");
-        CHECK(world.Bound().has_value() == (answer != DialogButton::Cancel));
-        CHECK(world.Caption() == (answer == DialogButton::Cancel ? "Sauver Fichier" : "Changer Fichier"));
+        CHECK(world.BoundFile().has_value() == (answer != Cancel));
+        CHECK(world.Caption() == (answer == Cancel ? "Sauver Fichier" : "Changer Fichier"));
         CHECK(world.Main().primeFile.Nbres_Premiers.Back() == 7);
     }
 }
 
 TEST_CASE(
     "A file that can't be replaced, or found again at the next start, is told and counts as cancelled") {
-    Binding locked(false);
+    WithButton locked(false);
     locked.files.unwritable.insert(path);
-    locked.dialogs.Expect(DialogButton::Action);
+    locked.dialogs.Expect(Action);
     locked.Click(false, false, path);
     CHECK(locked.dialogs.asked.at(0).message == "Remplacement impossible !");
-    CHECK_FALSE(locked.Bound().has_value());
-    Binding fewer(true); // never read, and holds six primes to the table's four
-    fewer.dialogs.Expect(DialogButton::Action);
+    CHECK_FALSE(locked.BoundFile().has_value());
+    WithButton fewer(true); // never read, and holds six primes to the table's four
+    fewer.dialogs.Expect(Action);
     fewer.Click(false, true, path);
     CHECK(fewer.dialogs.asked.at(0).message == Localisation::Txt_FichAPlusDeNb1ers());
     CHECK(fewer.files.entries.at(path).content == sixPrimes);
@@ -97,13 +321,13 @@ TEST_CASE(
     for (const bool load : {false, true}) {
         for (const char* name :
             {"/home/user/two\nlines.txt", "/home/user/two\rlines/primes.txt", "/home/user/link"}) {
-            Binding world(false);
+            WithButton world(false);
             world.files.AddFile("/home/user/two\nlines.txt", sixPrimes);
             world.files.AddLink("/home/user/link", "/home/user/two\nlines.txt");
-            world.dialogs.Expect(DialogButton::Action);
+            world.dialogs.Expect(Action);
             world.Click(false, load, name);
             CHECK(world.dialogs.asked.at(0).message == Localisation::Txt_FichNomSurLignes());
-            CHECK_FALSE(world.Bound().has_value());
+            CHECK_FALSE(world.BoundFile().has_value());
             CHECK(world.files.entries.at("/home/user/two\nlines.txt").content == sixPrimes);
         }
     }
