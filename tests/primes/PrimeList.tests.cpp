@@ -34,17 +34,14 @@ struct OpenList {
 TEST_CASE("A range is cut to 2000 primes at the end that the Return key chooses, and to the table") {
     OpenList open(104729); // 10,000 primes
     CHECK(open.Range() == "1-2000");
-    const struct {
-        const char* first;
-        const char* last;
-        bool returnInFirst;
-        const char* shown;
-    } rows[] = {{"5000", "1", true, "5000-6999"}, {"1", "9000", false, "7001-9000"},
-        {"1", "9000", true, "1-2000"}, {"20000", "1", true, "8001-10000"}, {"1", "", false, "8001-10000"},
-        {"9500", "99999", true, "9500-10000"}, {"10000000000000000000", "1e30", true, "8001-10000"},
-        {"-5", "-9223372036854775809", true, "1-2000"}, {"3 000", "3 010", true, "3000-3010"}};
-    for (const auto& entered : rows) {
-        CHECK(open.Show(entered.first, entered.last, entered.returnInFirst) == entered.shown);
+    // What is entered, whether Return is pressed in the first field, and what is shown.
+    const std::tuple<const char*, const char*, bool, const char*> rows[] = {{"5000", "1", true, "5000-6999"},
+        {"1", "9000", false, "7001-9000"}, {"1", "9000", true, "1-2000"}, {"20000", "1", true, "8001-10000"},
+        {"1", "", false, "8001-10000"}, {"9500", "99999", true, "9500-10000"},
+        {"10000000000000000000", "1e30", true, "8001-10000"}, {"-5", "-9223372036854775809", true, "1-2000"},
+        {"3 000", "3 010", true, "3000-3010"}};
+    for (const auto& [first, last, returnInFirst, shown] : rows) {
+        CHECK(open.Show(first, last, returnInFirst) == shown);
     }
     OpenList many(10000);
     CHECK(many.Show("1219", "0", false) == "1219-1229");
@@ -107,30 +104,25 @@ TEST_CASE(
     "Ctrl+F goes to a value and tells its rank or its neighbours, on the screen and to screen readers") {
     OpenList open(104729);
     WinNbresPremiers& list = open.List();
-    const struct {
-        const char* value;
-        const char* selected;
-        const char* label;
-        const char* said;
-        const char* range;
-    } rows[] = {
+    // The value, what is selected, the label, what is said, and the range.
+    const std::array<const char*, 5> rows[] = {
         {"104723", "104723", "104 723 (n° 9 999)", "104 723 (n° 9 999)", "8999-10000"},
         {"90000", "90001", "89 989 (n° 8 713) < 90 000 < 90 001 (n° 8 714)",
             "90 000 n'est pas premier. Voisins : 89 989 (n° 8 713), 90 001 (n° 8 714)", "7714-9713"},
         {"0", "2", "0 < 2 (n° 1)", "0 n'est pas premier. Voisins : 2 (n° 1)", "1-2000"},
         {"104730", "2", "0 < 2 (n° 1)", "Au-delà de la liste, qui va jusqu'à 104 729", "1-2000"},
     };
-    for (const auto& row : rows) {
-        CAPTURE(row.value);
+    for (const auto& [value, selected, label, said, range] : rows) {
+        CAPTURE(value);
         list.UserPressedShortcut(list.Shortcuts().front());
         CHECK(list.EditFieldChercher.HasFocus());
-        open.world.Type(list.EditFieldChercher, row.value);
+        open.world.Type(list.EditFieldChercher, value);
         CHECK(list.EditFieldChercher.UserPressedKey(Chr(13)));
         const TextArea& area = list.TxtAreaListeNbres1ers;
-        CHECK(Mid(area.Text, area.SelStart + 1, area.SelLength) == row.selected);
-        CHECK(list.StaticTextNbNbre1ers.Text() == row.label);
-        CHECK(open.world.announcer.said.back() == row.said);
-        CHECK(open.Range() == row.range);
+        CHECK(Mid(area.Text, area.SelStart + 1, area.SelLength) == selected);
+        CHECK(list.StaticTextNbNbre1ers.Text() == label);
+        CHECK(open.world.announcer.said.back() == said);
+        CHECK(open.Range() == range);
         CHECK(list.EditFieldChercher.Visible() == !list.StaticTextNbNbre1ers.Visible());
     }
     CHECK(list.EditFieldChercher.UserPressedKey(Chr(27)));

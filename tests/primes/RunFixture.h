@@ -14,35 +14,22 @@
 
 namespace tessarolyne {
 
-// Stands still until it has been asked `looksUntilLate` times; from then on it is past every time limit.
-class CountingClock final : public Clock {
-public:
-    explicit CountingClock(std::int64_t looksUntilLate = std::numeric_limits<std::int64_t>::max())
-        : left_(looksUntilLate) {}
-    std::int64_t Milliseconds() const override { return left_-- > 0 ? 0 : 1'000'000; }
+constexpr std::int64_t forEver = std::numeric_limits<std::int64_t>::max();
+
+// Everything a calculation needs, with nothing that ends it unless a test says so. The clock stands still
+// until it has been asked `looks` times; from then on it is past every time limit.
+struct RunFixture final : Clock, MemoryLimits {
+    explicit RunFixture(std::int64_t looks = forEver, std::uint64_t availableBytes = std::uint64_t{4} << 30)
+        : left(looks), available(availableBytes) {}
+    std::int64_t Milliseconds() const override { return left-- > 0 ? 0 : 1'000'000; }
     Date Now() const override { return {}; }
+    std::uint64_t AvailableBytes() const override { return available; }
 
-private:
-    mutable std::int64_t left_;
-};
-
-struct FixedMemory final : MemoryLimits {
-    explicit FixedMemory(std::uint64_t available) : bytes(available) {}
-    std::uint64_t AvailableBytes() const override { return bytes; }
-    const std::uint64_t bytes;
-};
-
-// Everything a calculation needs, with nothing that ends it unless a test says so.
-struct RunFixture {
-    explicit RunFixture(std::int64_t looks = std::numeric_limits<std::int64_t>::max(),
-        std::uint64_t availableBytes = std::uint64_t{4} << 30)
-        : clock(looks), memory(availableBytes) {}
-
+    mutable std::int64_t left;
+    const std::uint64_t available;
     std::atomic<bool> ArretUrg = false;
-    CountingClock clock;
-    FixedMemory memory;
-    RunControl untimed{ArretUrg, clock, memory};
-    RunControl timed{ArretUrg, clock, memory, 30};
+    RunControl untimed{ArretUrg, *this, *this};
+    RunControl timed{ArretUrg, *this, *this, 30};
 };
 
 // Refuses memory after a number of allocations.

@@ -11,7 +11,6 @@ using Reference::Numbers;
 
 namespace {
 
-constexpr std::int64_t forEver = std::numeric_limits<std::int64_t>::max();
 const Numbers none = {0};
 
 Numbers Factor(std::uint64_t n, PrimeTable& table, RunControl& run) {
@@ -104,6 +103,10 @@ TEST_CASE("Without a time limit every number is answered, a far factor by its ro
 
 TEST_CASE("With a time limit a number adds a fixed number of entries, and goes further when it comes again") {
     TableOf table;
+    RunFixture stopped;
+    stopped.ArretUrg = true;
+    CHECK(Factor(2, table, stopped.untimed) == none);
+    CHECK(stopped.untimed.End() == RunEnd::Stopped);
     for (int again = 0; again < 3; ++again) {
         const std::int32_t size = table.Size();
         RunFixture run;
@@ -111,21 +114,6 @@ TEST_CASE("With a time limit a number adds a fixed number of entries, and goes f
         REQUIRE(Factor(2 * 49'999'991, table, run.timed) == (reached ? Numbers{2, 49'999'991} : none));
         REQUIRE(run.timed.End() == (reached ? RunEnd::Finished : RunEnd::OutOfTime));
         REQUIRE((reached ? table.Back() == 49'999'991 : table.Size() == size + timedRunEntries));
-    }
-}
-
-TEST_CASE("A stop leaves no factors, and what the table has gained") {
-    for (std::int64_t looks = 0; looks < 40; ++looks) {
-        TableOf table;
-        RunFixture run(looks);
-        const Numbers factors = Factor(6 * 9'999'991ULL, table, run.timed);
-        CHECK(factors == (run.ArretUrg ? none : Numbers{2, 3, 9'999'991}));
-        RunFixture again;
-        CHECK(Factor(6 * 9'999'991ULL, table, again.untimed) == Numbers{2, 3, 9'999'991});
-        CHECK(table.Back() == 9'999'991);
-        again.ArretUrg = true;
-        CHECK(Factor(2, table, again.untimed) == none);
-        CHECK(again.untimed.End() == RunEnd::Stopped);
     }
 }
 

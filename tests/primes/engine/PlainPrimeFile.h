@@ -75,18 +75,13 @@ inline PrimeFileReading ReadQuickly(const std::string& bytes, std::size_t chunkS
     return progress.reading;
 }
 
-// Keeps what is written.
-struct TextFile final : OutputFile {
-    void Write(std::string_view bytes) override { text += bytes; }
-    void Commit() override {}
-    std::string text;
-};
-
 inline std::string Written(const PrimeTable& table, int perLine) {
-    TextFile file;
+    MemoryFileSystem files;
     PrimeFileProgress nobody;
-    WritePrimeFile(table, "Label", perLine, file, nobody);
-    return file.text;
+    const auto file = files.CreateSafely("/file", LinkPolicy::ReplaceTarget);
+    WritePrimeFile(table, "Label", perLine, *file, nobody);
+    file->Commit();
+    return files.entries["/file"].content;
 }
 
 } // namespace tessarolyne::tests

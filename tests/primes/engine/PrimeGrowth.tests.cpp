@@ -12,8 +12,6 @@ using Reference::Numbers;
 
 namespace {
 
-constexpr std::int64_t forEver = std::numeric_limits<std::int64_t>::max();
-
 const Numbers firstFour = {2, 3, 5, 7};
 
 // Grows a table of `start` to each limit in turn, by the routine and by the slow way.
