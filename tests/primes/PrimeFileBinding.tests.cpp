@@ -64,17 +64,6 @@ struct WithButton : World {
     }
 };
 
-// A place that takes everything and then has no room for it.
-struct FullDisk final : MemoryFileSystem {
-    std::unique_ptr<OutputFile> CreateSafely(const std::string&, LinkPolicy) override {
-        struct Full final : OutputFile {
-            void Write(std::string_view) override {}
-            void Commit() override { throw IOException("no space left"); }
-        };
-        return std::make_unique<Full>();
-    }
-};
-
 } // namespace
 
 TEST_CASE("A file of primes becomes the table; any other leaves it, and is named before it is replaced") {
@@ -242,17 +231,17 @@ TEST_CASE("A file that changed since it was seen is replaced only if nothing is 
 
 TEST_CASE("A failed save says so with three beeps and leaves table and file as they were") {
     Bound world("2\t3\t5\t7\n");
-    FullDisk full;
-    world.files.unwritable.insert(path);
-    int beeps = 0;
-    for (const std::optional<FolderItem>& item :
-        {world.BoundFile(), std::optional(full.At(path)), std::optional<FolderItem>()}) {
-        world.BoundFile() = item;
+    for (int fault = 0; fault < 3; ++fault) {
+        world.files.isFull = fault == 0;
+        world.files.unwritable = {fault == 1 ? path : ""};
+        if (fault == 2) {
+            world.BoundFile().reset();
+        }
         world.dialogs.Expect(Action);
         world.Save();
         CHECK(world.LastMessage() == Localisation::Txt_ErreurEcritFich());
         CHECK(world.dialogs.asked.back().icon == 1);
-        CHECK(world.sounds.beeps == (beeps += 3));
+        CHECK(world.sounds.beeps == 3 * (fault + 1));
         CHECK(world.Table() == found);
         CHECK(world.Main().primeFile.Nb_NbrePcharg == 6);
         CHECK(world.program->fncts.DrapMenu);

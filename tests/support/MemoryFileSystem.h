@@ -45,6 +45,7 @@ public:
     std::set<std::string> unreadable;
     std::set<std::string> unwritable;
     std::set<std::string> packages;
+    bool isFull = false; // which only the end of a save finds out
     std::vector<std::string> swept;
 
     FolderItem At(std::string_view path) { return FolderItem::FromNativePath(*this, path).value(); }
@@ -122,7 +123,12 @@ private:
     public:
         Output(MemoryFileSystem& files, std::string path) : files_(files), path_(std::move(path)) {}
         void Write(std::string_view bytes) override { content_ += bytes; }
-        void Commit() override { files_.AddFile(path_, content_); }
+        void Commit() override {
+            if (files_.isFull) {
+                throw IOException("commit " + path_);
+            }
+            files_.AddFile(path_, content_);
+        }
 
     private:
         MemoryFileSystem& files_;

@@ -12,18 +12,16 @@ namespace {
 
 // A sequence in which stretches like a table of primes alternate with everything a file may hold.
 std::vector<std::uint64_t> AnySequence(std::mt19937_64& random, std::size_t size) {
-    std::vector<std::uint64_t> values;
+    std::vector<std::uint64_t> values(size);
     std::uint64_t value = random() % 100;
-    while (values.size() < size) {
-        const std::uint64_t kind = random() % 12;
-        for (std::uint64_t left = random() % 40'000; left > 0 && values.size() < size; --left) {
-            const std::uint64_t next[] = {random(), random() % 2,
-                value + random() % 4,                    // repeated ones and odd gaps
-                (value | 1) + 500 + 2 * (random() % 10), // round the widest gap that fits a byte
-                (value | 1) + 2 * (random() % 256)};
-            value = next[std::min<std::uint64_t>(kind, 4)];
-            values.push_back(value);
-        }
+    std::uint64_t kind = 4;
+    for (std::uint64_t& entry : values) {
+        kind = random() % 10'000 == 0 ? random() % 12 : kind;
+        const std::uint64_t next[] = {random(), random() % 2,
+            value + random() % 4,                    // repeated ones and odd gaps
+            (value | 1) + 500 + 2 * (random() % 10), // round the widest gap that fits a byte
+            (value | 1) + 2 * (random() % 256)};
+        entry = value = next[std::min<std::uint64_t>(kind, 4)];
     }
     return values;
 }
