@@ -1,6 +1,5 @@
 #include "primes/engine/BlockSieve.h"
 
-#include <algorithm>
 #include <cstring>
 #include <type_traits>
 #include <utility>
@@ -16,7 +15,7 @@ template <unsigned Class, unsigned Cofactor>
 struct StrikeProduct {
     static constexpr unsigned residue = Wheel30::residues[Class];
     static constexpr unsigned cofactor = Wheel30::residues[Cofactor];
-    static constexpr unsigned step = Wheel30::steps[Cofactor];
+    static constexpr unsigned step = (Cofactor == 7 ? 31 : Wheel30::residues[(Cofactor + 1) % 8]) - cofactor;
     static constexpr unsigned carry = residue * (cofactor + step) / 30 - residue * cofactor / 30;
     static constexpr auto keep =
         static_cast<std::uint8_t>(~(1U << Wheel30::BitOf(std::uint64_t{residue} * cofactor)));
@@ -26,17 +25,6 @@ struct StrikeProduct {
         return quotient * (cofactor - 1) + residue * cofactor / 30;
     }
 };
-
-template <unsigned Class, unsigned Cofactor>
-inline bool StrikeOnce(std::uint8_t* bytes, std::uint32_t size, std::uint32_t quotient, std::uint32_t& at) {
-    using Here = StrikeProduct<Class, Cofactor>;
-    if (at >= size) {
-        return false;
-    }
-    bytes[at] &= Here::keep;
-    at += quotient * Here::step + Here::carry;
-    return true;
-}
 
 // Strikes from the product at byte `at` with cofactor bit `cofactor` to the end of the stretch; gives the
 // cofactor bit of the first product behind it and leaves its byte in `at`. Whole turns of the wheel, eight
@@ -52,8 +40,17 @@ inline unsigned StrikeFrom(std::integer_sequence<unsigned, Bits...>, unsigned co
                 ...);
         }
         const auto strike = [&]<unsigned Bit>(std::integral_constant<unsigned, Bit>) {
+            using Product = StrikeProduct<Class, Bit>;
             behind = Bit;
-            return Bit < cofactor || StrikeOnce<Class, Bit>(bytes, size, quotient, at);
+            if (Bit < cofactor) {
+                return true;
+            }
+            if (at >= size) {
+                return false;
+            }
+            bytes[at] &= Product::keep;
+            at += quotient * Product::step + Product::carry;
+            return true;
         };
         if (!(strike(std::integral_constant<unsigned, Bits>()) && ...)) {
             return behind;
@@ -78,16 +75,13 @@ using Sixteen = std::uint8_t __attribute__((vector_size(16)));
 
 // The multiples of the primes from 7 to 163, and these primes, struck out by copying: such a pattern repeats
 // after as many bytes as the product of its primes, so 16 patterns of two or three primes each are laid over
-// the map.
-struct Pattern {
-    std::size_t period;
-    std::vector<std::uint8_t> bytes; // the period, and one stretch more, so that no stretch wraps round
-};
+// the map, each the period and one stretch more, so that no stretch wraps round.
+using Pattern = std::vector<std::uint8_t>;
 constexpr std::size_t stretchBytes = 1024;
 // Patterns that are laid at once; more pointers than that leave the registers.
 constexpr std::size_t layers = 8;
 
-void StrikeAll(std::vector<std::uint8_t>& bytes, std::size_t prime) {
+void StrikeAll(Pattern& bytes, std::size_t prime) {
     for (std::size_t k = 0; k < 8; ++k) {
         std::size_t at = 0;
         while ((30 * at + Wheel30::residues[k]) % prime != 0) {
@@ -107,12 +101,10 @@ std::vector<Pattern> MakePatterns() {
         {79, 109, 1}, {83, 107, 1}, {89, 103, 1}, {97, 101, 1}};
     std::vector<Pattern> patterns;
     for (const auto& [first, second, third] : groups) {
-        const std::size_t period = first * second * third;
-        Pattern& pattern = patterns.emplace_back(
-            Pattern{period, std::vector<std::uint8_t>(period + stretchBytes, std::uint8_t{0xFF})});
+        Pattern& pattern = patterns.emplace_back(first * second * third + stretchBytes, std::uint8_t{0xFF});
         for (const std::size_t prime : {first, second, third}) {
             if (prime > 1) {
-                StrikeAll(pattern.bytes, prime);
+                StrikeAll(pattern, prime);
             }
         }
     }
@@ -142,7 +134,7 @@ void PreSieve(std::uint8_t* bytes, std::size_t size, std::uint64_t firstByte) {
     for (std::size_t done = 0; done < size; done += stretchBytes) {
         std::array<const std::uint8_t*, layers> from{};
         for (std::size_t i = 0; i < patterns.size(); ++i) {
-            from[i % layers] = patterns[i].bytes.data() + (firstByte + done) % patterns[i].period;
+            from[i % layers] = patterns[i].data() + (firstByte + done) % (patterns[i].size() - stretchBytes);
             if ((i + 1) % layers == 0) {
                 Lay(bytes + done, from, i >= layers);
             }

@@ -20,7 +20,7 @@ class PrimeFileProgress {
 public:
     virtual ~PrimeFileProgress() = default;
 
-    // How many numbers are expected. Once; twice if a first line of many megabytes turns out to be a header.
+    // How many numbers are expected. Once.
     virtual void Expect([[maybe_unused]] std::int64_t maximum) {}
     // The number with this index, from 0, was written or is about to be taken into the table.
     virtual void Reach([[maybe_unused]] std::int64_t index) {}
@@ -62,15 +62,12 @@ public:
 // Replaces the table by the numbers of the file. A line ends with CR, LF or CRLF; a byte order mark at the
 // start is passed over. A first line that contains " : " is a header, whose count only tells what to expect.
 // The number of a field is its Val, truncated and held within 64 bits; 0 drops the rest of the line. Reaches
-// every index that is a multiple of the step, for a step of 0 only the first. Takes memory for one chunk, of
-// at least 3 bytes, beside the table. Throws IOException, also when the table takes no more numbers or has
+// every index that is a multiple of the step, for a step of 0 only the first. Takes memory for one chunk
+// beside the table. Throws IOException, also when the table takes no more numbers or has
 // more than `mostBytes` bytes, or ReadingStopped; the table then holds what was read.
 PrimeFileContent ReadPrimeFile(InputFile& file, PrimeTable& table, PrimeFileProgress& progress,
     std::uint64_t mostBytes = std::numeric_limits<std::uint64_t>::max(),
     std::size_t chunkSize = std::size_t{256} * 1024);
-
-// Whether these are 2, 3, 5, 7.
-bool BeginsWithFirstPrimes(const PrimeTable& table);
 
 // What the program knows of the content of the prime file that it is bound to. Not its place, which the
 // application keeps as a setting.

@@ -195,6 +195,25 @@ std::string_view Reader::Take(std::string_view text) {
     return {at, end};
 }
 
+bool BeginsWithFirstPrimes(const PrimeTable& table) {
+    return table.Size() >= 4 && table[0] == 2 && table[1] == 3 && table[2] == 5 && table[3] == 7;
+}
+
+// Ends the reading once it has been decided.
+class Comparison final : public PrimeFileProgress {
+public:
+    Comparison(const PrimeTable& inFile, const PrimeTable& table, PrimeFileProgress& progress)
+        : inFile_(inFile), table_(table), progress_(progress) {}
+
+    void Work() override { progress_.Work(); }
+    bool MustStop() override { return inFile_.Size() > table_.Size(); }
+
+private:
+    const PrimeTable& inFile_;
+    const PrimeTable& table_;
+    PrimeFileProgress& progress_;
+};
+
 } // namespace
 
 PrimeFileContent ReadPrimeFile(InputFile& file, PrimeTable& table, PrimeFileProgress& progress,
@@ -226,8 +245,27 @@ PrimeFileContent ReadPrimeFile(InputFile& file, PrimeTable& table, PrimeFileProg
                                         : PrimeFileContent::Nothing;
 }
 
-bool BeginsWithFirstPrimes(const PrimeTable& table) {
-    return table.Size() >= 4 && table[0] == 2 && table[1] == 3 && table[2] == 5 && table[3] == 7;
+UnseenContent LookBeforeSaving(const FolderItem& item, const BoundFile& known, const PrimeTable& table,
+    std::uint64_t mostBytes, PrimeFileProgress& progress) {
+    const auto stamp = item.Stamp();
+    if (!stamp || stamp == known.seen) {
+        return UnseenContent::None;
+    }
+    PrimeTable inFile;
+    Comparison comparison(inFile, table, progress);
+    auto content = PrimeFileContent::Other;
+    try {
+        const auto file = item.Files().OpenForReading(item.NativePath());
+        content = ReadPrimeFile(*file, inFile, comparison, mostBytes);
+    } catch (const ReadingStopped&) {
+        content = BeginsWithFirstPrimes(inFile) ? PrimeFileContent::Primes : PrimeFileContent::Other;
+    } catch (const std::exception&) {
+        return UnseenContent::Unreadable;
+    }
+    if (content == PrimeFileContent::Other) {
+        return UnseenContent::Other;
+    }
+    return inFile.Size() > table.Size() ? UnseenContent::MorePrimes : UnseenContent::None;
 }
 
 } // namespace tessarolyne

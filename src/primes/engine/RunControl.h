@@ -35,10 +35,23 @@ public:
     bool IsTimed() const { return ticksFinCalc_.has_value(); }
 
     // True when the calculation has to end now. Raises the flag itself when the time is spent.
-    bool MustStop();
+    bool MustStop() {
+        const bool isLate = ticksFinCalc_ && *ticksFinCalc_ < clock_.Ticks();
+        if (!isLate && !stopFlag_.load(std::memory_order_acquire)) {
+            return false;
+        }
+        StopFor(isLate ? RunEnd::OutOfTime : RunEnd::Stopped);
+        return true;
+    }
 
     // Raises the flag for `reason`; the first reason stays. Gives RunEnd::Stopped.
-    RunEnd StopFor(RunEnd reason);
+    RunEnd StopFor(RunEnd reason) {
+        const bool wasRaised = stopFlag_.exchange(true, std::memory_order_acq_rel);
+        if (end_ == RunEnd::Finished) {
+            end_ = wasRaised ? RunEnd::Stopped : reason;
+        }
+        return RunEnd::Stopped;
+    }
 
     // Tells who looks on, by the `goal` that the object was made with, which number the table has to reach.
     void Aim(std::uint64_t goal) {
@@ -53,7 +66,12 @@ public:
     // The size in bytes beyond which the calculation must not grow its data: `bytesNow` and half of the
     // memory available when it is asked for the first time. Later calls repeat that answer, since memory that
     // the calculation itself has taken must not count twice.
-    std::uint64_t ByteCeiling(std::uint64_t bytesNow);
+    std::uint64_t ByteCeiling(std::uint64_t bytesNow) {
+        if (!byteCeiling_) {
+            byteCeiling_ = bytesNow + memory_.AvailableBytes() / 2;
+        }
+        return *byteCeiling_;
+    }
 
 private:
     std::atomic<bool>& stopFlag_;
