@@ -3,9 +3,8 @@
 #include "primes/engine/PrimeFile.h"
 
 #include <algorithm>
-#include <array>
-#include <bit>
 #include <cstring>
+#include <limits>
 #include <memory>
 #include <span>
 

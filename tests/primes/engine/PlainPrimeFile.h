@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cstdint>
+#include <sstream>
 #include <string>
 #include <vector>
 
@@ -27,28 +28,20 @@ inline PrimeFileReading ReadPlainly(std::string bytes) {
         bytes.erase(0, 3);
     }
     std::replace(bytes.begin(), bytes.end(), '\r', '\n'); // CRLF makes an empty line, which says nothing
-    const auto cut = [](const std::string& text, char separator) {
-        std::vector<std::string> parts(1);
-        for (const char c : text) {
-            c == separator ? parts.push_back({}) : parts.back().push_back(c);
-        }
-        return parts;
-    };
-    std::vector<std::string> lines = cut(bytes, '\n');
+    std::istringstream lines(bytes);
     PrimeFileReading reading;
     reading.maximum = 200'000;
-    if (const auto mark = lines.front().find(" : "); mark != std::string::npos) {
-        const auto count = ToUInt64(Val(lines.front().substr(mark + 3)));
-        reading.maximum = static_cast<std::int64_t>(std::min<std::uint64_t>(count, INT64_MAX));
-        lines.erase(lines.begin());
-    }
-    const std::int64_t step = reading.maximum / 500;
-    for (const std::string& line : lines) {
-        for (const std::string& field : cut(line, '\t')) {
-            const std::uint64_t number = ToUInt64(Val(field));
-            if (number == 0) {
-                break;
-            }
+    std::string line;
+    for (bool isFirst = true; std::getline(lines, line); isFirst = false) {
+        if (const auto mark = line.find(" : "); isFirst && mark != std::string::npos) {
+            const auto count = ToUInt64(Val(line.substr(mark + 3)));
+            reading.maximum = static_cast<std::int64_t>(std::min<std::uint64_t>(count, INT64_MAX));
+            continue;
+        }
+        const std::int64_t step = reading.maximum / 500;
+        std::istringstream fields(line);
+        std::uint64_t number = 0;
+        for (std::string field; std::getline(fields, field, '\t') && (number = ToUInt64(Val(field))) != 0;) {
             const auto index = static_cast<std::int64_t>(reading.numbers.size());
             if (step == 0 ? index == 0 : index % step == 0) {
                 reading.reached.push_back(index);
