@@ -96,18 +96,17 @@ TEST_CASE("A file of primes becomes the table; any other leaves it, and is named
 
 TEST_CASE(
     "After a load that failed nothing is offered or saved until more is found, and then with a warning") {
-    using Fault = std::function<void(Bound&, MemoryFileSystem::Entry&)>;
     const std::string fewer = "2\t3\t5\t7\t11\n";
-    int faults = 0;
-    for (const Fault& fault : {Fault([](auto&, auto&file) { file.kind = FileKind::Folder; }),
-             Fault([](auto&, auto&file) { file.kind = FileKind::Unknown; }), // its folder can't be searched
-             Fault([](auto&world, auto&) { world.files.unreadable.insert(path); }),
-             Fault([](auto&world, auto&) { world.memory.available = 0; }),
-             Fault([](auto&, auto&file) { file.claimedSize = std::uint64_t{2'147'483'647} * 13 + 5000; })}) {
-        CAPTURE(faults);
-        ++faults;
+    for (const int fault : {0, 1, 2, 3, 4}) {
+        CAPTURE(fault);
         const auto fail = [&](Bound& world) {
-            fault(world, world.files.entries[path]);
+            MemoryFileSystem::Entry& file = world.files.entries[path];
+            file.kind = fault == 0   ? FileKind::Folder
+                        : fault == 1 ? FileKind::Unknown // in a folder that can't be searched
+                                     : FileKind::Regular;
+            world.files.unreadable = {fault == 2 ? path : ""};
+            world.memory.available = fault == 3 ? 0 : world.memory.available;
+            file.claimedSize = fault == 4 ? std::uint64_t{2'147'483'647} * 13 + 5000 : 0;
             world.dialogs.Expect(Action, [&] { CHECK_FALSE(world.program->fncts.DrapMenu); });
             world.Load();
         };
@@ -117,7 +116,7 @@ TEST_CASE(
         CHECK(atStart.Table() == firstFour);
         CHECK(atStart.BoundFile().has_value());
         CHECK(atStart.LastMessage() ==
-              (faults == 5 ? Localisation::Txt_FichTropGrand() : Localisation::Txt_ErreurLectFich()));
+              (fault == 4 ? Localisation::Txt_FichTropGrand() : Localisation::Txt_ErreurLectFich()));
         CHECK(atStart.dialogs.asked[0].icon == 1);
         CHECK(atStart.sounds.beeps == 1);
         atStart.Main().UserClosed(); // asks nothing
