@@ -68,12 +68,11 @@ TEST_CASE("A run extends the table to the limit and shows its end; an empty limi
 TEST_CASE(
     "Closing takes over the place, if whole on the screen, and mends 0 primes per line with a message") {
     TestWorld world;
-    const std::array<std::array<std::int16_t, 4>, 2> rows = {{{761, 38, 520, 400}, {100, 38, 520, 400}}};
-    for (const auto& stored : rows) {
-        world.program->app.WinNBP = stored;
+    for (const std::int16_t left : {std::int16_t{761}, std::int16_t{100}}) {
+        world.program->app.WinNBP = {left, 38, 520, 400};
         world.Main().BevelButtonListe.UserPressed();
         WinNbresPremiers& list = world.program->winNbresPremiers();
-        CHECK(list.Left == (stored[0] == 761 ? 1280 - 510 : 100));
+        CHECK(list.Left == (left == 761 ? 1280 - 510 : 100));
         list.UserMoved(120, 90);
         world.Type(list.EditFieldNbNbresLigne, "0");
         world.dialogs.Expect(DialogButton::Action);
