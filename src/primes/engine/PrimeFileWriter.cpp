@@ -30,8 +30,8 @@ constexpr LowDigits lowDigits = [] {
 }();
 
 // Of one number to the next only the last three digits change, but for one in some fifty: so the others are
-// kept as text and copied, and the three come from a table. A number in a file has the exactness of a double,
-// and one that isn't exact is written as it is, like one that has no other digits.
+// kept as text and copied, and the three come from a table. A number without others, or one that a double
+// doesn't hold exactly, is written as that double.
 class NumberText {
 public:
     // Writes the number and a tab, and gives the place behind it.
