@@ -33,12 +33,10 @@ struct RunFixture final : Clock, MemoryLimits {
 };
 
 // Refuses memory after a number of allocations.
-class ShortMemory final : public std::pmr::memory_resource {
-public:
+struct ShortMemory final : std::pmr::memory_resource {
     explicit ShortMemory(int allocations) : left(allocations) {}
     int left;
 
-private:
     void* do_allocate(std::size_t bytes, std::size_t alignment) override {
         if (left-- <= 0) {
             throw std::bad_alloc();

@@ -23,10 +23,8 @@ Numbers Factor(std::uint64_t n, PrimeTable& table, RunControl& run) {
 
 TEST_CASE("Primes are told from all other numbers") {
     const auto primes = Reference::Primes(1'000'000);
-    auto next = primes.begin();
     for (std::uint64_t n = 0; n <= primes.back(); ++n) {
-        REQUIRE(IsPrime(n) == (*next == n));
-        next += *next == n ? 1 : 0;
+        REQUIRE(IsPrime(n) == std::binary_search(primes.begin(), primes.end(), n));
     }
     // Strong pseudoprimes to the first bases (OEIS A014233), and to 2, 13 and 23.
     for (const std::uint64_t n : {2047ULL, 1373653ULL, 25326001ULL, 3215031751ULL, 2152302898747ULL,
