@@ -10,8 +10,6 @@
 #include "ui/Program.h"
 #include "ui/SafeAddress.h"
 
-#include <algorithm>
-
 namespace tessarolyne {
 
 namespace {
@@ -30,12 +28,7 @@ std::string HelpTag(const std::string& address) {
 
 UpdateCheck::UpdateCheck(App& app, Fncts& fncts, Services& services, std::string versionFile)
     : app_(app), fncts_(fncts), services_(services), versionFile_(std::move(versionFile)),
-      slowCheck_(services.loop, moment), timerVerMaJ_(services.loop, handOverPeriod),
-      socketVerMaJ_(services.http) {
-    // Whatever the status: an error page fails the reader's tests.
-    socketVerMaJ_.PageReceived = [this](const std::string& url, int, const std::string&,
-                                     const std::string& content) { HasCome(url + "\r" + content); };
-    socketVerMaJ_.Error = [this](int code) { HasCome(Str(code)); };
+      slowCheck_(services.loop, moment), timerVerMaJ_(services.loop, handOverPeriod) {
     timerVerMaJ_.Action = [this] { TimerVerMaJ_Action(); };
     slowCheck_.Action = [this] { TakesTime(true); };
 }
@@ -58,28 +51,22 @@ void UpdateCheck::Start() {
 
 void UpdateCheck::Fetch() {
     ++fetchesUnderWay_;
-    socketVerMaJ_.Get(versionFile_);
+    services_.http.Get(versionFile_, [this](const HttpReply& reply) { HasCome(reply); });
 }
 
-void UpdateCheck::HasCome(std::string text) {
-    texteVerMaJ_ = std::move(text);
+void UpdateCheck::HasCome(const HttpReply& reply) {
+    reply_ = reply;
     timerVerMaJ_.Mode = 1;
-    fetchesUnderWay_ = std::max(0, fetchesUnderWay_ - 1);
-    if (fetchesUnderWay_ == 0) {
+    if (--fetchesUnderWay_ == 0) {
         slowCheck_.Mode = 0;
         TakesTime(false);
     }
 }
 
 void UpdateCheck::TimerVerMaJ_Action() {
-    if (VrfVerMaJ()) {
-        timerVerMaJ_.Period = busyPeriod;
-        timerVerMaJ_.Mode = 1;
-        timerVerMaJ_.Reset();
-    } else {
-        timerVerMaJ_.Period = handOverPeriod;
-        timerVerMaJ_.Mode = 0; // also where a second reply came under the dialog: it is dealt with
-    }
+    const bool isBusy = VrfVerMaJ();
+    timerVerMaJ_.Period = isBusy ? busyPeriod : handOverPeriod;
+    timerVerMaJ_.Mode = isBusy ? 1 : 0; // 0 also where a second reply came under the dialog: it is dealt with
 }
 
 // Tells the user what is to be told. True: the program is busy, nothing was done. Any version but this one
@@ -89,35 +76,34 @@ bool UpdateCheck::VrfVerMaJ() {
         return true;
     }
     fncts_.DrapMenu = false;
-    const VersionReply reply = ReadVersionReply(texteVerMaJ_);
-    const std::string history = HistoryPage(reply.requestedUrl);
+    // Whatever the status: an error page isn't read as a version file.
+    const auto file = ReadVersionFile(versionFile_ + "\r" + reply_.content);
+    const std::string history = HistoryPage(versionFile_);
     const bool tellAll = std::exchange(alertVerAjour_, true);
     const std::string ok = Localisation::Btn_Ok();
     int answer = 0; // 1 the download page, 3 the history
-    if (reply.kind != VersionReply::Kind::VersionFile) {
+    if (!file) {
         if (tellAll) {
-            const bool hasCode = reply.kind == VersionReply::Kind::ErrorCode;
             fncts_.Beep();
             fncts_.MyDialogBox(Localisation::Txt_Ver_MaJ_impo(),
-                hasCode ? "Server Error " + reply.errorCode : "", ok, "", "", 1, nullptr);
+                reply_.errorCode != 0 ? "Server Error " + Str(reply_.errorCode) : "", ok, "", "", 1, nullptr);
         }
-    } else if (reply.version != "v." + app_.ShortVersion) {
+    } else if (file->version != "v." + app_.ShortVersion) {
         if (!tellAll) {
             fncts_.Beep();
         }
         answer = fncts_.MyDialogBox(Localisation::Txt_Ver_Nouv(),
-            reply.version + std::string(endOfLine) + reply.notes, Localisation::Btn_SiteWeb(),
+            file->version + std::string(endOfLine) + file->notes, Localisation::Btn_SiteWeb(),
             Localisation::Btn_Fermer(), Localisation::Btn_Historic(), 0, nullptr,
-            {HelpTag(reply.downloadPage), "", HelpTag(history)});
+            {HelpTag(file->downloadPage), "", HelpTag(history)});
     } else if (tellAll) {
-        answer = fncts_.MyDialogBox(Localisation::Txt_Ver_a_jour(), reply.version, ok,
+        answer = fncts_.MyDialogBox(Localisation::Txt_Ver_a_jour(), file->version, ok,
             Localisation::Btn_Historic(), "", 0, nullptr, {"", HelpTag(history), ""});
         answer += answer == 0 ? 0 : 1; // no answer, because the program is being ended, opens nothing
     }
     if (answer == 1 || answer == 3) {
-        fncts_.ShowURL(answer == 1 ? reply.downloadPage : history);
+        fncts_.ShowURL(answer == 1 ? file->downloadPage : history);
     }
-    texteVerMaJ_.clear();
     fncts_.RestoreDrapMenu(true);
     return false;
 }

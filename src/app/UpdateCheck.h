@@ -12,8 +12,8 @@ class App;
 class Fncts;
 struct Services;
 
-// The look for a new version: the fetch, the hand-over from the socket's event to the main event loop, so
-// that no dialog ever opens inside the former, and what the user is told.
+// The look for a new version: the fetch, the hand-over of its reply to an event of its own, so that no
+// dialog ever opens inside the socket's, and what the user is told.
 class UpdateCheck {
 public:
     UpdateCheck(App& app, Fncts& fncts, Services& services, std::string versionFile);
@@ -27,7 +27,7 @@ public:
 
 private:
     void Fetch();
-    void HasCome(std::string text);
+    void HasCome(const HttpReply& reply);
     void TimerVerMaJ_Action();
     bool VrfVerMaJ();
 
@@ -36,11 +36,10 @@ private:
     Services& services_;
     const std::string versionFile_;
     bool alertVerAjour_ = false; // every outcome is reported, not only a new version
-    std::string texteVerMaJ_;    // the result until it has been dealt with
+    HttpReply reply_;            // the last, until it has been dealt with
     int fetchesUnderWay_ = 0;
     Timer slowCheck_; // until a check from the menu has to show that it is under way
     Timer timerVerMaJ_;
-    HTTPSocket socketVerMaJ_;
 };
 
 } // namespace tessarolyne

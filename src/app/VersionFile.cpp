@@ -36,29 +36,19 @@ std::string WithBullets(std::string_view notes) {
 
 } // namespace
 
-VersionReply ReadVersionReply(std::string_view text) {
+std::optional<VersionFile> ReadVersionFile(std::string_view text) {
     const std::string normalised = ReplaceLineEndings(text, std::string_view(&lineBreak, 1));
-    VersionReply reply;
-    if (normalised.find(lineBreak) == std::string::npos) {
-        reply.errorCode = normalised;
-        return reply;
-    }
     std::string_view page = normalised;
-    reply.requestedUrl = TakeLine(page);
+    TakeLine(page);
     page = page.substr(0, page.find(olderVersions));
     const auto titleLine = TakeLine(page);
     const auto addressLine = TakeLine(page);
     const auto versionLine = TakeLine(page);
     if (!titleLine.starts_with(title) || !addressLine.starts_with(unsecuredWeb) ||
         !versionLine.starts_with(versionMark)) {
-        reply.kind = VersionReply::Kind::NotAVersionFile;
-        return reply;
+        return std::nullopt;
     }
-    reply.kind = VersionReply::Kind::VersionFile;
-    reply.downloadPage = addressLine;
-    reply.version = versionLine;
-    reply.notes = WithBullets(page);
-    return reply;
+    return VersionFile{std::string(addressLine), std::string(versionLine), WithBullets(page)};
 }
 
 std::string HistoryPage(std::string_view requestedUrl) {

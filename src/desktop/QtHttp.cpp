@@ -5,7 +5,6 @@
 #include <QNetworkProxy>
 #include <QTcpSocket>
 #include <QUrl>
-#include <algorithm>
 #include <mutex>
 #include <netdb.h>
 #include <sys/socket.h>
@@ -16,120 +15,133 @@ namespace tessarolyne {
 
 namespace {
 
-constexpr int attemptDelay = 250; // milliseconds
-
-// One of the first's family, then one of the other, and so on.
-std::vector<QHostAddress> WithFamiliesInTurn(const std::vector<QHostAddress>& addresses) {
-    std::vector<QHostAddress> families[2];
-    for (const QHostAddress& address : addresses) {
-        families[address.protocol() == addresses.front().protocol() ? 0 : 1].push_back(address);
-    }
-    std::vector<QHostAddress> turns;
-    for (std::size_t i = 0; turns.size() < addresses.size(); ++i) {
-        for (const auto& family : families) {
-            if (i < family.size()) {
-                turns.push_back(family[i]);
-            }
-        }
-    }
-    return turns;
-}
-
 constexpr int httpPort = 80;
+constexpr int attemptDelay = 250;            // milliseconds
+constexpr int deadline = 10'000;             // milliseconds, from the request to the answer's last byte
+constexpr qsizetype largestAnswer = 1 << 18; // bytes, its header included
 
 // HTTP/1.0, so that the server closes; from one that doesn't, a whole page is taken at the deadline. A host
 // may have several names, so it is told which one is meant.
 QByteArray Request(const QUrl& url) {
-    const QUrl page = url.adjusted(QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveFragment);
-    const QUrl site = url.adjusted(QUrl::RemoveUserInfo);
-    const QByteArray path = page.toEncoded();
-    return "GET " + (path.isEmpty() ? "/" : path) +
-           " HTTP/1.0\r\nHost: " + site.authority(QUrl::FullyEncoded).toLatin1() + "\r\n\r\n";
+    return "GET " + url.toEncoded(QUrl::RemoveScheme | QUrl::RemoveAuthority | QUrl::RemoveFragment) +
+           " HTTP/1.0\r\nHost: " + url.authority(QUrl::FullyEncoded).toLatin1() + "\r\n\r\n";
 }
 
-HttpReply Failure(const std::string& url, int errorCode) {
-    HttpReply reply;
-    reply.url = url;
-    reply.errorCode = errorCode;
-    return reply;
-}
-
-// One exchange; deletes itself after its one answer.
+// One exchange, with whichever address of the host answers first: the next is tried when one fails or after a
+// quarter of a second (RFC 8305), so that a dead IPv6 holds nothing up. Deletes itself after its one answer.
 class Exchange final : public QObject {
 public:
-    Exchange(QObject* parent, EventLoop& loop, const HttpLimits& limits, std::string url,
-        std::function<void(const HttpReply&)> reply)
-        : QObject(parent), loop_(loop), largestAnswer_(static_cast<qsizetype>(limits.largestAnswer)),
-          url_(std::move(url)), reply_(std::move(reply)) {
-        deadline_ = loop_.SetAlarm(limits.deadline, [this] { Finish(false); });
+    Exchange(QObject* parent, EventLoop& loop, const QUrl& url, std::function<void(const HttpReply&)> reply)
+        : QObject(parent), loop_(loop), url_(url), reply_(std::move(reply)) {
+        listener_->exchange = this;
+        deadline_ = loop_.SetAlarm(deadline, [this] { Finish(false); });
     }
-    ~Exchange() override { loop_.CancelAlarm(deadline_); }
+    ~Exchange() override {
+        const std::lock_guard lock(listener_->mutex);
+        listener_->exchange = nullptr;
+        loop_.CancelAlarm(deadline_);
+        loop_.CancelAlarm(nextTry_);
+    }
 
-    void Begin(const QUrl& url, const HostResolver& resolver) {
-        auto* const connection =
-            new HostConnection(this, loop_, static_cast<std::uint16_t>(url.port(httpPort)),
-                [this, request = Request(url)](HostConnection::Result result) {
-                    if (result.socket != nullptr) {
-                        Ask(*result.socket, request);
-                    } else {
-                        error_ = result.unknownHost ? QtHttp::notFound : QtHttp::lostConnection;
-                        Finish(false);
+    // Nothing waits for a resolver that doesn't answer, neither the destructor nor the end of the process, as
+    // Qt's own look-up would.
+    void Begin(const HostResolver& resolver) {
+        const auto tell = [listener = listener_](std::vector<QHostAddress> addresses) {
+            const std::lock_guard lock(listener->mutex);
+            if (listener->exchange != nullptr) {
+                listener->exchange->loop_.Post([listener, addresses = std::move(addresses)] {
+                    if (listener->exchange != nullptr) {
+                        listener->exchange->Try(addresses);
                     }
                 });
-        connection->Begin(resolver, url.host(QUrl::FullyEncoded).toLatin1());
+            }
+        };
+        try {
+            std::thread([=, host = url_.host(QUrl::FullyEncoded).toLatin1()] {
+                tell(resolver(host));
+            }).detach();
+        } catch (const std::system_error&) {
+            tell({}); // no thread to be had
+        }
     }
 
 private:
-    void Ask(QTcpSocket& socket, const QByteArray& request) {
-        socket_ = &socket;
-        socket.setReadBufferSize(largestAnswer_ + 1); // a fast sender waits for us
-        connect(&socket, &QTcpSocket::readyRead, this, [this] { Read(); });
-        connect(&socket, &QTcpSocket::errorOccurred, this, [this](QAbstractSocket::SocketError error) {
-            Finish(error == QAbstractSocket::RemoteHostClosedError);
-        });
-        socket.write(request);
+    // What the thread of a look-up knows of the exchange, which may be gone before it.
+    struct Listener {
+        std::mutex mutex;
+        Exchange* exchange = nullptr;
+    };
+
+    void Try(const std::vector<QHostAddress>& addresses) {
+        addresses_ = addresses;
+        addresses.empty() ? Finish(false, QtHttp::notFound) : TryNext();
     }
 
-    void Read() {
-        answer_ += socket_->readAll();
-        if (answer_.size() > largestAnswer_) {
-            Finish(false);
-        }
-    }
-
-    void Finish(bool closed) {
-        if (finished_) {
+    // A refusal may come before connectToHost returns.
+    void TryNext() {
+        loop_.CancelAlarm(nextTry_);
+        if (tried_ == addresses_.size()) {
             return;
         }
-        finished_ = true;
+        auto* const socket = new QTcpSocket(this);
+        socket->setProxy(QNetworkProxy::NoProxy);
+        connect(socket, &QTcpSocket::connected, this, [this, socket] { Ask(*socket); });
+        connect(socket, &QTcpSocket::errorOccurred, this, [this](QAbstractSocket::SocketError error) {
+            if (socket_ != nullptr) {
+                Finish(error == QAbstractSocket::RemoteHostClosedError);
+            } else if (++failed_ == addresses_.size()) {
+                Finish(false);
+            } else {
+                TryNext();
+            }
+        });
+        nextTry_ = loop_.SetAlarm(attemptDelay, [this] { TryNext(); });
+        socket->connectToHost(addresses_[tried_++], static_cast<quint16>(url_.port(httpPort)));
+    }
+
+    void Ask(QTcpSocket& socket) {
+        socket_ = &socket;
+        loop_.CancelAlarm(nextTry_);
+        for (QTcpSocket* const other : findChildren<QTcpSocket*>()) {
+            if (other != socket_) {
+                other->abort();
+            }
+        }
+        socket.setReadBufferSize(largestAnswer + 1); // a fast sender waits for us
+        connect(&socket, &QTcpSocket::readyRead, this, [this] {
+            answer_ += socket_->readAll();
+            if (answer_.size() > largestAnswer) {
+                Finish(false);
+            }
+        });
+        socket.write(Request(url_));
+    }
+
+    void Finish(bool closed, int error = QtHttp::lostConnection) {
+        if (reply_ == nullptr) {
+            return;
+        }
         if (closed) {
             answer_ += socket_->readAll();
         }
-        loop_.Post([reply = std::move(reply_), result = Page(closed).value_or(Failure(url_, error_))] {
-            reply(result);
-        });
+        const auto page =
+            answer_.size() <= largestAnswer ? ReadHttpAnswer(answer_.toStdString(), closed) : std::nullopt;
+        loop_.Post([reply = std::exchange(reply_, nullptr),
+                       result = page ? HttpReply{*page} : HttpReply{"", error}] { reply(result); });
         deleteLater();
     }
 
-    std::optional<HttpReply> Page(bool closed) const {
-        auto page = answer_.size() <= largestAnswer_
-                        ? ReadHttpAnswer({answer_.data(), static_cast<std::size_t>(answer_.size())}, closed)
-                        : std::nullopt;
-        if (page) {
-            page->url = url_;
-        }
-        return page;
-    }
-
     EventLoop& loop_;
-    const qsizetype largestAnswer_;
-    const std::string url_;
-    std::function<void(const HttpReply&)> reply_;
+    const QUrl url_;
+    std::function<void(const HttpReply&)> reply_; // none once it has its answer
+    const std::shared_ptr<Listener> listener_ = std::make_shared<Listener>();
+    std::vector<QHostAddress> addresses_;
+    std::size_t tried_ = 0; // of the addresses
+    std::size_t failed_ = 0;
+    QTcpSocket* socket_ = nullptr; // the one that is connected
     QByteArray answer_;
-    int error_ = QtHttp::lostConnection;
     EventLoop::AlarmId deadline_ = 0;
-    bool finished_ = false;
-    QTcpSocket* socket_ = nullptr; // the connection's
+    EventLoop::AlarmId nextTry_ = 0;
 };
 
 } // namespace
@@ -148,95 +160,9 @@ std::vector<QHostAddress> SystemAddresses(const QByteArray& host) {
     return addresses;
 }
 
-// What the thread of a look-up knows of the connection, which may be gone before it.
-struct HostConnection::Listener {
-    std::mutex mutex;
-    HostConnection* connection = nullptr;
-};
-
-HostConnection::HostConnection(
-    QObject* parent, EventLoop& loop, std::uint16_t port, std::function<void(Result)> done)
-    : QObject(parent), loop_(loop), port_(port), done_(std::move(done)),
-      listener_(std::make_shared<Listener>()) {
-    listener_->connection = this;
-}
-
-HostConnection::~HostConnection() {
-    const std::lock_guard lock(listener_->mutex);
-    listener_->connection = nullptr;
-    loop_.CancelAlarm(nextTry_);
-}
-
-void HostConnection::Begin(const HostResolver& resolver, const QByteArray& host) {
-    const auto tell = [listener = listener_](std::vector<QHostAddress> addresses) {
-        const std::lock_guard lock(listener->mutex);
-        if (listener->connection == nullptr) {
-            return;
-        }
-        listener->connection->loop_.Post([listener, addresses = std::move(addresses)] {
-            if (HostConnection* const self = listener->connection) {
-                self->addresses_ = WithFamiliesInTurn(addresses);
-                addresses.empty() ? self->done_({nullptr, true}) : self->TryNext();
-            }
-        });
-    };
-    try {
-        std::thread([=] { tell(resolver(host)); }).detach();
-    } catch (const std::system_error&) {
-        tell({}); // no thread to be had
-    }
-}
-
-// A refusal may come before connectToHost returns.
-void HostConnection::TryNext() {
-    loop_.CancelAlarm(nextTry_);
-    if (tried_ == addresses_.size()) {
-        return;
-    }
-    auto* const socket = new QTcpSocket(this);
-    attempts_.push_back(socket);
-    socket->setProxy(QNetworkProxy::NoProxy);
-    connect(socket, &QTcpSocket::connected, this, [this, socket] { Connected(socket); });
-    connect(socket, &QTcpSocket::errorOccurred, this, [this, socket] { Failed(socket); });
-    nextTry_ = loop_.SetAlarm(attemptDelay, [this] { TryNext(); });
-    socket->connectToHost(addresses_[tried_++], port_);
-}
-
-void HostConnection::Connected(QTcpSocket* socket) {
-    loop_.CancelAlarm(nextTry_);
-    for (QTcpSocket* const attempt : std::exchange(attempts_, {})) {
-        attempt->disconnect(this);
-        if (attempt != socket) {
-            attempt->abort();
-            attempt->deleteLater();
-        }
-    }
-    done_({socket, false});
-}
-
-void HostConnection::Failed(QTcpSocket* socket) {
-    attempts_.erase(std::find(attempts_.begin(), attempts_.end(), socket));
-    socket->disconnect(this);
-    socket->deleteLater();
-    if (tried_ < addresses_.size()) {
-        TryNext();
-    } else if (attempts_.empty()) {
-        loop_.CancelAlarm(nextTry_);
-        done_({});
-    }
-}
-
-QtHttp::QtHttp(EventLoop& loop, HttpLimits limits, HostResolver resolver)
-    : loop_(loop), limits_(limits), resolver_(std::move(resolver)), exchanges_(std::make_unique<QObject>()) {}
-QtHttp::~QtHttp() = default;
-
 void QtHttp::Get(const std::string& url, std::function<void(const HttpReply&)> reply) {
-    const QUrl address(ToQt(url), QUrl::StrictMode);
-    if (!address.isValid() || address.scheme() != u"http" || address.host().isEmpty()) {
-        loop_.Post([url, reply = std::move(reply)] { reply(Failure(url, notFound)); });
-        return;
-    }
-    (new Exchange(exchanges_.get(), loop_, limits_, url, std::move(reply)))->Begin(address, resolver_);
+    (new Exchange(exchanges_.get(), loop_, QUrl(ToQt(url), QUrl::StrictMode), std::move(reply)))
+        ->Begin(resolver_);
 }
 
 } // namespace tessarolyne

@@ -69,8 +69,7 @@ private:
 
 // All that the desktop answers. Made after the QtApplication and before the program, and outlives it.
 struct QtServices {
-    explicit QtServices(FileSystem& files, HttpLimits httpLimits = {})
-        : dialogs(loop, stage, files), desktop(loop), http(loop, httpLimits) {}
+    explicit QtServices(FileSystem& files) : dialogs(loop, stage, files), desktop(loop), http(loop) {}
 
     // Them together with what the machine answers.
     Services With(Clock& clock, FileSystem& files, MemoryLimits& memory) {

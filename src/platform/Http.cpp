@@ -10,23 +10,10 @@ namespace tessarolyne {
 
 namespace {
 
-// A whole number and nothing else.
-template <typename Number>
-bool ReadNumber(std::string_view text, Number& number) {
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc() && end == text.data() + text.size() && text[0] != '-';
-}
-
-// The code of "HTTP/1.1 200 OK"; 0 if that isn't the status line of a final answer.
-int StatusOf(std::string_view line) {
-    constexpr std::size_t codeStart = 9;
-    constexpr std::size_t codeLength = 3;
-    int status = 0;
-    const bool isStatusLine = line.starts_with("HTTP/1.") && line.size() >= codeStart + codeLength &&
-                              line[codeStart - 1] == ' ' &&
-                              (line.size() == codeStart + codeLength || line[codeStart + codeLength] == ' ');
-    return isStatusLine && ReadNumber(line.substr(codeStart, codeLength), status) && status >= 200 ? status
-                                                                                                   : 0;
+// "HTTP/1.1 200 OK", whatever the code; those that begin with 1 are interim.
+bool IsFinalStatus(std::string_view line) {
+    constexpr std::size_t code = 9;
+    return line.starts_with("HTTP/1.") && line.size() > code && line[code] >= '2' && line[code] <= '9';
 }
 
 // False after a header that leaves open where the page ends.
@@ -36,53 +23,35 @@ bool TakeHeader(std::string_view line, std::optional<std::size_t>& length) {
     if (name != "CONTENT-LENGTH" || colon == std::string_view::npos) {
         return name != "TRANSFER-ENCODING";
     }
+    const std::string text = Trim(line.substr(colon + 1));
+    const char* const last = text.data() + text.size();
     std::size_t value = 0;
-    const bool clear = ReadNumber(Trim(line.substr(colon + 1)), value) && length.value_or(value) == value;
+    const auto [end, error] = std::from_chars(text.data(), last, value);
+    const bool isClear = error == std::errc() && end == last && length.value_or(value) == value;
     length = value;
-    return clear;
+    return isClear;
 }
 
 } // namespace
 
-void HTTPSocket::Get(const std::string& url) {
-    service_.Get(url, [this, alive = std::weak_ptr(alive_)](const HttpReply& reply) {
-        if (alive.expired()) {
-            return;
-        }
-        if (reply.errorCode != 0) {
-            Error(reply.errorCode);
-        } else {
-            PageReceived(reply.url, reply.status, reply.headers, reply.content);
-        }
-    });
-}
-
-std::optional<HttpReply> ReadHttpAnswer(std::string_view bytes, bool closed) {
-    HttpReply page;
+std::optional<std::string> ReadHttpAnswer(std::string_view bytes, bool closed) {
     std::optional<std::size_t> length;
-    for (bool inHeader = true; inHeader;) {
+    std::string_view line;
+    for (bool isFirst = true; isFirst || !line.empty(); isFirst = false) {
         const auto end = bytes.find('\n');
         if (end == std::string_view::npos) {
             return std::nullopt;
         }
-        const auto line = bytes.substr(0, end > 0 && bytes[end - 1] == '\r' ? end - 1 : end);
+        line = bytes.substr(0, end > 0 && bytes[end - 1] == '\r' ? end - 1 : end);
         bytes.remove_prefix(end + 1);
-        if (page.status == 0) {
-            page.status = StatusOf(line);
-            inHeader = page.status != 0;
-        } else if (line.empty()) {
-            inHeader = false;
-        } else if (TakeHeader(line, length)) {
-            page.headers.append(line).append("\n");
-        } else {
+        if (isFirst ? !IsFinalStatus(line) : !TakeHeader(line, length)) {
             return std::nullopt;
         }
     }
-    if (page.status == 0 || (length ? bytes.size() < *length : !closed)) {
+    if (length ? bytes.size() < *length : !closed) {
         return std::nullopt;
     }
-    page.content = bytes.substr(0, length.value_or(bytes.size()));
-    return page;
+    return std::string(bytes.substr(0, length.value_or(bytes.size())));
 }
 
 } // namespace tessarolyne

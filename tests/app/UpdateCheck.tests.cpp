@@ -30,7 +30,7 @@ struct Launch : TestWorld {
     void Answer(const std::string& content, int error = 0) {
         const auto request = http.requests.at(0);
         http.requests.erase(http.requests.begin());
-        request.reply(HttpReply{request.url, error == 0 ? 200 : 0, "", content, error});
+        request.reply({content, error});
     }
 };
 

@@ -12,7 +12,7 @@ TEST_CASE("Notes end before the older versions and without empty lines, and have
         {"a--b --c-- d", "a--b --c• d"}, // only one of those without a blank before it
         {"One\r\r\rOlder versions\r-- Old", "One"}};
     for (const auto& [text, notes] : rows) {
-        CHECK(ReadVersionReply(std::string("url\rRelease Notes\rhttp://a\rv.1\r") + text).notes == notes);
+        CHECK(ReadVersionFile(std::string("url\rRelease Notes\rhttp://a\rv.1\r") + text)->notes == notes);
     }
     CHECK(HistoryPage("http://host/prg/Tessarolyne_V.txt") == "http://host/prg/Tessarolyne_AffV.html");
     CHECK(HistoryPage("ab") == "_AffV.html");

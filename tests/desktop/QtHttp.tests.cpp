@@ -76,7 +76,7 @@ struct QtHere {
 
 // A client on Qt's sockets and a clock that stands still.
 struct Client {
-    explicit Client(HostResolver resolver = SystemAddresses) : http(loop, {}, std::move(resolver)) {}
+    explicit Client(HostResolver resolver = SystemAddresses) : http(loop, std::move(resolver)) {}
 
     void Get(const std::string& url) {
         http.Get(url, [this](const HttpReply& reply) { replies.push_back(reply); });
@@ -119,12 +119,11 @@ TEST_CASE("Whatever a server does, it is asked once, and the answer is its whole
         std::string what, answer, content; // no content: error 102
         Server server = Answers;
         std::string repeated = {};
-        int status = 200;
     } rows[] = {
         {"its length", Page("page") + "more", "page"},
         {"no length", "HTTP/1.0 200 OK\r\nX: y\r\n\r\npage", "page"},
-        {"an error's page", "HTTP/1.1 404 No\r\n\r\n<html>", "<html>", Answers, "", 404},
-        {"redirected", "HTTP/1.1 302 Found\r\nLocation: /other\r\n\r\n-", "-", Answers, "", 302},
+        {"an error's page", "HTTP/1.1 404 No\r\n\r\n<html>", "<html>"},
+        {"redirected", "HTTP/1.1 302 Found\r\nLocation: /other\r\n\r\n-", "-"},
         {"LF alone", "HTTP/1.1 200\nContent-Length: 1\n\np", "p"},
         {"binary", Page(std::string("\0\r\n\r\n\xFF", 6)), std::string("\0\r\n\r\n\xFF", 6)},
         {"the largest page", Page("page" + rest), "page" + rest},
@@ -155,9 +154,7 @@ TEST_CASE("Whatever a server does, it is asked once, and the answer is its whole
         }
         const HttpReply& reply = client.Reply();
         CHECK(reply.errorCode == (row.content.empty() ? QtHttp::lostConnection : 0));
-        CHECK(reply.status == (row.content.empty() ? 0 : row.status));
         CHECK(reply.content == row.content);
-        CHECK(reply.url == server.Url());
         if (row.server != Refuses) {
             CHECK(server.requests == std::vector{"GET /a?b HTTP/1.0\r\nHost: 127.0.0.1:" +
                                                  std::to_string(server.port) + "\r\n\r\n"});
