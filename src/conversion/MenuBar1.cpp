@@ -176,7 +176,7 @@ void WinMain::AddMenuHandlers() {
     const auto on = [this](const char* name, std::function<void()> command) {
         if (MenuItem* item = app.GetMenuBar()->Find(name)) {
             item->Action = [item, command = std::move(command)] {
-                if (item->Enabled()) {
+                if (item->Enabled) {
                     command();
                 }
                 return true;

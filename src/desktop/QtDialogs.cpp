@@ -1,21 +1,15 @@
-#include "desktop/QtDialogs.h"
-
-#include "desktop/QtStage.h"
+#include "desktop/QtServices.h"
 #include "desktop/QtText.h"
 #include "desktop/TextEdits.h"
-#include "desktop/WindowView.h"
-#include "platform/EventLoop.h"
 
 #include <QAccessible>
 #include <QChildEvent>
 #include <QDialogButtonBox>
 #include <QFile>
-#include <QFileDialog>
 #include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMessageBox>
-#include <QPointer>
 #include <QPushButton>
 #include <QScreen>
 #include <QStyle>
@@ -77,27 +71,26 @@ protected:
     }
 };
 
-// A dialog for the time of a call. A sheet goes with its window, if a quit closes that under it.
-template <typename Dialog>
-class Held {
+// A message with up to three buttons, its result the one that was pressed. All texts are plain; a long one
+// scrolls, so that the dialog never outgrows the screen. Return is the action button wherever the focus is.
+// Escape and the close box choose no button, whatever the buttons say: the cancel button may open a page, or
+// drop something.
+class MessageView final : public QDialog {
 public:
-    explicit Held(Dialog* dialog) : dialog_(dialog) {}
-    ~Held() { delete dialog_.data(); }
-    Held(const Held&) = delete;
-    Held& operator=(const Held&) = delete;
+    MessageView(const MessageDialog& dialog, QWidget* parent);
 
-    bool IsGone() const { return dialog_.isNull(); }
-    Dialog& operator*() const { return *dialog_; }
-    Dialog* operator->() const { return dialog_.data(); }
+protected:
+    void showEvent(QShowEvent* event) override;
 
 private:
-    const QPointer<Dialog> dialog_;
+    QWidget* MakeIcon(int icon);
+    QPlainTextEdit* MakeText(const MessageDialog& dialog);
+    QWidget* MakeButtons(const MessageDialog& dialog);
+
+    QPushButton* action_ = nullptr;
 };
 
-} // namespace
-
 MessageView::MessageView(const MessageDialog& dialog, QWidget* parent) : QDialog(parent) {
-    setWindowModality(parent != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
     // Read out as it comes up, and then the button that has the focus.
     setAccessibleName(VisibleText(dialog.message).trimmed().left(longestName));
     setAccessibleDescription(VisibleText(dialog.explanation).left(longestName));
@@ -160,12 +153,13 @@ QWidget* MessageView::MakeButtons(const MessageDialog& dialog) {
         const QString tag = VisibleText(helpTag);
         button->setToolTip(PlainToolTip(FromQt(tag)));
         button->setAccessibleDescription(tag); // else Qt reads out the tool tip's markup
-        connect(button, &QPushButton::clicked, this, [this, answer] { Finish(answer); });
+        connect(button, &QPushButton::clicked, this, [this, answer] { done(static_cast<int>(answer)); });
         return button;
     };
     if (dialog.actionCaption.empty()) {
         action_ = box->addButton(QDialogButtonBox::Ok);
-        connect(action_, &QPushButton::clicked, this, [this] { Finish(DialogButton::Action); });
+        connect(
+            action_, &QPushButton::clicked, this, [this] { done(static_cast<int>(DialogButton::Action)); });
     } else {
         action_ = add(
             dialog.actionCaption, QDialogButtonBox::AcceptRole, DialogButton::Action, dialog.actionHelpTag);
@@ -181,16 +175,6 @@ QWidget* MessageView::MakeButtons(const MessageDialog& dialog) {
     return box;
 }
 
-void MessageView::Finish(DialogButton answer) {
-    answer_ = answer;
-    done(0);
-}
-
-// Escape and the close box.
-void MessageView::reject() {
-    Finish(DialogButton::None);
-}
-
 void MessageView::showEvent(QShowEvent* event) {
     QDialog::showEvent(event);
     action_->setFocus(Qt::OtherFocusReason);
@@ -198,10 +182,27 @@ void MessageView::showEvent(QShowEvent* event) {
     QAccessible::updateAccessibility(&alert);
 }
 
+} // namespace
+
+// Shows it until it is gone or the program quits; its result, 0 if it has none.
+int QtDialogs::Run(QDialog* dialog) {
+    dialog->setWindowModality(dialog->parentWidget() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
+    if (dialog->parentWidget() == nullptr) {
+        StandBeforeOthers(*dialog);
+    }
+    bool finished = false;
+    QObject::connect(dialog, &QDialog::finished, dialog, [&finished] { finished = true; });
+    const QPointer<QDialog> alive(dialog); // a sheet goes with its window, if a quit closes that under it
+    dialog->show();
+    loop_.RunUntil([&] { return finished || alive.isNull(); });
+    return alive.isNull() || loop_.IsQuitting() ? 0 : dialog->result();
+}
+
 DialogButton QtDialogs::Ask(const MessageDialog& dialog) {
-    const Held<MessageView> view(new MessageView(dialog, ParentFor(dialog.sheetOf)));
-    Run(*view);
-    return view.IsGone() || loop_.IsQuitting() ? DialogButton::None : view->Answer();
+    const QPointer<MessageView> view(new MessageView(dialog, stage_.Find(dialog.sheetOf)));
+    const int pressed = Run(view);
+    delete view.data();
+    return static_cast<DialogButton>(pressed);
 }
 
 void QtDialogs::Tell(const std::string& text) {
@@ -211,67 +212,44 @@ void QtDialogs::Tell(const std::string& text) {
 }
 
 std::optional<FolderItem> QtDialogs::ChooseFile(const FileDialog& dialog) {
-    const Held<QFileDialog> chooser(new QFileDialog(ParentFor(dialog.sheetOf)));
-    SetUp(*chooser, dialog);
-    chooser->setAcceptMode(QFileDialog::AcceptOpen);
-    chooser->setFileMode(QFileDialog::ExistingFile);
-    Run(*chooser);
-    return chooser.IsGone() ? std::nullopt : Chosen(*chooser);
+    return Choose(dialog, QFileDialog::AcceptOpen);
 }
 
 std::optional<FolderItem> QtDialogs::ChooseTarget(const FileDialog& dialog) {
-    const Held<QFileDialog> chooser(new QFileDialog(ParentFor(dialog.sheetOf)));
-    SetUp(*chooser, dialog);
-    chooser->setAcceptMode(QFileDialog::AcceptSave);
-    chooser->setFileMode(QFileDialog::AnyFile);
-    if (dialog.suggestedName.ends_with(dialog.filterExtension)) {
-        // Without it the choosers, which show only such files, would not show this one again.
-        chooser->setDefaultSuffix(ToQt(dialog.filterExtension));
-    }
-    if (!dialog.suggestedName.empty()) {
-        chooser->selectFile(QFile::decodeName(QByteArray::fromStdString(dialog.suggestedName)));
-    }
-    Run(*chooser);
-    return chooser.IsGone() ? std::nullopt : Chosen(*chooser);
+    return Choose(dialog, QFileDialog::AcceptSave);
 }
 
-QWidget* QtDialogs::ParentFor(const Window* sheetOf) const {
-    return sheetOf == nullptr ? nullptr : stage_.Find(sheetOf);
-}
-
-void QtDialogs::Run(QDialog& dialog) {
-    if (dialog.parentWidget() == nullptr) {
-        StandBeforeOthers(dialog);
-    }
-    bool gone = false;
-    QObject::connect(&dialog, &QDialog::finished, &dialog, [&gone] { gone = true; });
-    const auto destroyed = QObject::connect(&dialog, &QObject::destroyed, [&gone] { gone = true; });
-    dialog.show();
-    loop_.RunUntil([&gone] { return gone; });
-    QObject::disconnect(destroyed);
-}
-
-void QtDialogs::SetUp(QFileDialog& chooser, const FileDialog& dialog) const {
-    chooser.setWindowModality(chooser.parentWidget() != nullptr ? Qt::WindowModal : Qt::ApplicationModal);
-    chooser.setWindowTitle(VisibleText(dialog.prompt));
-    new PlainQuestions(chooser);
+std::optional<FolderItem> QtDialogs::Choose(const FileDialog& dialog, QFileDialog::AcceptMode mode) {
+    const auto native = [](const std::string& name) {
+        return QFile::decodeName(QByteArray::fromStdString(name));
+    };
+    const QPointer<QFileDialog> chooser(new QFileDialog(stage_.Find(dialog.sheetOf)));
+    chooser->setWindowTitle(VisibleText(dialog.prompt));
+    new PlainQuestions(*chooser);
     // A link is chosen as itself; the program resolves it where it wants the target.
-    chooser.setOption(QFileDialog::DontResolveSymlinks);
+    chooser->setOption(QFileDialog::DontResolveSymlinks);
+    chooser->setAcceptMode(mode);
+    chooser->setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
     if (!dialog.filterExtension.empty()) {
-        chooser.setNameFilter(ToQt(dialog.filterName + " (*" + dialog.filterExtension + ")"));
+        chooser->setNameFilter(ToQt(dialog.filterName + " (*" + dialog.filterExtension + ")"));
     }
     if (dialog.initialFolder) {
-        chooser.setDirectory(
-            QFile::decodeName(QByteArray::fromStdString(dialog.initialFolder->NativePath())));
+        chooser->setDirectory(native(dialog.initialFolder->NativePath()));
     }
-}
-
-std::optional<FolderItem> QtDialogs::Chosen(const QFileDialog& chooser) const {
-    if (loop_.IsQuitting() || chooser.result() != QDialog::Accepted || chooser.selectedFiles().isEmpty()) {
-        return std::nullopt;
+    if (mode == QFileDialog::AcceptSave && !dialog.suggestedName.empty()) {
+        if (dialog.suggestedName.ends_with(dialog.filterExtension)) {
+            // Without it the choosers, which show only such files, would not show this one again.
+            chooser->setDefaultSuffix(ToQt(dialog.filterExtension));
+        }
+        chooser->selectFile(native(dialog.suggestedName));
     }
-    const QByteArray path = QFile::encodeName(chooser.selectedFiles().constFirst());
-    return FolderItem::FromNativePath(files_, path.toStdString());
+    std::optional<FolderItem> chosen;
+    if (Run(chooser) == QDialog::Accepted && !chooser->selectedFiles().isEmpty()) {
+        const QByteArray path = QFile::encodeName(chooser->selectedFiles().constFirst());
+        chosen = FolderItem::FromNativePath(files_, path.toStdString());
+    }
+    delete chooser.data();
+    return chosen;
 }
 
 } // namespace tessarolyne

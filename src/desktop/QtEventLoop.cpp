@@ -6,7 +6,6 @@
 #include <QEventLoop>
 #include <QKeyEvent>
 #include <QTimer>
-#include <QTimerEvent>
 
 #include <chrono>
 
@@ -19,8 +18,6 @@ constexpr int waitStep = 4;
 
 // Far longer than what anyone typed meanwhile takes.
 constexpr int longestDrop = 100;
-
-const QEvent::Type taskPosted = static_cast<QEvent::Type>(QEvent::registerEventType());
 
 // Drops all input of the user, except the wish to quit.
 class InputSink final : public QObject {
@@ -37,9 +34,6 @@ protected:
 
 } // namespace
 
-QtEventLoop::QtEventLoop() = default;
-QtEventLoop::~QtEventLoop() = default;
-
 int QtEventLoop::Run() {
     RunUntil([] { return false; });
     return exitCode_;
@@ -50,85 +44,37 @@ std::int64_t QtEventLoop::Milliseconds() const {
     return std::chrono::duration_cast<std::chrono::milliseconds>(since).count();
 }
 
-void QtEventLoop::Post(std::function<void()> task) {
-    {
-        const std::lock_guard lock(mutex_);
-        posted_.push_back(std::move(task));
-    }
-    WakeUp();
-}
-
 // One event for each task, so that Qt's other events have their turn between two tasks.
-void QtEventLoop::WakeUp() {
-    QCoreApplication::postEvent(this, new QEvent(taskPosted));
+void QtEventLoop::Post(std::function<void()> task) {
+    QMetaObject::invokeMethod(
+        this, [this, task = std::move(task)] { Take(task); }, Qt::QueuedConnection);
 }
 
-bool QtEventLoop::event(QEvent* event) {
-    if (event->type() == taskPosted) {
-        RunOnePosted();
-        return true;
-    }
-    return QObject::event(event);
+void QtEventLoop::Take(std::function<void()> task) {
+    due_.push_back(std::move(task));
+    RunNext();
 }
 
-void QtEventLoop::RunOnePosted() {
-    if (waits_ > 0) {
-        return; // LetHeldIn wakes up for it again
+void QtEventLoop::RunNext() {
+    if (waits_ == 0 && !due_.empty()) {
+        const auto task = std::move(due_.front());
+        due_.pop_front();
+        task();
     }
-    std::function<void()> task;
-    {
-        const std::lock_guard lock(mutex_);
-        if (posted_.empty()) {
-            return;
-        }
-        task = std::move(posted_.front());
-        posted_.pop_front();
-    }
-    task();
 }
 
 EventLoop::AlarmId QtEventLoop::SetAlarm(int milliseconds, std::function<void()> task) {
     const AlarmId alarm = ++lastAlarm_;
-    const int timer = startTimer(milliseconds, Qt::PreciseTimer);
-    alarms_[alarm] = Alarm{timer, std::move(task)};
-    alarmOfTimer_[timer] = alarm;
+    alarms_[alarm] = std::move(task);
+    QTimer::singleShot(
+        milliseconds, Qt::PreciseTimer, this, [this, alarm] { Take([this, alarm] { Ring(alarm); }); });
     return alarm;
 }
 
-void QtEventLoop::CancelAlarm(AlarmId alarm) {
-    const auto found = alarms_.find(alarm);
-    if (found == alarms_.end()) {
-        return;
-    }
-    if (found->second.timer != 0) {
-        killTimer(found->second.timer);
-        alarmOfTimer_.erase(found->second.timer);
-    }
-    alarms_.erase(found);
-}
-
-void QtEventLoop::timerEvent(QTimerEvent* event) {
-    killTimer(event->timerId());
-    const auto found = alarmOfTimer_.find(event->timerId());
-    if (found == alarmOfTimer_.end()) {
-        return;
-    }
-    const AlarmId alarm = found->second;
-    alarmOfTimer_.erase(found);
-    alarms_[alarm].timer = 0;
-    if (waits_ > 0) {
-        heldAlarms_.push_back(alarm);
-    } else {
-        Ring(alarm);
-    }
-}
-
+// Nothing if it was taken back.
 void QtEventLoop::Ring(AlarmId alarm) {
-    const auto found = alarms_.find(alarm);
-    if (found != alarms_.end()) {
-        const auto task = std::move(found->second.task);
-        alarms_.erase(found);
-        task();
+    if (const auto rung = alarms_.extract(alarm)) {
+        rung.mapped()();
     }
 }
 
@@ -160,9 +106,7 @@ void QtEventLoop::WaitUntil(const std::function<bool()>& done) {
                 QEventLoop::ExcludeUserInputEvents | QEventLoop::WaitForMoreEvents);
         }
     }
-    if (--waits_ == 0) {
-        LetHeldIn();
-    }
+    EndWait();
 }
 
 void QtEventLoop::DropInput() {
@@ -170,23 +114,14 @@ void QtEventLoop::DropInput() {
     QCoreApplication::instance()->installEventFilter(&sink);
     ++waits_;
     QCoreApplication::processEvents(QEventLoop::AllEvents, longestDrop);
-    if (--waits_ == 0) {
-        LetHeldIn();
-    }
+    EndWait();
 }
 
 // What was held back comes by fresh events and not from inside the wait's caller.
-void QtEventLoop::LetHeldIn() {
-    for (const AlarmId alarm : std::exchange(heldAlarms_, {})) {
-        Post([this, alarm] { Ring(alarm); });
-    }
-    std::size_t waiting = 0;
-    {
-        const std::lock_guard lock(mutex_);
-        waiting = posted_.size();
-    }
-    for (std::size_t i = 0; i < waiting; ++i) {
-        WakeUp();
+void QtEventLoop::EndWait() {
+    for (std::size_t i = --waits_ == 0 ? due_.size() : 0; i > 0; --i) {
+        QMetaObject::invokeMethod(
+            this, [this] { RunNext(); }, Qt::QueuedConnection);
     }
 }
 

@@ -7,7 +7,6 @@
 #include <deque>
 #include <functional>
 #include <map>
-#include <mutex>
 #include <vector>
 
 class QEventLoop;
@@ -18,16 +17,13 @@ namespace tessarolyne {
 // wakes up while nothing happens. Needs a QCoreApplication.
 class QtEventLoop final : public QObject, public EventLoop {
 public:
-    QtEventLoop();
-    ~QtEventLoop() override;
-
     // Runs until Quit and returns its exit code; at once if the program quits already.
     int Run();
 
     std::int64_t Milliseconds() const override;
     void Post(std::function<void()> task) override;
     AlarmId SetAlarm(int milliseconds, std::function<void()> task) override;
-    void CancelAlarm(AlarmId alarm) override;
+    void CancelAlarm(AlarmId alarm) override { alarms_.erase(alarm); }
     void RunUntil(const std::function<bool()>& done) override;
     void WaitUntil(const std::function<bool()>& done) override;
     bool IsWaiting() const override { return waits_ > 0; }
@@ -35,29 +31,15 @@ public:
     void Quit(int exitCode) override;
     bool IsQuitting() const override { return quitting_; }
 
-protected:
-    bool event(QEvent* event) override;
-    void timerEvent(QTimerEvent* event) override;
-
 private:
-    struct Alarm {
-        int timer = 0; // Qt's number; 0 once it has rung and is held back
-        std::function<void()> task;
-    };
-
-    void WakeUp();
-    void RunOnePosted();
+    void Take(std::function<void()> task);
+    void RunNext();
     void Ring(AlarmId alarm);
-    void LetHeldIn();
+    void EndWait();
 
-    std::mutex mutex_; // guards posted_ alone
-    std::deque<std::function<void()>> posted_;
-
-    std::map<AlarmId, Alarm> alarms_;
-    std::map<int, AlarmId> alarmOfTimer_;
-    std::vector<AlarmId> heldAlarms_;
+    std::deque<std::function<void()>> due_; // more than one only after a wait, which holds them back
+    std::map<AlarmId, std::function<void()>> alarms_;
     AlarmId lastAlarm_ = 0;
-
     std::vector<QEventLoop*> loops_;
     int waits_ = 0;
     int exitCode_ = 0;

@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QKeySequence>
 #include <QMenu>
+#include <QShortcut>
 
 namespace tessarolyne {
 
@@ -45,8 +46,7 @@ QAction::MenuRole QtRole(MenuRole role) {
 
 // "&" marks the mnemonic only where a caption begins with it; elsewhere it is a character.
 QString MenuCaption(const MenuItem& item) {
-    const std::string& caption = item.Caption();
-    return caption.starts_with('&') ? ToQt(caption) : WithAltKey(caption, item.AltKey);
+    return item.Caption.starts_with('&') ? ToQt(item.Caption) : WithAltKey(item.Caption, item.AltKey);
 }
 
 // Where the edit commands act: the control with the program's focus, though the menu has Qt's.
@@ -58,64 +58,41 @@ QWidget* EditTarget() {
 
 } // namespace
 
-QtMenu::QtMenu(Application& application, MenuBar& menus) : application_(application), menus_(menus) {}
-
-QMenuBar* QtMenu::AddBar(WindowView& window) {
-    bar_ = new QMenuBar(&window);
-    for (const auto& model : menus_.Menus()) {
-        QMenu* const menu = bar_->addMenu(MenuCaption(*model));
-        Fill(*menu, *model);
-        connect(menu, &QMenu::aboutToShow, this, [this] { AboutToShow(); });
-        connect(menu, &QMenu::aboutToHide, this, [this] { AboutToHide(); });
-        connections_.push_back(
-            model->Changed.Connect([menu, item = model.get()] { menu->setTitle(MenuCaption(*item)); }));
-    }
-    auto* const open = new QAction(bar_);
-    open->setShortcut(QKeySequence(Qt::Key_F10));
-    connect(open, &QAction::triggered, bar_, [bar = bar_] {
-        if (!bar->actions().isEmpty()) {
-            bar->setActiveAction(bar->actions().constFirst());
+QMenuBar* QtMenu::AddTo(QWidget& window) {
+    if (bar_ != nullptr) {
+        for (const auto& [item, action] : actions_) {
+            window.addAction(action);
         }
-    });
-    window.addAction(open);
+        return nullptr;
+    }
+    bar_ = new QMenuBar(&window);
+    for (const auto& menu : menus_.Menus()) {
+        AddMenu(*menu);
+    }
+    new QShortcut(QKeySequence(Qt::Key_F10), &window, bar_,
+        [bar = bar_] { bar->setActiveAction(bar->actions().constFirst()); });
     return bar_;
 }
 
-void QtMenu::Fill(QMenu& menu, const MenuItem& model) {
-    for (const auto& item : model.Items()) {
-        if (item->Role == MenuRole::Separator || item->Caption == "-") {
-            menu.addSeparator();
-        } else {
-            menu.addAction(Make(*item, menu));
+void QtMenu::AddMenu(const MenuItem& model) {
+    QMenu* const menu = bar_->addMenu(MenuCaption(model));
+    connect(menu, &QMenu::aboutToShow, this, [this] { AboutToShow(); });
+    connect(menu, &QMenu::aboutToHide, this, [this] {
+        for (const auto& [item, action] : actions_) {
+            action->setEnabled(true);
         }
-    }
-}
-
-QAction* QtMenu::Make(MenuItem& item, QObject& owner) {
-    auto* const action = new QAction(&owner);
-    action->setObjectName(ToQt(item.Name));
-    action->setMenuRole(QtRole(item.Role));
-    action->setShortcuts(Shortcuts(item.KeyboardShortcut));
-    ReadCaption(item, *action);
-    connect(action, &QAction::triggered, this, [this, &item] { Trigger(item); });
-    connections_.push_back(item.Changed.Connect([this, &item, action] { ReadCaption(item, *action); }));
-    actions_.emplace_back(&item, action);
-    return action;
-}
-
-void QtMenu::ReadCaption(const MenuItem& item, QAction& action) {
-    const QString caption = MenuCaption(item);
-    if (action.text() != caption) {
-        action.setText(caption);
-    }
-}
-
-void QtMenu::AddShortcuts(WindowView& window) {
-    if (bar_ != nullptr && bar_->window() == &window) {
-        return; // the bar's own window has them already
-    }
-    for (const auto& [item, action] : actions_) {
-        window.addAction(action);
+    });
+    for (const auto& item : model.Items()) {
+        if (item->Role == MenuRole::Separator) {
+            menu->addSeparator();
+            continue;
+        }
+        QAction* const action = menu->addAction(MenuCaption(*item));
+        action->setObjectName(ToQt(item->Name));
+        action->setMenuRole(QtRole(item->Role));
+        action->setShortcuts(Shortcuts(item->KeyboardShortcut));
+        connect(action, &QAction::triggered, this, [this, item = item.get()] { Trigger(*item); });
+        actions_.emplace_back(item.get(), action);
     }
 }
 
@@ -123,13 +100,7 @@ void QtMenu::AboutToShow() {
     application_.EnableMenuItems();
     QWidget* const target = EditTarget();
     for (const auto& [item, action] : actions_) {
-        action->setEnabled(IsEditRole(item->Role) ? CanEdit(target, item->Role) : item->Enabled());
-    }
-}
-
-void QtMenu::AboutToHide() {
-    for (const auto& [item, action] : actions_) {
-        action->setEnabled(true);
+        action->setEnabled(IsEditRole(item->Role) ? CanEdit(target, item->Role) : item->Enabled);
     }
 }
 

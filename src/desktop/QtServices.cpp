@@ -3,6 +3,7 @@
 #include "desktop/ControlView.h"
 #include "desktop/QtText.h"
 #include "desktop/Resources.h"
+#include "platform/Application.h"
 
 #include <QAccessible>
 #include <QAccessibleWidget>
@@ -13,6 +14,7 @@
 #include <QFile>
 #include <QGuiApplication>
 #include <QProcess>
+#include <QScreen>
 #include <QStandardPaths>
 #include <QUrl>
 #include <algorithm>
@@ -48,6 +50,12 @@ QWidget* WindowToSpeakFrom() {
     return shown == all.end() ? nullptr : *shown;
 }
 
+void Silence(QProcess& process) {
+    process.setStandardInputFile(QProcess::nullDevice());
+    process.setStandardOutputFile(QProcess::nullDevice());
+    process.setStandardErrorFile(QProcess::nullDevice());
+}
+
 // An opener that ends later had the browser in its own foreground: the address was taken.
 constexpr int longestOpening = 20'000; // milliseconds
 
@@ -60,9 +68,7 @@ bool AskOpener(const QUrl& url, const std::function<void()>& refused) {
     }
     // Without a parent: a process that is destroyed while it runs is killed, and the browser with it.
     auto* const process = new QProcess;
-    process->setStandardInputFile(QProcess::nullDevice());
-    process->setStandardOutputFile(QProcess::nullDevice());
-    process->setStandardErrorFile(QProcess::nullDevice());
+    Silence(*process);
     process->setChildProcessModifier([] { ::setsid(); }); // a Ctrl+C in our terminal isn't meant for it
     QElapsedTimer since;
     since.start();
@@ -83,7 +89,14 @@ bool AskOpener(const QUrl& url, const std::function<void()>& refused) {
 }
 
 // Of PipeWire, PulseAudio, ALSA and macOS.
-constexpr const char* players[] = {"pw-play", "paplay", "aplay", "afplay"};
+QString FindPlayer() {
+    for (const char* const player : {"pw-play", "paplay", "aplay", "afplay"}) {
+        if (const QString found = QStandardPaths::findExecutable(QLatin1String(player)); !found.isEmpty()) {
+            return found;
+        }
+    }
+    return {};
+}
 
 class PlayingFile final : public Playing {
 public:
@@ -106,14 +119,59 @@ qint64 Start(const QString& player, const QString& path) {
     QProcess process;
     process.setProgram(player);
     process.setArguments({path});
-    process.setStandardInputFile(QProcess::nullDevice());
-    process.setStandardOutputFile(QProcess::nullDevice());
-    process.setStandardErrorFile(QProcess::nullDevice());
+    Silence(process);
     qint64 id = 0;
     return process.startDetached(&id) ? id : 0;
 }
 
+// The application's pointer goes before those of windows and controls.
+void ReadCursor(const Application& application) {
+    QGuiApplication::restoreOverrideCursor();
+    if (application.MouseCursor() != Cursor::None) {
+        QGuiApplication::setOverrideCursor(Qt::ArrowCursor);
+    }
+}
+
 } // namespace
+
+// What is still shown when the program ends goes with the stage; the models are gone by then or silent.
+QtStage::~QtStage() {
+    for (const auto& view : views_) {
+        delete view.data();
+    }
+}
+
+void QtStage::Present(Window& window) {
+    Application& application = window.GetApplication();
+    if (views_.empty()) {
+        applicationChanged_ = application.Changed.Connect([&application] { ReadCursor(application); });
+        ReadCursor(application);
+    }
+    std::erase_if(views_, [](const auto& view) { return view.isNull(); });
+    if (menu_ == nullptr && application.GetMenuBar() != nullptr) {
+        menu_ = std::make_unique<QtMenu>(application, *application.GetMenuBar());
+    }
+    views_.push_back(new WindowView(window, menu_.get()));
+}
+
+ScreenSize QtStage::Screen() const {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    return screen == nullptr ? ScreenSize() : ScreenSize{screen->size().width(), screen->size().height()};
+}
+
+bool QtStage::IsOnOtherScreen(const WindowPlace& place) const {
+    const QRect wanted(place.left, place.top, place.width, place.height);
+    const auto screens = QGuiApplication::screens();
+    return std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
+        return screen != QGuiApplication::primaryScreen() && screen->geometry().contains(wanted);
+    });
+}
+
+QWidget* QtStage::Find(const Window* window) const {
+    const auto found = std::find_if(views_.begin(), views_.end(),
+        [&](const auto& view) { return !view.isNull() && view->isVisible() && &view->Model() == window; });
+    return found == views_.end() ? nullptr : found->data();
+}
 
 // Not at once: where a run ends, all controls come back, and a reader that many events reach together passes
 // over some of them, Orca over all but those of the focus.
@@ -184,21 +242,8 @@ void QtSounds::Beep() {
 
 std::unique_ptr<Playing> QtSounds::Play(const std::string& file) {
     const QString path = ResourcePath("sounds/" + file);
-    const bool canPlay = !path.isEmpty() && !Player().isEmpty();
-    return std::make_unique<PlayingFile>(canPlay ? Start(Player(), path) : 0);
-}
-
-const QString& QtSounds::Player() {
-    if (!player_) {
-        player_.emplace();
-        for (const char* player : players) {
-            *player_ = QStandardPaths::findExecutable(QLatin1String(player));
-            if (!player_->isEmpty()) {
-                break;
-            }
-        }
-    }
-    return *player_;
+    static const QString player = FindPlayer();
+    return std::make_unique<PlayingFile>(path.isEmpty() || player.isEmpty() ? 0 : Start(player, path));
 }
 
 } // namespace tessarolyne

@@ -70,15 +70,12 @@ void StandBeforeOthers(QWidget& dialog) {
     dialog.windowHandle()->setTransientParent(before);
 }
 
-WindowView::WindowView(Window& window, QtMenu* menu, bool withBar)
+WindowView::WindowView(Window& window, QtMenu* menu)
     : QWidget(nullptr, Flags(window.Frame)), window_(window), content_(new WindowContent(this)),
+      bar_(menu == nullptr ? nullptr : menu->AddTo(*this)),
       focus_(window, *this, [this](const Control* control) { return Find(control); }) {
     if (window.Frame.kind == WindowFrame::Kind::MovableModal && window.Frame.blocksOthers) {
         setWindowModality(Qt::ApplicationModal);
-    }
-    if (menu != nullptr) {
-        bar_ = withBar ? menu->AddBar(*this) : nullptr;
-        menu->AddShortcuts(*this);
     }
     AddShortcuts();
     AddViews();
@@ -187,8 +184,7 @@ void WindowView::Read() {
 }
 
 int WindowView::BarHeight() const {
-    const auto* bar = qobject_cast<QMenuBar*>(bar_);
-    return bar == nullptr || bar->isNativeMenuBar() ? 0 : bar->sizeHint().height();
+    return bar_ == nullptr || bar_->isNativeMenuBar() ? 0 : bar_->sizeHint().height();
 }
 
 void WindowView::ReadSize() {

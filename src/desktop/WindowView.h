@@ -10,6 +10,8 @@
 #include <memory>
 #include <vector>
 
+class QMenuBar;
+
 namespace tessarolyne {
 
 class QtMenu;
@@ -38,8 +40,8 @@ void StandBeforeOthers(QWidget& dialog);
 // asks the model, and goes when that has closed.
 class WindowView final : public QWidget, public HasAccess {
 public:
-    // `menu` may be null; `withBar` shows the menus in this window.
-    WindowView(Window& window, QtMenu* menu, bool withBar);
+    // `menu` may be null; the first window that has it shows the bar.
+    WindowView(Window& window, QtMenu* menu);
     ~WindowView() override;
 
     Window& Model() const { return window_; }
@@ -75,7 +77,7 @@ private:
 
     Window& window_;
     WindowContent* const content_;
-    QWidget* bar_ = nullptr;
+    QMenuBar* const bar_; // null in all windows but one
     std::vector<std::unique_ptr<ControlView>> views_;
     std::vector<Connection> connections_;
     std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);

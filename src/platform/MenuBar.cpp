@@ -9,7 +9,7 @@ namespace tessarolyne {
 MenuItem::MenuItem(
     std::string name, std::string caption, std::string shortcut, bool autoEnable, MenuRole role)
     : Name(std::move(name)), KeyboardShortcut(std::move(shortcut)), AutoEnable(autoEnable), Role(role),
-      Caption(*this, std::move(caption)) {}
+      Caption(std::move(caption)) {}
 
 MenuItem& MenuItem::Append(
     std::string name, std::string caption, std::string shortcut, bool autoEnable, MenuRole role) {
@@ -21,15 +21,10 @@ MenuItem& MenuItem::Append(
 void MenuItem::UserChose(Application& application) {
     application.EnableMenuItems();
     if (Role == MenuRole::Quit) {
-        if (Enabled()) {
-            application.RequestQuit();
-        }
-        return;
+        application.RequestQuit();
+    } else if (!application.HasModalStep() && !application.GetServices().loop.IsWaiting()) {
+        Action();
     }
-    if (application.HasModalStep() || application.GetServices().loop.IsWaiting()) {
-        return;
-    }
-    Action();
 }
 
 MenuItem& MenuBar::AddMenu(std::string name, std::string caption) {

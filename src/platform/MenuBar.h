@@ -29,7 +29,7 @@ enum class MenuRole {
 };
 
 // A menu, or an item in one. Without AutoEnable the program sets Enabled; with it the framework does.
-class MenuItem final : public PropertyOwner {
+class MenuItem {
 public:
     MenuItem(std::string name, std::string caption, std::string shortcut, bool autoEnable, MenuRole role);
 
@@ -37,25 +37,22 @@ public:
         MenuRole role = MenuRole::None);
     const std::vector<std::unique_ptr<MenuItem>>& Items() const { return items_; }
 
-    // What the user's choice or the item's shortcut does: the menus are brought up to date first. An item of
-    // the framework's own acts if it is enabled; any other gives Action, which looks at Enabled itself,
-    // unless something modal is up.
+    // What the user's choice or the item's shortcut does: the menus are brought up to date first. The quit
+    // item asks the application; any other gives Action, which looks at Enabled itself, unless something
+    // modal is up.
     void UserChose(Application& application);
 
     const std::string Name;
     const std::string KeyboardShortcut; // "Cmd+O"; empty for none
     const bool AutoEnable;
     const MenuRole Role;
-    Property<std::string> Caption;
-    Property<std::string> AltKey{*this}; // the letter of the caption that chooses it while its menu is open
-    Property<bool> Enabled{*this, true};
+    const std::string Caption;
+    std::string AltKey; // the letter of the caption that chooses it while its menu is open
+    bool Enabled = true;
 
     Event<bool()> Action;
-    Signal<> Changed;
 
 private:
-    void PropertyChanged(const void*) override { Changed(); }
-
     std::vector<std::unique_ptr<MenuItem>> items_;
 };
 

@@ -30,7 +30,7 @@ TEST_CASE("A calculation disables what could disturb it and nothing else, shortc
              "ApplePrefs", "AideAide"}) {
         CAPTURE(name);
         menus.Find(name)->UserChose(world.program->app); // a dialog would fail the test
-        CHECK_FALSE(menus.Find(name)->Enabled());
+        CHECK_FALSE(menus.Find(name)->Enabled);
         CHECK(menus.Find(name)->Action());
     }
     CHECK(world.http.requests.empty());

@@ -28,7 +28,7 @@ TEST_CASE("A control is greyed once it has been disabled for 150 ms, and refuses
     const Offscreen offscreen;
     tests::TestWorld world;
     WinMain& window = world.Main();
-    const WindowView view(window, nullptr, false);
+    const WindowView view(window, nullptr);
     auto* const box = view.findChild<QWidget*>("CheckBoxMajusc");
     auto* const menu = view.findChild<QComboBox*>("PopupMenuLg");
     const auto click = [](QWidget* widget) {
@@ -63,7 +63,7 @@ TEST_CASE("In a font twice as large nothing is clipped") {
     large.setPixelSize(24);
     QApplication::setFont(large);
     tests::TestWorld world;
-    const WindowView view(world.Main(), nullptr, false);
+    const WindowView view(world.Main(), nullptr);
     for (const QComboBox* box : view.findChildren<QComboBox*>()) {
         CHECK(box->fontMetrics().horizontalAdvance(box->currentText()) <= box->width() - 30);
     }

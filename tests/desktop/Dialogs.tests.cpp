@@ -1,4 +1,3 @@
-#include "desktop/QtDialogs.h"
 #include "desktop/QtServices.h"
 #include "machine/SystemClock.h"
 #include "primes/WinNbresPremiers.h"
@@ -20,19 +19,17 @@ TEST_CASE(
     char* arguments[] = {name, nullptr};
     const QApplication application(count, arguments);
 
-    MessageDialog question;
-    question.actionCaption = "Ok";
-    question.cancelCaption = "Historique…";
-    MessageView view(question, nullptr);
-    view.show();
-    QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
-    QCoreApplication::sendEvent(&view, &escape);
-    CHECK_FALSE(view.isVisible());
-    CHECK(view.Answer() == DialogButton::None);
-
     TestWorld parts("");
     SystemClock clock;
     QtServices desktop(parts.files);
+    MessageDialog question;
+    question.actionCaption = "Ok";
+    question.cancelCaption = "Historique…";
+    desktop.loop.Post([] {
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QCoreApplication::sendEvent(QApplication::activeModalWidget(), &escape);
+    });
+    CHECK(desktop.dialogs.Ask(question) == DialogButton::None);
     Services services{clock, desktop.loop, desktop.stage, desktop.dialogs, parts.desktop, parts.sounds,
         parts.http, parts.files, parts.memory, parts.announcer};
     Program program(services);

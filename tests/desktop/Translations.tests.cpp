@@ -158,7 +158,7 @@ void CheckWidths(Window& window) {
     constexpr int titleButtons = 110;
     constexpr int frame = 8;
     constexpr int smallScreen = 800;
-    const WindowView view(window, nullptr, false);
+    const WindowView view(window, nullptr);
     CheckAltLetters(view);
     const QFontMetrics metrics(QApplication::font());
     const auto fits = [&](const QString& text, int room) {
@@ -245,7 +245,7 @@ TEST_CASE("Every text of every language fits at the pinned font, every control i
         tests::TestWorld world;
         WinMain& main = world.Main();
         QtMenu menus(world.program->app, *world.program->app.GetMenuBar());
-        CheckAltLetters(WindowView(main, &menus, true));
+        CheckAltLetters(WindowView(main, &menus));
         for (const char* digits : {"FF", "FFFFFFFFFFF", "!"}) {
             world.Type(main.EditFieldBaseOrg, digits);
             CheckWidths(main);
