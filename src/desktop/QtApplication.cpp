@@ -68,14 +68,8 @@ QtApplication::QtApplication(
     }
     TellFocusBeforeCaret();
     LoadIcon();
-    connect(this, &QGuiApplication::commitDataRequest, this, [this](QSessionManager&) {
-        if (OnSessionEnds) {
-            OnSessionEnds();
-        }
-    });
+    connect(this, &QGuiApplication::commitDataRequest, this, [this](QSessionManager&) { OnSessionEnds(); });
 }
-
-QtApplication::~QtApplication() = default;
 
 // From the files of the desktop's icon theme, without the theme: to look a name up in it takes 5 ms, and it
 // would bring the largest sizes too, over a megabyte for an X server that shows none of them.
@@ -83,23 +77,20 @@ void QtApplication::LoadIcon() {
 #ifndef Q_OS_MACOS // where the bundle has it
     QIcon icon;
     for (const int size : {16, 22, 24, 32, 48, 64, 128}) {
-        const std::string side = std::to_string(size);
-        std::string file = "icons/hicolor/";
-        file.append(side).append("x").append(side).append("/apps/");
-        icon.addFile(ResourcePath(file.append(desktopFileName().toStdString()).append(".png")));
+        const auto file = QStringLiteral("icons/hicolor/%1x%1/apps/%2.png").arg(size).arg(desktopFileName());
+        icon.addFile(ResourcePath(file.toStdString()));
     }
     setWindowIcon(icon);
 #endif
 }
 
 void QtApplication::WatchDescriptor(int descriptor, std::function<void()> readable) {
-    auto watch = std::make_unique<QSocketNotifier>(descriptor, QSocketNotifier::Read);
-    connect(watch.get(), &QSocketNotifier::activated, this, [readable = std::move(readable)] { readable(); });
-    watches_.push_back(std::move(watch));
+    auto* const watch = new QSocketNotifier(descriptor, QSocketNotifier::Read, this);
+    connect(watch, &QSocketNotifier::activated, this, [readable = std::move(readable)] { readable(); });
 }
 
 bool QtApplication::event(QEvent* event) {
-    if (event->type() == QEvent::Quit && OnQuitRequested) {
+    if (event->type() == QEvent::Quit) {
         event->ignore();
         OnQuitRequested();
         return true;

@@ -1,16 +1,14 @@
 #pragma once
 
 #include "desktop/Appearance.h"
+#include "platform/Event.h"
 
 #include <QApplication>
 
 #include <functional>
-#include <memory>
 #include <span>
 #include <string>
 #include <vector>
-
-class QSocketNotifier;
 
 namespace tessarolyne {
 
@@ -32,15 +30,14 @@ public:
     // `identifier` is the reverse domain name of the desktop entry. `options` are for Qt: the X session's.
     QtApplication(
         const std::string& name, const std::string& identifier, std::span<const char* const> options = {});
-    ~QtApplication() override;
 
     // Calls back on the main thread whenever the descriptor can be read; for signals of the machine.
     void WatchDescriptor(int descriptor, std::function<void()> readable);
 
     // The user's desktop session ends: the program must too, without asking.
-    std::function<void()> OnSessionEnds;
+    Event<void()> OnSessionEnds;
     // The desktop asks the application to quit, as from a dock.
-    std::function<void()> OnQuitRequested;
+    Event<void()> OnQuitRequested;
 
     bool event(QEvent* event) override;
 
@@ -48,7 +45,6 @@ private:
     void LoadIcon();
 
     ColorScheme colors_;
-    std::vector<std::unique_ptr<QSocketNotifier>> watches_;
 };
 
 } // namespace tessarolyne

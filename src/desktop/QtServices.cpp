@@ -60,7 +60,7 @@ void Silence(QProcess& process) {
 constexpr int longestOpening = 20'000; // milliseconds
 
 // Gives the address to the desktop's own opener, which says by its status whether a program took it; Qt
-// starts the same one, but doesn't listen. False if there is none.
+// starts the same one, but doesn't listen. False if none could be started.
 bool AskOpener(const QUrl& url, const std::function<void()>& refused) {
     const QString opener = QStandardPaths::findExecutable(QLatin1String("xdg-open"));
     if (opener.isEmpty()) {
@@ -78,14 +78,12 @@ bool AskOpener(const QUrl& url, const std::function<void()>& refused) {
             refused();
         }
     });
-    QObject::connect(process, &QProcess::errorOccurred, process, [=](QProcess::ProcessError error) {
-        if (error == QProcess::FailedToStart) {
-            process->deleteLater();
-            refused();
-        }
-    });
     process->start(opener, {QString::fromLatin1(url.toEncoded())});
-    return true;
+    const bool started = process->waitForStarted();
+    if (!started) {
+        delete process;
+    }
+    return started;
 }
 
 // Of PipeWire, PulseAudio, ALSA and macOS.

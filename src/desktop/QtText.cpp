@@ -50,6 +50,21 @@ QString WithLongRunsBroken(const QString& text) {
     return broken;
 }
 
+struct KeyOfModels {
+    int key;
+    const char* text;
+    bool alone = false; // without modifiers
+};
+constexpr KeyOfModels keysOfModels[] = {{Qt::Key_Return, "\r"}, {Qt::Key_Enter, "\x03"},
+    {Qt::Key_Escape, "\x1B"}, {Qt::Key_Tab, "\t"}, {Qt::Key_Backtab, "\t"}, {Qt::Key_PageUp, "\x0B", true},
+    {Qt::Key_PageDown, "\x0C", true}, {Qt::Key_Up, "\x1E", true}, {Qt::Key_Down, "\x1F", true}};
+
+bool IsHidden(char32_t code) {
+    constexpr QChar::Category hidden[] = {QChar::Other_Control, QChar::Other_Format, QChar::Other_Surrogate,
+        QChar::Separator_Line, QChar::Separator_Paragraph};
+    return code != U'\n' && code != U'\t' && std::ranges::count(hidden, QChar::category(code)) > 0;
+}
+
 } // namespace
 
 QString ToQt(const std::string& text) {
@@ -60,15 +75,11 @@ QString ToQt(const std::string& text) {
 }
 
 std::string FromQt(const QString& text) {
-    const QByteArray bytes = text.toUtf8();
-    return std::string(bytes.constData(), static_cast<std::size_t>(bytes.size()));
+    return text.toStdString();
 }
 
 QString WithLineFeeds(const std::string& text) {
-    QString shown = ToQt(text);
-    shown.replace(QLatin1String("\r\n"), QLatin1String("\n"));
-    shown.replace(u'\r', u'\n');
-    return shown;
+    return ToQt(ReplaceLineEndings(text, "\n"));
 }
 
 int UnitOfCharacter(const std::string& text, int character) {
@@ -79,23 +90,15 @@ int CharacterOfUnit(const std::string& text, int unit) {
     return Walk(text, [&](const Reached& reached) { return reached.unit >= unit; }).character;
 }
 
-QString LiteralCaption(const std::string& caption) {
-    return ToQt(caption).replace(u'&', QLatin1String("&&"));
-}
-
 QString WithAltKey(const std::string& caption, const std::string& letter) {
     const QString whole = ToQt(caption);
     const QString key = ToQt(letter);
-    qsizetype found = -1;
-    for (qsizetype at = 0; !key.isEmpty() && (at = whole.indexOf(key, at, Qt::CaseInsensitive)) >= 0; ++at) {
-        const bool beginsWord = at == 0 || !whole.at(at - 1).isLetterOrNumber();
-        if (beginsWord || found < 0) {
-            found = at;
-        }
-        if (beginsWord) {
-            break;
-        }
+    const qsizetype first = key.isEmpty() ? -1 : whole.indexOf(key, 0, Qt::CaseInsensitive);
+    qsizetype found = first;
+    while (found > 0 && whole.at(found - 1).isLetterOrNumber()) {
+        found = whole.indexOf(key, found + 1, Qt::CaseInsensitive);
     }
+    found = found < 0 ? first : found;
     const auto literal = [](QString part) { return part.replace(u'&', QLatin1String("&&")); };
     return found < 0 ? literal(whole) : literal(whole.left(found)) + u'&' + literal(whole.mid(found));
 }
@@ -115,29 +118,10 @@ Qt::Alignment QtAlignment(Alignment alignment) {
     return across | Qt::AlignVCenter;
 }
 
-namespace {
-
-std::string MovingKey(int key) {
-    switch (key) {
-    case Qt::Key_PageUp:
-        return "\x0B";
-    case Qt::Key_PageDown:
-        return "\x0C";
-    case Qt::Key_Up:
-        return "\x1E";
-    case Qt::Key_Down:
-        return "\x1F";
-    default:
-        return {};
-    }
-}
-
-} // namespace
-
 bool IsCommandKey(const QKeyEvent& event) {
 #ifdef Q_OS_MACOS
-    constexpr auto commands =
-        Qt::NoModifier; // Option makes characters there, and Qt itself leaves Command out
+    // Option makes characters there, and Qt itself leaves Command out.
+    constexpr auto commands = Qt::NoModifier;
 #else
     constexpr auto commands = Qt::AltModifier | Qt::MetaModifier;
 #endif
@@ -145,22 +129,11 @@ bool IsCommandKey(const QKeyEvent& event) {
 }
 
 std::string KeyText(const QKeyEvent& event) {
-    switch (event.key()) {
-    case Qt::Key_Return:
-        return "\r";
-    case Qt::Key_Enter:
-        return "\x03";
-    case Qt::Key_Escape:
-        return "\x1B";
-    case Qt::Key_Tab:
-    case Qt::Key_Backtab:
-        return "\t";
-    default:
-        break;
-    }
     const auto modifiers = event.modifiers() & ~Qt::KeypadModifier;
-    if (modifiers == Qt::NoModifier && !MovingKey(event.key()).empty()) {
-        return MovingKey(event.key());
+    for (const auto& [key, text, alone] : keysOfModels) {
+        if (event.key() == key && (!alone || modifiers == Qt::NoModifier)) {
+            return text;
+        }
     }
     // AltGr may come with Ctrl, from a remote desktop, and then types a character that can be seen. Ctrl with
     // a letter types a control character, which must not pass for Enter or Return.
@@ -172,44 +145,17 @@ std::string KeyText(const QKeyEvent& event) {
     return FromQt(text);
 }
 
-namespace {
-
-// More than anyone reads in a dialog, and laid out in a few milliseconds.
-constexpr qsizetype longestText = 10'000;
-
-bool IsHidden(char32_t code) {
-    if (code == U'\n' || code == U'\t') {
-        return false;
-    }
-    switch (QChar::category(code)) {
-    case QChar::Other_Control:
-    case QChar::Other_Format:
-    case QChar::Other_Surrogate:
-    case QChar::Separator_Line:
-    case QChar::Separator_Paragraph:
-        return true;
-    default:
-        return false;
-    }
-}
-
-QString Escape(char32_t code) {
-    return QStringLiteral("⟨U+%1⟩").arg(static_cast<uint>(code), 4, 16, QLatin1Char('0')).toUpper();
-}
-
-} // namespace
-
 QString VisibleText(const std::string& text) {
+    constexpr qsizetype longestText = 10'000; // more than anyone reads, and laid out in a few milliseconds
     QString all = WithLineFeeds(text);
     const bool cut = all.size() > longestText;
-    if (cut) {
-        all.truncate(longestText);
-    }
+    all.truncate(longestText);
     QString visible;
     visible.reserve(all.size());
     for (const char32_t code : all.toUcs4()) {
         if (IsHidden(code)) {
-            visible += Escape(code);
+            visible +=
+                QStringLiteral("⟨U+%1⟩").arg(static_cast<uint>(code), 4, 16, QLatin1Char('0')).toUpper();
         } else {
             visible += QChar::fromUcs4(code);
         }
@@ -217,14 +163,9 @@ QString VisibleText(const std::string& text) {
     return cut ? visible + u'…' : visible;
 }
 
-namespace {
-
-constexpr int smallestTenths = 7;
-constexpr int designed = 11; // pixels for which all controls have room, however large the desktop's font is
-
-} // namespace
-
 QFont FittingFont(const QWidget& widget, const QString& text, int width, int pixels) {
+    constexpr int smallestTenths = 7;
+    constexpr int designed = 11; // pixels for which all controls have room, however large the desktop's font
     QFont font = QApplication::font(&widget);
     if (pixels > 0) {
         font.setPixelSize(pixels);

@@ -24,11 +24,8 @@ QString WithLineFeeds(const std::string& text);
 int UnitOfCharacter(const std::string& text, int character);
 int CharacterOfUnit(const std::string& text, int unit);
 
-// A caption in which "&" is only a character.
-QString LiteralCaption(const std::string& caption);
-
-// The same with the letter marked that works with Alt: where a word begins with it, else where it comes
-// first.
+// A caption in which "&" is only a character, and the letter is marked that works with Alt, if any is given:
+// where a word begins with it, else where it comes first.
 QString WithAltKey(const std::string& caption, const std::string& letter);
 
 // A text as a tool tip that is never taken for markup.

@@ -261,7 +261,7 @@ void OpenContextMenu(QMenu* menu, TextControl& control, const QContextMenuEvent&
         menu->addSeparator();
     }
     for (const TextControl::Command& command : commands) {
-        QAction* const action = menu->addAction(LiteralCaption(command.caption));
+        QAction* const action = menu->addAction(WithAltKey(command.caption, ""));
         QObject::connect(
             action, &QAction::triggered, menu, [&control, command] { control.UserChoseCommand(command); });
     }

@@ -32,5 +32,5 @@ TEST_CASE("Positions agree across line ends, wide characters and bytes that are 
 TEST_CASE("A tool tip is never markup nor wider than the screen, and a caption never a mnemonic") {
     CHECK(PlainToolTip("<img src=x>\rb").contains(u"&lt;img src=x&gt;\nb"_qs));
     CHECK(PlainToolTip(std::string(100, 'x')).contains(u"x\nx"_qs)); // else it leaves the screen
-    CHECK(LiteralCaption("R&D") == u"R&&D"_qs);
+    CHECK(WithAltKey("R&D", "") == u"R&&D"_qs);
 }
