@@ -19,8 +19,7 @@ ROOT = Path(__file__).resolve().parents[1]
 sys.path.insert(0, str(ROOT / "tests" / "desktop"))
 
 from program import PROGRAM, Program  # noqa: E402
-from screen import Screen  # noqa: E402
-from waiting import wait_until  # noqa: E402
+from screen import Screen, wait_until  # noqa: E402
 
 SCREEN_SIZE = "2560x2048"  # room for two windows side by side, and for the taller one twice as large
 

@@ -1,8 +1,8 @@
+#include "desktop/Offscreen.h"
 #include "desktop/WindowView.h"
 #include "support/TestWorld.h"
 
 #include <QAbstractItemView>
-#include <QApplication>
 #include <QComboBox>
 #include <QLineEdit>
 #include <QMouseEvent>
@@ -10,23 +10,11 @@
 #include <doctest/doctest.h>
 
 using namespace tessarolyne;
-
-namespace {
-
-// An application that needs no display.
-struct Offscreen {
-    int count = 1;
-    char name[6] = "tests";
-    char* arguments[2] = {name, nullptr};
-    const bool isSet = qputenv("QT_QPA_PLATFORM", "offscreen");
-    const QApplication application{count, arguments};
-};
-
-} // namespace
+using namespace tessarolyne::tests;
 
 TEST_CASE("A control is greyed once it has been disabled for 150 ms, and refuses what comes from the first") {
-    const Offscreen offscreen;
-    tests::TestWorld world;
+    UseQt();
+    TestWorld world;
     WinMain& window = world.Main();
     const WindowView view(window, nullptr);
     auto* const box = view.findChild<QWidget*>("CheckBoxMajusc");
@@ -57,12 +45,26 @@ TEST_CASE("A control is greyed once it has been disabled for 150 ms, and refuses
     }
 }
 
+TEST_CASE("A text of the number before is fainter than others") {
+    UseQt();
+    TestWorld world;
+    const WindowView view(world.Main(), nullptr);
+    const auto color = [&] {
+        return view.findChild<QWidget*>("TxtAreaDecomp1er")->palette().color(QPalette::Text);
+    };
+    const QColor plain = color();
+    world.Main().TxtAreaDecomp1er.Remark = "of the number before";
+    CHECK(color() != plain);
+    world.Main().TxtAreaDecomp1er.Remark = "";
+    CHECK(color() == plain);
+}
+
 TEST_CASE("In a font twice as large nothing is clipped") {
-    const Offscreen offscreen;
+    UseQt();
     QFont large;
     large.setPixelSize(24);
     QApplication::setFont(large);
-    tests::TestWorld world;
+    TestWorld world;
     const WindowView view(world.Main(), nullptr);
     for (const QComboBox* box : view.findChildren<QComboBox*>()) {
         CHECK(box->fontMetrics().horizontalAdvance(box->currentText()) <= box->width() - 30);

@@ -1,9 +1,9 @@
+#include "desktop/Offscreen.h"
 #include "desktop/QtServices.h"
 #include "machine/SystemClock.h"
 #include "primes/WinNbresPremiers.h"
 #include "support/TestWorld.h"
 
-#include <QApplication>
 #include <QKeyEvent>
 
 #include <doctest/doctest.h>
@@ -13,12 +13,7 @@ using namespace tessarolyne::tests;
 
 TEST_CASE(
     "Escape chooses no button, not even one that is called cancel, and a quit ends a sheet with its window") {
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    int count = 1;
-    char name[] = "test";
-    char* arguments[] = {name, nullptr};
-    const QApplication application(count, arguments);
-
+    UseQt();
     TestWorld parts("");
     SystemClock clock;
     QtServices desktop(parts.files);

@@ -1,9 +1,9 @@
 // Over real HTTP with a server of this process, which may answer whatever it likes. Time is the virtual
 // clock's, so that nothing waits for it.
 #include "desktop/QtHttp.h"
+#include "desktop/Offscreen.h"
 #include "support/VirtualLoop.h"
 
-#include <QCoreApplication>
 #include <QElapsedTimer>
 #include <QTcpServer>
 #include <QTcpSocket>
@@ -17,66 +17,38 @@ using namespace tessarolyne::tests;
 
 namespace {
 
-enum class Server {
-    Answers,    // and closes
-    Refuses,    // the connection
-    NeverStops, // repeating its answer's last part, which may be nothing
-};
-
-// One connection after the other, each answered alike.
+// One connection after the other, each answered alike. One that isn't closed goes on with what is repeated,
+// which may be nothing.
 class Loopback {
 public:
-    explicit Loopback(std::string answer, Server behaviour = Server::Answers, std::string repeated = "")
-        : behaviour_(behaviour), answer_(std::move(answer)), repeated_(std::move(repeated)) {
-        REQUIRE(server_.listen(QHostAddress::LocalHost));
-        port = server_.serverPort();
-        if (behaviour == Server::Refuses) {
-            server_.close();
-        }
-        QObject::connect(&server_, &QTcpServer::newConnection, &server_, [this] { Take(); });
-    }
-    std::string Url() const { return "http://127.0.0.1:" + std::to_string(port) + "/a?b"; }
-
-    quint16 port = 0;
-    std::vector<std::string> requests; // each up to the empty line
-
-private:
-    void Take() {
-        QTcpSocket* const socket = server_.nextPendingConnection();
-        requests.emplace_back();
-        QObject::connect(socket, &QTcpSocket::readyRead, socket, [this, socket] {
-            requests.back() += socket->readAll().toStdString();
-            if (requests.back().ends_with("\r\n\r\n")) {
-                Answer(*socket);
-            }
+    explicit Loopback(const std::string& answer, bool closes = true, const std::string& repeated = "") {
+        REQUIRE(server.listen(QHostAddress::LocalHost));
+        port = std::to_string(server.serverPort());
+        QObject::connect(&server, &QTcpServer::newConnection, &server, [=, this] {
+            QTcpSocket* const socket = server.nextPendingConnection();
+            requests.emplace_back();
+            QObject::connect(socket, &QTcpSocket::readyRead, socket, [=, this] {
+                requests.back() += socket->readAll().toStdString();
+                if (requests.back().ends_with("\r\n\r\n")) {
+                    socket->write(QByteArray::fromStdString(answer));
+                    if (closes) {
+                        return socket->disconnectFromHost();
+                    }
+                    QObject::connect(socket, &QTcpSocket::bytesWritten, socket,
+                        [=] { socket->write(QByteArray::fromStdString(repeated)); });
+                }
+            });
         });
     }
 
-    void Answer(QTcpSocket& socket) {
-        socket.write(answer_.data(), static_cast<qint64>(answer_.size()));
-        if (behaviour_ == Server::Answers) {
-            return socket.disconnectFromHost();
-        }
-        QObject::connect(&socket, &QTcpSocket::bytesWritten, &socket,
-            [&] { socket.write(repeated_.data(), static_cast<qint64>(repeated_.size())); });
-    }
-
-    const Server behaviour_;
-    const std::string answer_;
-    const std::string repeated_;
-    QTcpServer server_;
-};
-
-struct QtHere {
-    int count = 1;
-    char name[6] = "tests";
-    char* arguments[2] = {name, nullptr};
-    QCoreApplication application{count, arguments};
+    QTcpServer server;
+    std::string port;
+    std::vector<std::string> requests; // each up to the empty line
 };
 
 // A client on Qt's sockets and a clock that stands still.
 struct Client {
-    explicit Client(HostResolver resolver = SystemAddresses) : http(loop, std::move(resolver)) {}
+    explicit Client(HostResolver resolver = SystemAddresses) : http(loop, std::move(resolver)) { UseQt(); }
 
     void Get(const std::string& url) {
         http.Get(url, [this](const HttpReply& reply) { replies.push_back(reply); });
@@ -91,9 +63,9 @@ struct Client {
             loop.Advance(0);
         }
     }
-    const HttpReply& Reply() {
-        Until([&] { return !replies.empty(); });
-        return replies.front();
+    const HttpReply& Reply(std::size_t number = 1) {
+        Until([&] { return replies.size() == number; });
+        return replies.back();
     }
 
     VirtualLoop loop;
@@ -109,15 +81,13 @@ std::string Page(const std::string& content, const std::string& moreHeaders = ""
 } // namespace
 
 TEST_CASE("Whatever a server does, it is asked once, and the answer is its whole page or none, in time") {
-    const QtHere qt;
     const std::string ok = "HTTP/1.1 200 OK\r\n";
     const std::string rest(std::size_t{256} * 1024 - Page("page").size() - 5, 'x'); // the length grows
     const std::string megabyte(std::size_t{1} << 20, 'x');
     const std::string none;
-    using enum Server;
     const struct {
         std::string what, answer, content; // no content: error 102
-        Server server = Answers;
+        bool closes = true;
         std::string repeated = {};
     } rows[] = {
         {"its length", Page("page") + "more", "page"},
@@ -135,37 +105,39 @@ TEST_CASE("Whatever a server does, it is asked once, and the answer is its whole
         {"two lengths", Page("page", "Content-Length: 3\r\n"), none},
         {"closed at once", "", none},
         {"another protocol", "220 mail.example ESMTP\r\n\r\n", none},
-        {"refused", "", none, Refuses},
-        {"slow", Page("pag").substr(0, 40), none, NeverStops},
-        {"whole, and not closed", Page("page"), "page", NeverStops},
-        {"endless", ok + "\r\n", none, NeverStops, megabyte},
-        {"an endless header", ok, none, NeverStops, "X: y\r\n"},
+        {"refused", "", none},
+        {"slow", Page("pag").substr(0, 40), none, false},
+        {"whole, and not closed", Page("page"), "page", false},
+        {"endless", ok + "\r\n", none, false, megabyte},
+        {"an endless header", ok, none, false, "X: y\r\n"},
     };
     for (const auto& row : rows) {
         CAPTURE(row.what);
-        Loopback server(row.answer, row.server, row.repeated);
         Client client;
-        client.Get(server.Url());
-        if (row.server == NeverStops && row.repeated.empty()) {
-            client.Until([&] { return !server.requests.empty() && server.requests[0].ends_with("\n\r\n"); });
+        Loopback server(row.answer, row.closes, row.repeated);
+        const std::vector<std::string> request = {
+            "GET /a?b HTTP/1.0\r\nHost: 127.0.0.1:" + server.port + "\r\n\r\n"};
+        const bool isRefused = row.what == "refused";
+        if (isRefused) {
+            server.server.close();
+        }
+        client.Get("http://127.0.0.1:" + server.port + "/a?b");
+        if (!row.closes && row.repeated.empty()) {
+            client.Until([&] { return server.requests == request; });
             client.loop.Advance(9999);
             CHECK(client.replies.empty());
             client.loop.Advance(1);
         }
-        const HttpReply& reply = client.Reply();
-        CHECK(reply.errorCode == (row.content.empty() ? QtHttp::lostConnection : 0));
-        CHECK(reply.content == row.content);
-        if (row.server != Refuses) {
-            CHECK(server.requests == std::vector{"GET /a?b HTTP/1.0\r\nHost: 127.0.0.1:" +
-                                                 std::to_string(server.port) + "\r\n\r\n"});
-        }
+        CHECK(client.Reply().errorCode == (row.content.empty() ? QtHttp::lostConnection : 0));
+        CHECK(client.Reply().content == row.content);
+        CHECK(server.requests == (isRefused ? decltype(request)() : request));
         client.loop.Advance(60'000);
         CHECK(client.replies.size() == 1);
     }
 }
 
 TEST_CASE("The next address of a host has its turn at a refusal or after 250 ms, and an unknown host none") {
-    const QtHere qt;
+    UseQt();
     Loopback server(Page("page"));
     const QHostAddress live(QHostAddress::LocalHost);
     const QHostAddress dead(QStringLiteral("127.0.0.2")); // whose queue is full: it drops what comes
@@ -176,13 +148,13 @@ TEST_CASE("The next address of a host has its turn at a refusal or after 250 ms,
                                            : std::vector{dead, dead, live};
     });
     full.setListenBacklogSize(0);
-    REQUIRE(full.listen(dead, server.port));
+    REQUIRE(full.listen(dead, server.server.serverPort()));
     full.pauseAccepting();
     QTcpSocket filler;
-    filler.connectToHost(dead, server.port);
+    filler.connectToHost(dead, server.server.serverPort());
     client.Until([&] { return filler.state() == QAbstractSocket::ConnectedState; });
 
-    const auto url = [&](const char* host) { return host + (":" + std::to_string(server.port)) + "/"; };
+    const auto url = [&](const char* host) { return host + (":" + server.port) + "/"; };
     client.Get(url("http://dead.example"));
     client.Until([&] { return client.loop.Alarms() == 2; }); // the deadline and the next address
     client.loop.Advance(499);
@@ -191,15 +163,12 @@ TEST_CASE("The next address of a host has its turn at a refusal or after 250 ms,
     client.loop.Advance(1);
     CHECK(client.Reply().content == "page");
     client.Get(url("http://refused.example"));
-    client.Until([&] { return client.replies.size() == 2; });
-    CHECK(client.replies.back().content == "page");
+    CHECK(client.Reply(2).content == "page");
     client.Get(url("http://none.example"));
-    client.Until([&] { return client.replies.size() == 3; });
-    CHECK(client.replies.back().errorCode == QtHttp::notFound);
+    CHECK(client.Reply(3).errorCode == QtHttp::notFound);
 }
 
 TEST_CASE("Nothing waits at the end for a name server that doesn't answer") {
-    const QtHere qt;
     std::promise<void> end;
     const auto ended = end.get_future().share();
     {

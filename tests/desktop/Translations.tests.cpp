@@ -1,5 +1,6 @@
 #include "app/Version.h"
 #include "conversion/WinMain.h"
+#include "desktop/Offscreen.h"
 #include "desktop/QtMenu.h"
 #include "desktop/QtText.h"
 #include "desktop/Resources.h"
@@ -12,7 +13,6 @@
 #include "ui/WinPrefs.h"
 
 #include <QAbstractButton>
-#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFontInfo>
@@ -29,6 +29,7 @@
 #include <vector>
 
 using namespace tessarolyne;
+using namespace tessarolyne::tests;
 
 namespace {
 
@@ -103,13 +104,9 @@ private:
     const QtTranslations translations_;
 };
 
-// An application that needs no display, with the pinned font.
-void UseQt() {
-    static int count = 1;
-    static char name[] = "desktop.translations.tests";
-    static char* arguments[] = {name, nullptr};
-    qputenv("QT_QPA_PLATFORM", "offscreen");
-    static const QApplication application(count, arguments);
+// The pinned font for all texts.
+void UseFont() {
+    UseQt();
     QFont font(QString::fromLatin1(fontFamily));
     font.setPixelSize(fontPixels);
     REQUIRE(QFontInfo(font).family() == QLatin1String(fontFamily));
@@ -208,7 +205,7 @@ TEST_CASE("A translators' file has known keys and whole texts, and a language's 
 }
 
 TEST_CASE("A text comes from the region's catalogue, else the language's, else it is the built-in one") {
-    UseQt();
+    UseFont();
     const struct {
         std::vector<std::string> wanted;
         std::string words, currencies, cancel, cancelOfQt;
@@ -237,12 +234,12 @@ TEST_CASE("A text comes from the region's catalogue, else the language's, else i
 
 TEST_CASE("Every text of every language fits at the pinned font, every control is explained, no Alt letter "
           "is there twice") {
-    UseQt();
+    UseFont();
     const QStringList languages = Languages() + QStringList(u"fr"_qs);
     for (const QString& language : languages) {
         CAPTURE(language.toStdString());
         const Speaking speaking({FromQt(language)});
-        tests::TestWorld world;
+        TestWorld world;
         WinMain& main = world.Main();
         QtMenu menus(world.program->app, *world.program->app.GetMenuBar());
         CheckAltLetters(WindowView(main, &menus));

@@ -59,11 +59,6 @@ class Control:
         _, start, end = Atspi.Text.get_attribute_run(self._accessible, offset, False)
         return start, end
 
-    @property
-    def caret(self):
-        """Before which character of the text the caret stands."""
-        return Atspi.Text.get_caret_offset(self._accessible)
-
     def set_text(self, text):
         """Replaces the text without a key, as dictation does."""
         Atspi.EditableText.set_text_contents(self._accessible, text)
@@ -76,11 +71,6 @@ class Control:
     @property
     def labelled(self):
         return any(r.get_relation_type() == Atspi.RelationType.LABELLED_BY for r in self._accessible.get_relation_set())
-
-    @property
-    def value(self):
-        """How far a progress bar is."""
-        return int(Atspi.Value.get_current_value(self._accessible))
 
     @property
     def window_has_keyboard(self):

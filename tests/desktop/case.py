@@ -7,7 +7,7 @@ from pathlib import Path
 
 from controls import CONTROLS
 from program import PROGRAM, Program
-from screen import Screen
+from screen import OUTPUT, Screen
 
 
 class ProgramTestCase(unittest.TestCase):
@@ -16,6 +16,8 @@ class ProgramTestCase(unittest.TestCase):
     Tests press keys and click like a user and read the accessibility tree; they never reach into the program.
     A failure leaves a picture of the screen and the program's messages in build/desktop-tests/.
     """
+
+    program = None
 
     # What stands in the preferences file of the empty home: the start asks nothing.
     PREFERENCES = "Deja Envoye Don 03 :@: True\n"
@@ -47,6 +49,11 @@ class ProgramTestCase(unittest.TestCase):
         cls._controls = {}
         cls.program = Program(cls.screen, cls._home, cls.__name__, cls.command(), cls.ENVIRONMENT)
 
+    def setUp(self):
+        if not self.running:
+            self.write_preferences(self.PREFERENCES)
+            self.start_program()
+
     @classmethod
     def command(cls):
         return [PROGRAM]
@@ -66,7 +73,7 @@ class ProgramTestCase(unittest.TestCase):
         def found():
             return opened.read_text().splitlines() if opened.exists() else []
 
-        self.program.wait_for(lambda: found() == list(addresses), lambda: f"{addresses} to be opened, not {found()}")
+        self.wait_for(lambda: found() == list(addresses), lambda: f"{addresses} to be opened, not {found()}")
         opened.unlink()
 
     def run(self, result=None):
@@ -74,36 +81,30 @@ class ProgramTestCase(unittest.TestCase):
         bad_before = len(result.failures) + len(result.errors)
         super().run(result)
         if len(result.failures) + len(result.errors) > bad_before:
-            picture = self.screen.take_picture(self.id())
-            print(f"\nPicture of the failure: {picture}\nThe program's messages:\n{self.program.log()}", flush=True)
+            picture = OUTPUT / f"{self.id()}.png"
+            self.screen.run("import", "-silent", "-window", "root", str(picture))
+            print(f"\nPicture of the failure: {picture}\nThe program's messages:\n{self.log()}", flush=True)
         return result
 
-    def all_controls(self):
-        """Everything below the program's root, menus included."""
-        return self.program.controls()
+    def __getattr__(self, name):
+        """What the run of the program can do and knows, its test has by itself."""
+        return getattr(self.program, name)
 
     def control(self, told_name):
         """The control of the main window that the program calls `told_name`."""
         if told_name not in self._controls:
             name, role = CONTROLS[told_name]
-            self._controls[told_name] = self.program.wait_for(
-                lambda: next((c for c in self.all_controls() if c.role == role and c.name == name), None),
-                lambda: f"a {role} “{name}” ({told_name}) among {self.all_controls()}",
-            )
+            self._controls[told_name] = self.find(role, name)
         return self._controls[told_name]
-
-    def find(self, role, name):
-        """Waits for a control on the screen, of whatever window, whose name begins with `name`."""
-        return self.program.find(role, name)
 
     def find_with_keyboard(self, role, name):
         """Like find, and waits for the keyboard too, which a new window gets a moment after it shows."""
         control = self.find(role, name)
-        self.program.wait_for(lambda: control.window_has_keyboard, lambda: f"the window of {control} to take keys")
+        self.wait_for(lambda: control.window_has_keyboard, lambda: f"the window of {control} to take keys")
         return control
 
     def wait_until_gone(self, role, name):
-        self.program.wait_for(lambda: not any(self.program.showing(role, name)), f"the {role} “{name}” to go")
+        self.wait_for(lambda: not any(self.showing(role, name)), f"the {role} “{name}” to go")
 
     def click(self, role, name):
         self.program.click(self.find(role, name))
@@ -116,20 +117,16 @@ class ProgramTestCase(unittest.TestCase):
     def wait_for_text(self, told_name, text):
         """Waits until the control shows exactly this text."""
         control = self.control(told_name)
-        self.program.wait_for(
+        self.wait_for(
             lambda: control.text == text, lambda: f"{told_name} to show “{text}”; it shows “{control.text}”"
         )
 
     def wait_for_focus(self, told_name):
         name = self.control(told_name).name
-        self.program.wait_for(
+        self.wait_for(
             lambda: [c.name for c in self.focused()] == [name],
             lambda: f"{told_name} alone to have the focus, not {self.focused()}",
         )
-
-    def focused(self):
-        """The controls that say they have the focus."""
-        return self.program.focused()
 
     def focus(self, told_name):
         """Clicks into a field and waits until it has the focus."""
@@ -143,9 +140,9 @@ class ProgramTestCase(unittest.TestCase):
         """
         popup = self.control(told_name)
         self.program.click(popup)
-        self.program.wait_for(lambda: popup.expanded, lambda: f"the list of {told_name} to open")
+        self.wait_for(lambda: popup.expanded, lambda: f"the list of {told_name} to open")
         self.screen.press("Home", *["Down"] * row, "Return")
-        self.program.wait_for(lambda: not popup.expanded, lambda: f"the list of {told_name} to close")
+        self.wait_for(lambda: not popup.expanded, lambda: f"the list of {told_name} to close")
 
     def press_button(self, told_name):
         self.program.click(self.control(told_name))

@@ -8,9 +8,6 @@ else of itself to the outside.
 CONTROLS = {
     "EditFieldNbre": ("Nombre en base 10", "text"),
     "EditFieldBaseOrg": ("Nombre en base de départ", "text"),
-    "EditFieldBaseDest": ("Nombre en base d'arrivée", "text"),
-    "PopupMenuBaseOrg": ("Base de départ", "combo box"),
-    "PopupMenuBaseDest": ("Base d'arrivée", "combo box"),
     "EditFieldMonnaies": ("Devise au pluriel", "text"),
     "EditFieldMonnaie": ("Devise au singulier", "text"),
     "EditFieldCentimes": ("Centime au pluriel", "text"),
@@ -18,9 +15,11 @@ CONTROLS = {
     "CheckBoxMajusc": ("Première lettre en majuscule", "check box"),
     "PopupMenuLg": ("Langue du montant en lettres", "combo box"),
     "CheckBoxTrUnion": ("Traits d'union", "check box"),
+    "EditFieldBaseDest": ("Nombre en base d'arrivée", "text"),
+    "PopupMenuBaseOrg": ("Base de départ", "combo box"),
+    "PopupMenuBaseDest": ("Base d'arrivée", "combo box"),
     "CheckBoxFormatAuto": ("Format Auto", "check box"),
     "RadioButton09AZ 0": ("01…89AB…YZ", "radio button"),
-    "RadioButton09AZ 1": ("AB…YZ01…89", "radio button"),
     "TxtAreaDecomp1er": ("Facteurs premiers", "text"),
     "TxtAreaLettres": ("Montant en lettres", "text"),
     "BevelButtonListe": ("Liste Nb 1ers", "check box"),
@@ -32,23 +31,12 @@ CONTROLS = {
     "EditFieldFin": ("Calculer jusqu'à", "text"),
     "EditFieldAffDu": ("Rang du premier nombre affiché", "text"),
     "EditFieldAffAu": ("Rang du dernier nombre affiché", "text"),
+    "TxtAreaListeNbres1ers": ("Nombres premiers affichés", "text"),
     "EditFieldNbNbresLigne": ("Nombres premiers par ligne du fichier", "text"),
     "StaticTextNbNbre1ers": ("166 nombres premiers", "label"),
-    "TxtAreaListeNbres1ers": ("Nombres premiers affichés", "text"),
-    "PushButtDecomposer": ("Décomposer", "push button"),
 }
 
-# Where Tab goes, in its order, before it begins again.
-TAB_ORDER = [
-    "EditFieldNbre",
-    "EditFieldBaseOrg",
-    "EditFieldMonnaies",
-    "EditFieldMonnaie",
-    "EditFieldCentimes",
-    "EditFieldCentime",
-    "CheckBoxMajusc",
-    "PopupMenuLg",
-    "CheckBoxTrUnion",
-]
+# Where Tab goes, in its order, before it begins again: the first of them.
+TAB_ORDER = list(CONTROLS)[:9]
 
 WINDOW_TITLE = "Tessarolyne"

@@ -7,8 +7,7 @@ from pathlib import Path
 
 from accessibility import Control, descendants, find_application
 from controls import WINDOW_TITLE
-from screen import OUTPUT, ROOT, start
-from waiting import wait_until
+from screen import OUTPUT, ROOT, start, wait_until
 
 PROGRAM = Path(os.environ.get("TESSAROLYNE_PROGRAM", ROOT / "build" / "release" / "tessarolyne"))
 
@@ -34,7 +33,7 @@ class Program:
                 lambda: find_application(self._process.pid), "the program to join the accessibility bus"
             )
             # The window manager calls the window active a moment before the program takes its first key.
-            self.wait_for(self.focused, lambda: f"the program to take the keyboard, {self._keyboard()}")
+            self.wait_for(self.focused, "the program to take the keyboard")
         except BaseException:
             self.kill()
             raise
@@ -44,9 +43,7 @@ class Program:
 
         def condition_of_a_living_program():
             if not self.running:
-                raise AssertionError(
-                    f"the program ended with {self._process.returncode} while waiting for {what}\n{self.log()}"
-                )
+                raise AssertionError(f"the program ended while waiting for {what}\n{self.log()}")
             return condition()
 
         return wait_until(condition_of_a_living_program, what, seconds)
@@ -100,39 +97,26 @@ class Program:
         self._screen.click(*(self._scale * place for place in control.centre))
 
     @property
-    def position(self):
-        """Left and top of the window's contents on the screen, without the frame."""
-        return self._numbers("Absolute upper-left X: +", "Absolute upper-left Y: +")
-
-    @property
-    def size(self):
-        return self._numbers("Width: ", "Height: ")
+    def bounds(self):
+        """Left, top, width and height of the window's contents on the screen, without the frame."""
+        return self._screen.bounds(self.window)
 
     def move(self, x, y):
         """Moves the window as a user's drag does: by way of the window manager."""
-        before = self.position
+        before = self.bounds
         self._screen.run("xdotool", "windowmove", self.window, str(x), str(y))
-        self.wait_for(lambda: self.position != before, "the window to move")
+        self.wait_for(lambda: self.bounds != before, "the window to move")
 
     def click_close_box(self):
         """Clicks the window manager's close box, the rightmost button of the title bar."""
         extents = self._screen.run("xprop", "-id", self.window, "_NET_FRAME_EXTENTS").split("=")[1]
         _, right_border, title_height, _ = map(int, extents.split(","))
-        left, top = self.position
-        self._screen.click(left + self.size[0] + right_border - title_height // 2, top - title_height // 2)
-
-    def _numbers(self, *labels):
-        information = self._screen.run("xwininfo", "-id", self.window)
-        return tuple(int(re.search(rf"{label}(-?\d+)", information).group(1)) for label in labels)
+        left, top, width, _ = self.bounds
+        self._screen.click(left + width + right_border - title_height // 2, top - title_height // 2)
 
     def _find_window(self):
         found = self._screen.find_windows(f"^{WINDOW_TITLE}$", "--pid", str(self._process.pid))
         return found[0] if found else None
-
-    def _keyboard(self):
-        """Who has it, for a failure's message."""
-        focus = self._screen.run("xdotool", "getwindowfocus").strip()
-        return f"which window {focus} has; ours is {self.window}, the active one {self._active_window()}"
 
     def _active_window(self):
         active = re.search(r"0x[0-9a-f]+", self._screen.run("xprop", "-root", "_NET_ACTIVE_WINDOW"))

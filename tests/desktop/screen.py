@@ -6,14 +6,16 @@ Nothing of the user's session is touched, and several runs can go on side by sid
 
 import atexit
 import os
+import re
 import select
 import shutil
 import subprocess
 import tempfile
+import time
 from functools import cache
 from pathlib import Path
 
-from waiting import wait_until
+from gi.repository import GLib
 
 ROOT = Path(__file__).resolve().parents[2]
 OUTPUT = ROOT / "build" / "desktop-tests"
@@ -33,6 +35,27 @@ def start(command, log, environment, **options):
             start_new_session=True,
             **options,
         )
+
+
+def wait_until(condition, what, seconds=10.0):
+    """Waits for what the program does in its own time: the one place of the desktop tests that sleeps.
+
+    Returns the first true value of condition(); fails with `what` when it stays false for `seconds`. A part of the accessibility tree may vanish while it is read: that counts as "not yet".
+    """
+    deadline = time.monotonic() + seconds
+    last = None
+    while True:
+        try:
+            last = condition()
+        except GLib.Error as error:
+            last = error.message
+        else:
+            if last:
+                return last
+        if time.monotonic() > deadline:
+            what = what() if callable(what) else what
+            raise AssertionError(f"waited {seconds} s in vain: {what} (at last: {last!r})")
+        time.sleep(0.01)
 
 
 class Screen:
@@ -126,11 +149,16 @@ class Screen:
         moves = [str(word) for x, y in (half, end, end) for word in ("mousemove", x, y)]
         self.run("xdotool", "mousemove", *map(str, start), "mousedown", "1", *moves, "mouseup", "1")
 
-    def take_picture(self, name):
-        """Writes a picture of the whole screen among the build's outputs and gives its path."""
-        path = OUTPUT / f"{name}.png"
-        self.run("import", "-silent", "-window", "root", str(path))
-        return path
+    def bounds(self, window, *options):
+        """Left, top, width and height of a window in pixels: of its contents, or with -frame of all."""
+        said = self.run("xwininfo", *options, "-id", window)
+        labels = ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")
+        return tuple(int(re.search(rf"{label}: +(-?\d+)", said).group(1)) for label in labels)
+
+    def measure(self, what, left, top, width, height):
+        """What ImageMagick tells of that part of the screen by a format such as "%k"."""
+        part = f"{width}x{height}+{left}+{top}"
+        return float(self.run("import", "-silent", "-window", "root", "-crop", part, "-format", what, "info:-"))
 
     def _start(self, name, command, **options):
         self._processes.append(start(command, OUTPUT / f"{name}.log", self.environment, **options))

@@ -10,11 +10,11 @@ from case import ProgramTestCase
 LOADING = "^Chargement des Nombres Premiers$"
 
 
-class SavingTestCase(ProgramTestCase):
+class PrimeFile(ProgramTestCase):
     def save_as(self, target):
         self.screen.press("ctrl+s")
-        self.program.wait_for(
-            lambda: next((c for c in self.all_controls() if c.focused and c.text.endswith(".txt")), None), "the chooser"
+        self.wait_for(
+            lambda: next((c for c in self.controls() if c.focused and c.text.endswith(".txt")), None), "the chooser"
         )
         self.screen.type(str(target))
         self.screen.press("Return")
@@ -31,15 +31,13 @@ class SavingTestCase(ProgramTestCase):
         path.write_bytes(b"2\t3\t5\t7\n")
         os.truncate(path, size)
         self.open(path)
-        self.program.wait_for(lambda: self.screen.find_windows(LOADING), "the load to begin")
+        self.wait_for(lambda: self.screen.find_windows(LOADING), "the load to begin")
         return path
 
-
-class PrimeFile(SavingTestCase):
     def test_primes_are_computed_saved_and_found_again(self):
         target = Path(self._home) / "primes.txt"
         self.press_button("BevelButtonListe")
-        self.program.wait_for(lambda: self.screen.find_windows("^Liste des Nombres"), "the list")
+        self.wait_for(lambda: self.screen.find_windows("^Liste des Nombres"), "the list")
         self.wait_for_focus("EditFieldFin")
         self.screen.press("ctrl+a")
         self.screen.type("987")
@@ -47,15 +45,15 @@ class PrimeFile(SavingTestCase):
         self.control("StaticTextNbNbre1ers")
         self.assertTrue(self.control("TxtAreaListeNbres1ers").text.startswith("\t2\t3\t5\t7\t11\t13\n\t17"))
         self.save_as(target.with_suffix(""))  # the chooser adds what it needs to show the file again
-        self.program.wait_for(lambda: target.is_file() and target.read_text().endswith("977\t983\n"), "the file")
+        self.wait_for(lambda: target.is_file() and target.read_text().endswith("977\t983\n"), "the file")
         self.control("PushButtonFichier")  # the commands are back: while a save runs the program takes no input
         self.press_button("BevelButtonListe")
-        self.program.wait_for(
-            lambda: not any(c.name == "Changer Fichier" for c in self.all_controls()), "the list to close"
+        self.wait_for(
+            lambda: not any(c.name == "Changer Fichier" for c in self.controls()), "the list to close"
         )
         self.focus("EditFieldNbre")
         self.screen.press("ctrl+q")
-        self.assertEqual(self.program.wait_for_end(), 0)
+        self.assertEqual(self.wait_for_end(), 0)
         self.assertIn("primes.txt", self.preferences_file.read_text())
         self.start_program()
         self.press_button("BevelButtonListe")
@@ -65,27 +63,23 @@ class PrimeFile(SavingTestCase):
         list_button = self.control("BevelButtonListe").centre
         self.load_zeros(300_000_000)  # a second
         self.screen.click(*list_button)
-        self.program.wait_for(lambda: not self.screen.find_windows(LOADING), "the load to end")
+        self.wait_for(lambda: not self.screen.find_windows(LOADING), "the load to end")
         self.press_button("CheckBoxFormatAuto")
         format_auto = self.control("CheckBoxFormatAuto")
-        self.program.wait_for(lambda: not format_auto.checked, "a click after the load to be done")
+        self.wait_for(lambda: not format_auto.checked, "a click after the load to be done")
         self.assertTrue(self.control("BevelButtonListe").checked)
 
-
-class EndOfALoad(SavingTestCase):
     def test_a_load_ends_with_the_program_and_writes_nothing(self):
         ends = (
-            lambda: self.program.signal(signal.SIGTERM),
-            lambda: self.program.click_close_box(),
+            lambda: self.signal(signal.SIGTERM),
+            lambda: self.click_close_box(),
             lambda: self.screen.press("ctrl+q"),
         )
         for number, end in enumerate(ends):
             with self.subTest(number):
-                if number > 0:
-                    self.write_preferences(self.PREFERENCES)
-                    self.start_program()
+                self.setUp()
                 path = self.load_zeros(25_000_000_000)  # a minute at least
                 before = path.stat()
                 end()
-                self.assertEqual(self.program.wait_for_end(3), 0)
+                self.assertEqual(self.wait_for_end(3), 0)
                 self.assertEqual(path.stat().st_mtime_ns, before.st_mtime_ns)

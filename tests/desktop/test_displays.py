@@ -9,8 +9,7 @@ from pathlib import Path
 
 from case import ProgramTestCase
 from program import PROGRAM
-from screen import OUTPUT, start
-from waiting import wait_until
+from screen import OUTPUT, start, wait_until
 
 
 class WithoutX(unittest.TestCase):

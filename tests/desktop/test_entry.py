@@ -1,8 +1,9 @@
-"""What keys and pastes put into the fields, and what they don't."""
+"""What keys, pastes and drags put into the fields, and what they don't."""
 
 import subprocess
 
 from case import ProgramTestCase
+from controls import TAB_ORDER
 
 
 class Entry(ProgramTestCase):
@@ -10,16 +11,16 @@ class Entry(ProgramTestCase):
         subprocess.run(
             ["xclip", "-in", "-selection", "clipboard"], env=self.screen.environment, input=text, text=True, check=True
         )
-        self.program.wait_for(lambda: self.screen.clipboard() == text, "the clipboard to have its owner")
+        self.wait_for(lambda: self.screen.clipboard() == text, "the clipboard to have its owner")
         self.screen.press("ctrl+v")
 
     def tips(self):
-        return [c.name for c in self.all_controls() if c.role == "tool tip" and c.showing]
+        return [c.name for c in self.controls() if c.role == "tool tip" and c.showing]
 
     def wait_for_refusal(self, told_name, why):
         control = self.control(told_name)
-        self.program.wait_for(lambda: control.description == why, lambda: f"“{why}”, not “{control.description}”")
-        self.program.wait_for(lambda: why in self.tips(), lambda: f"the tip “{why}” among {self.tips()}")
+        self.wait_for(lambda: control.description == why, lambda: f"“{why}”, not “{control.description}”")
+        self.wait_for(lambda: why in self.tips(), lambda: f"the tip “{why}” among {self.tips()}")
 
     def test_a_paste_is_taken_whole_or_not_at_all(self):
         self.clear("EditFieldNbre")
@@ -29,7 +30,7 @@ class Entry(ProgramTestCase):
             self.wait_for_text("EditFieldNbre", "1234.50")
             self.screen.press("ctrl+a")
             self.paste(pasted)
-            self.program.wait_for(lambda: self.control("EditFieldNbre").description != explained, "a refusal")
+            self.wait_for(lambda: self.control("EditFieldNbre").description != explained, "a refusal")
             self.wait_for_text("EditFieldNbre", "1234.50")
             self.screen.press("Delete")  # the selection has stayed, too
             self.wait_for_text("EditFieldNbre", "")
@@ -38,7 +39,7 @@ class Entry(ProgramTestCase):
         self.wait_for_text("EditFieldNbre", "123456789012")
         self.screen.press("ctrl+z")  # what was refused is none of the steps back
         number = self.control("EditFieldNbre")
-        self.program.wait_for(lambda: number.text != "123456789012", "a step back")
+        self.wait_for(lambda: number.text != "123456789012", "a step back")
         self.clear("EditFieldBaseOrg")
         self.paste("0xFF:FF")
         self.wait_for_text("EditFieldNbre", "65 535")
@@ -57,6 +58,19 @@ class Entry(ProgramTestCase):
         self.screen.run("xdotool", "mousemove", str(x + width // 2 - 12), str(y), "click", "--repeat", "2", "1")
         self.screen.type("7")
         self.wait_for_text("EditFieldNbre", "7")
+
+    def test_factors_dragged_into_a_field_count_as_typed_there(self):
+        self.clear("EditFieldNbre")
+        self.screen.type("97")
+        self.wait_for_text("TxtAreaDecomp1er", "97")
+        self.focus("TxtAreaDecomp1er")
+        self.screen.press("ctrl+a")
+        left, top, _, _ = self.control("TxtAreaDecomp1er").bounds
+        self.screen.drag((left + 12, top + 12), self.control("EditFieldNbre").centre)
+        self.wait_for_text("TxtAreaDecomp1er", "97 x 101")
+        for name in TAB_ORDER[1:]:  # for a while: Qt began a drag anew some moments later
+            self.screen.press("Tab")
+            self.wait_for_focus(name)
 
     def test_keys_with_alt_or_super_are_no_text(self):
         for name in ("EditFieldNbre", "EditFieldBaseOrg", "EditFieldCentime"):

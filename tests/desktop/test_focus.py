@@ -1,12 +1,12 @@
 """Where the keyboard goes, and that nobody is left without a name on the way."""
 
 from case import ProgramTestCase
-from controls import TAB_ORDER
+from controls import CONTROLS, TAB_ORDER
 
 
 class Focus(ProgramTestCase):
     def test_every_control_that_takes_the_focus_has_a_name(self):
-        focusable = [c for c in self.all_controls() if c.focusable and c.showing and c.role != "frame"]
+        focusable = [c for c in self.controls() if c.focusable and c.showing and c.role != "frame"]
         self.assertGreaterEqual(len(focusable), len(TAB_ORDER))
         self.assertEqual([(c.role, c.bounds) for c in focusable if not c.name.strip()], [])
 
@@ -21,23 +21,13 @@ class Focus(ProgramTestCase):
             self.wait_for_focus(name)
 
 
-MAIN_TEXTS = [
-    "EditFieldNbre",
-    "EditFieldBaseOrg",
-    "EditFieldBaseDest",
-    "EditFieldMonnaies",
-    "EditFieldMonnaie",
-    "EditFieldCentimes",
-    "EditFieldCentime",
-    "TxtAreaDecomp1er",
-    "TxtAreaLettres",
-]
-LIST_TEXTS = ["EditFieldFin", "EditFieldAffDu", "EditFieldAffAu", "TxtAreaListeNbres1ers", "EditFieldNbNbresLigne"]
+# Of the main window and of the list.
+TEXTS = [name for name, (_, role) in CONTROLS.items() if role == "text"]
 
 
 class ClicksIntoTexts(ProgramTestCase):
     def test_a_click_moves_the_focus_from_text_to_text_whatever_is_selected(self):
-        self.program.move(10, 60)  # beside the list
+        self.move(10, 60)  # beside the list
         self.screen.type("1250.40")
         self.wait_for_text("TxtAreaLettres", "mille deux cent cinquante euros quarante centimes")
         self.screen.press("Tab", "Tab")  # which selects the word there
@@ -49,8 +39,8 @@ class ClicksIntoTexts(ProgramTestCase):
 
         self.press_button("BevelButtonListe")
         self.wait_for_focus("EditFieldFin")
-        places = {name: self.control(name).centre for name in MAIN_TEXTS + LIST_TEXTS}
-        way = list(places) + list(places)[::-1] + [name for pair in zip(MAIN_TEXTS, LIST_TEXTS) for name in pair]
+        places = {name: self.control(name).centre for name in TEXTS}
+        way = TEXTS + TEXTS[::-1] + [name for pair in zip(TEXTS, TEXTS[::-1]) for name in pair]
         for selected in (True, False):
             for name in way:
                 with self.subTest(to=name, selected=selected):

@@ -12,7 +12,7 @@ class Keyboard(ProgramTestCase):
     def copies(self, text):
         """Presses the button with the focus and waits for the text on the clipboard."""
         self.screen.press("space")
-        self.program.wait_for(lambda: self.screen.clipboard() == text, f"“{text}” on the clipboard")
+        self.wait_for(lambda: self.screen.clipboard() == text, f"“{text}” on the clipboard")
 
     def test_f6_goes_over_every_control_and_keys_work_it(self):
         self.screen.press("ctrl+a")
@@ -33,7 +33,7 @@ class Keyboard(ProgramTestCase):
         self.go_to("EditFieldBaseDest")
         self.go_to("PopupMenuBaseDest")
         self.screen.press("alt+Down")
-        self.program.wait_for(lambda: self.control("PopupMenuBaseDest").expanded, "the list to open")
+        self.wait_for(lambda: self.control("PopupMenuBaseDest").expanded, "the list to open")
         self.screen.press("3", "Return")
         self.wait_for_text("EditFieldBaseDest", "201 01121")
         self.go_to("PushButtonPressPapBDest")
@@ -77,18 +77,18 @@ class Keyboard(ProgramTestCase):
         self.screen.press("alt+o")  # the check box for groups
         self.wait_for_text("EditFieldBaseDest", "11111111")
         self.screen.press("ctrl+2")
-        self.program.wait_for(lambda: self.screen.clipboard() == "11111111", "the copy of a shortcut")
+        self.wait_for(lambda: self.screen.clipboard() == "11111111", "the copy of a shortcut")
         self.screen.press("alt+o")
         self.wait_for_text("EditFieldBaseDest", "1111 1111")
         self.screen.press("ctrl+quotedbl")  # the key of the 3 on a French keyboard
-        self.program.wait_for(lambda: self.screen.clipboard() == "3 x 5 x 17", "the copy of a shortcut")
+        self.wait_for(lambda: self.screen.clipboard() == "3 x 5 x 17", "the copy of a shortcut")
         self.screen.press("F10", "Right", "Up", "Return")
         self.find_with_keyboard("check box", "Vérifier automatiquement")
         self.screen.press("alt+a")
         self.wait_until_gone("check box", "Vérifier automatiquement")
         self.wait_for_text("EditFieldNbre", "255")
         self.screen.press("Menu", "Up", "Return")  # the last row, which copies without blanks
-        self.program.wait_for(lambda: self.screen.clipboard() == "255", "the copy of the menu")
+        self.wait_for(lambda: self.screen.clipboard() == "255", "the copy of the menu")
 
     def test_the_list_is_searched_and_paged_by_keys(self):
         self.focus("EditFieldNbre")
@@ -104,9 +104,9 @@ class Keyboard(ProgramTestCase):
         self.screen.press("ctrl+End", "Prior")
         first = self.control("EditFieldAffDu")
         self.screen.press("ctrl+Home", "Prior")
-        self.program.wait_for(lambda: first.text == "1", lambda: f"the first ranks, not {first.text}")
+        self.wait_for(lambda: first.text == "1", lambda: f"the first ranks, not {first.text}")
         self.screen.press("ctrl+End", "Next")
-        self.program.wait_for(lambda: first.text != "1", "the next ranks")
+        self.wait_for(lambda: first.text != "1", "the next ranks")
         self.screen.press("alt+a")
         self.wait_for_focus("EditFieldAffDu")
 

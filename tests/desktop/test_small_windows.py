@@ -16,15 +16,6 @@ class SmallWindows(ProgramTestCase):
     def command(cls):
         return [PROGRAM, "-session", "10ab_12"]  # as an X session starts it again
 
-    def setUp(self):
-        if not self.program.running:
-            self.start_program()
-
-    def colours(self, left, top, width, height):
-        """How many colours there are on that part of the screen; a mere background has one."""
-        part = f"{width}x{height}+{left}+{top}"
-        return int(self.screen.run("import", "-silent", "-window", "root", "-crop", part, "-format", "%k", "info:-"))
-
     def open_preferences(self):
         self.choose_command("Préférences")
         return self.find("check box", "Vérifier automatiquement")
@@ -32,13 +23,13 @@ class SmallWindows(ProgramTestCase):
     def test_the_about_window_shows_its_pictures_and_only_its_button_closes_it(self):
         self.choose_command("À propos")
         logo = self.find("link", BUILD_TOOL_SITE)
-        icon = next(c for c in self.all_controls() if c.showing and c.bounds[2:] == (64, 64))
+        icon = next(c for c in self.controls() if c.showing and c.bounds[2:] == (64, 64))
         for picture in (icon, logo):
-            self.program.wait_for(lambda: self.colours(*picture.bounds) > 8, f"{picture} to be drawn")
+            self.wait_for(lambda: self.screen.measure("%k", *picture.bounds) > 8, f"{picture} to be drawn")
         self.find_with_keyboard("push button", "Faire un don")
         self.screen.press("alt+F4", "Tab")
         link = self.find("link", AUTHOR_SITE_2)
-        self.program.wait_for(lambda: link.focused, "the first link to have the focus")
+        self.wait_for(lambda: link.focused, "the first link to have the focus")
         self.screen.press("Return")
         self.wait_until_opened(AUTHOR_SITE_2)
         for press in (lambda: self.screen.click(*logo.centre), logo.press):
@@ -73,7 +64,7 @@ class SmallWindows(ProgramTestCase):
         box = self.open_preferences()
         self.assertFalse(box.checked)
         self.screen.click(*box.centre)
-        self.program.wait_for(lambda: box.checked, "the check mark")
+        self.wait_for(lambda: box.checked, "the check mark")
         self.screen.press("Escape")
         self.wait_until_gone("check box", "Vérifier automatiquement")
         box = self.open_preferences()
@@ -82,5 +73,5 @@ class SmallWindows(ProgramTestCase):
         self.screen.press("Return")
         self.wait_until_gone("check box", "Vérifier automatiquement")
         self.screen.press("ctrl+q")
-        self.assertEqual(self.program.wait_for_end(), 0)
+        self.assertEqual(self.wait_for_end(), 0)
         self.assertIn("Auto Check Update :@: True", self.preferences_file.read_text())

@@ -10,16 +10,16 @@ class Window(ProgramTestCase):
     def test_the_desktop_knows_the_window_and_shows_an_icon(self):
         entry = (ROOT / "resources/linux/org.tessarolyne.Tessarolyne.desktop").read_text()
         window_class = re.search("^StartupWMClass=(.*)$", entry, re.MULTILINE).group(1)
-        properties = self.screen.run("xprop", "-id", self.program.window, "WM_CLASS", "_NET_WM_ICON")
+        properties = self.screen.run("xprop", "-id", self.window, "WM_CLASS", "_NET_WM_ICON")
         self.assertIn(f', "{window_class}"\n', properties)
         sizes = re.findall(r"Icon \((\d+) x \1\)", properties)
         self.assertEqual(["16", "22", "24", "32", "48", "64", "128"], sorted(sizes, key=int))
 
     def test_the_window_comes_back_where_it_was_and_does_not_creep(self):
-        self.program.move(173, 91)
-        place = self.program.position
-        for leave in (lambda: self.program.click_close_box(), lambda: self.screen.press("ctrl+q")):
+        self.move(173, 91)
+        place = self.bounds
+        for leave in (lambda: self.click_close_box(), lambda: self.screen.press("ctrl+q")):
             leave()
-            self.assertEqual(self.program.wait_for_end(), 0)
+            self.assertEqual(self.wait_for_end(), 0)
             self.start_program()
-            self.assertEqual(self.program.position, place)
+            self.assertEqual(self.bounds, place)

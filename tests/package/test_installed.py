@@ -25,7 +25,7 @@ class Installed(ProgramTestCase):
         super().start_program()
 
     def tearDown(self):
-        self.assertEqual("", self.program.log())
+        self.assertEqual("", self.log())
 
     def test_a_number_is_worked_on_and_the_sound_found(self):
         played = Path(self._home) / "played"
@@ -34,7 +34,7 @@ class Installed(ProgramTestCase):
         self.wait_for_text("EditFieldBaseDest", "1111 1111")
         self.wait_for_text("TxtAreaLettres", "deux cent cinquante-cinq euros zéro centime")
         self.press_button("PushButtonPressPapBDest")
-        self.program.wait_for(lambda: played.is_file() and played.read_text().endswith("\n"), "the sound")
+        self.wait_for(lambda: played.is_file() and played.read_text().endswith("\n"), "the sound")
         sound = played.read_text().strip()
         self.assertEqual("/usr/share/tessarolyne/sounds/Bip.wav", sound)
         self.assertTrue((TREE / sound[1:]).is_file())
@@ -52,5 +52,5 @@ class InstalledForTheEnglish(ProgramTestCase):
     ENVIRONMENT = {"LANGUAGE": "en"}
 
     def test_the_translations_are_found(self):
-        self.program.wait_for(lambda: any(c.name == "Factor" for c in self.all_controls()), "an English caption")
-        self.assertEqual("", self.program.log())
+        self.wait_for(lambda: any(c.name == "Factor" for c in self.controls()), "an English caption")
+        self.assertEqual("", self.log())
