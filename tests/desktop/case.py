@@ -11,13 +11,11 @@ from screen import OUTPUT, Screen
 
 
 class ProgramTestCase(unittest.TestCase):
-    """A fresh program in an empty home for each class; its tests run on it in the order of their names.
+    """A fresh program in an empty home for each class, and after its end; tests run in the order of their names.
 
     Tests press keys and click like a user and read the accessibility tree; they never reach into the program.
     A failure leaves a picture of the screen and the program's messages in build/desktop-tests/.
     """
-
-    program = None
 
     # What stands in the preferences file of the empty home: the start asks nothing.
     PREFERENCES = "Deja Envoye Don 03 :@: True\n"
@@ -25,46 +23,34 @@ class ProgramTestCase(unittest.TestCase):
     # What the program's environment has besides the screen's; there it speaks French, as in the C locale.
     ENVIRONMENT = {}
 
+    # What it is started with.
+    ARGUMENTS = []
+
     @classmethod
     def setUpClass(cls):
-        if not cls.command()[0].is_file():
-            raise AssertionError(f"there is no {cls.command()[0]}: build the presets `release` and `desktop` first")
         cls.screen = Screen.shared()
+        cls.program = None
         cls._home = tempfile.mkdtemp(prefix="tessarolyne-home-")
         cls.addClassCleanup(shutil.rmtree, cls._home, ignore_errors=True)
         cls.preferences_file = Path(cls._home) / ".config" / "Tessarolyne Prefs.txt"
-        cls.write_preferences(cls.PREFERENCES)
-        cls._provide_browser()
-        cls.start_program()
-        cls.addClassCleanup(lambda: cls.program.kill())
+        cls.preferences_file.parent.mkdir()
+        # What the desktop opens addresses with, which only notes them, one a line.
+        browser = Path(cls._home) / "bin" / "xdg-open"
+        browser.parent.mkdir()
+        browser.write_text('#!/bin/sh\nprintf "%s\\n" "$1" >>"$HOME/opened"\n')
+        browser.chmod(0o755)
 
-    @classmethod
-    def write_preferences(cls, text):
-        cls.preferences_file.parent.mkdir(parents=True, exist_ok=True)
-        cls.preferences_file.write_text(text)
+    def setUp(self):
+        if self.program is None or not self.running:
+            self.preferences_file.write_text(self.PREFERENCES)
+            self.start_program()
 
     @classmethod
     def start_program(cls):
         """Starts the program, again in the same home when it ran before."""
         cls._controls = {}
-        cls.program = Program(cls.screen, cls._home, cls.__name__, cls.command(), cls.ENVIRONMENT)
-
-    def setUp(self):
-        if not self.running:
-            self.write_preferences(self.PREFERENCES)
-            self.start_program()
-
-    @classmethod
-    def command(cls):
-        return [PROGRAM]
-
-    @classmethod
-    def _provide_browser(cls):
-        """What the desktop opens addresses with, which only notes them, one a line."""
-        browser = Path(cls._home) / "bin" / "xdg-open"
-        browser.parent.mkdir()
-        browser.write_text('#!/bin/sh\nprintf "%s\\n" "$1" >>"$HOME/opened"\n')
-        browser.chmod(0o755)
+        cls.program = Program(cls.screen, cls._home, cls.__name__, [PROGRAM, *cls.ARGUMENTS], cls.ENVIRONMENT)
+        cls.addClassCleanup(cls.program.kill)
 
     def wait_until_opened(self, *addresses):
         """Waits until exactly these addresses have gone to the browser, and forgets them."""
@@ -117,9 +103,7 @@ class ProgramTestCase(unittest.TestCase):
     def wait_for_text(self, told_name, text):
         """Waits until the control shows exactly this text."""
         control = self.control(told_name)
-        self.wait_for(
-            lambda: control.text == text, lambda: f"{told_name} to show “{text}”; it shows “{control.text}”"
-        )
+        self.wait_for(lambda: control.text == text, lambda: f"{told_name} to show “{text}”; it shows “{control.text}”")
 
     def wait_for_focus(self, told_name):
         name = self.control(told_name).name
@@ -132,17 +116,6 @@ class ProgramTestCase(unittest.TestCase):
         """Clicks into a field and waits until it has the focus."""
         self.press_button(told_name)
         self.wait_for_focus(told_name)
-
-    def choose(self, told_name, row):
-        """Chooses a row of a popup by keys: opens it, goes to the first row and down.
-
-        Waits for the list to open and to close again: while it is up it takes every click for its own.
-        """
-        popup = self.control(told_name)
-        self.program.click(popup)
-        self.wait_for(lambda: popup.expanded, lambda: f"the list of {told_name} to open")
-        self.screen.press("Home", *["Down"] * row, "Return")
-        self.wait_for(lambda: not popup.expanded, lambda: f"the list of {told_name} to close")
 
     def press_button(self, told_name):
         self.program.click(self.control(told_name))

@@ -48,9 +48,7 @@ class PrimeFile(ProgramTestCase):
         self.wait_for(lambda: target.is_file() and target.read_text().endswith("977\t983\n"), "the file")
         self.control("PushButtonFichier")  # the commands are back: while a save runs the program takes no input
         self.press_button("BevelButtonListe")
-        self.wait_for(
-            lambda: not any(c.name == "Changer Fichier" for c in self.controls()), "the list to close"
-        )
+        self.wait_for(lambda: not any(c.name == "Changer Fichier" for c in self.controls()), "the list to close")
         self.focus("EditFieldNbre")
         self.screen.press("ctrl+q")
         self.assertEqual(self.wait_for_end(), 0)

@@ -3,7 +3,6 @@
 from gi.repository import Gio, GLib
 
 from case import ProgramTestCase
-from screen import Screen
 
 # Whether the desktop is light or dark.
 LIGHT, DARK = 0, 1
@@ -51,10 +50,9 @@ class Portal:
 class DesktopThatTellsByItsPortal(ProgramTestCase):
     @classmethod
     def setUpClass(cls):
-        Screen.shared()
+        super().setUpClass()
         cls.portal = Portal(DARK)
         cls.addClassCleanup(cls.portal.end)
-        super().setUpClass()
 
     def wait_until_window_is(self, scheme):
         left, top, _, _ = self.bounds

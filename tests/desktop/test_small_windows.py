@@ -3,7 +3,6 @@
 from pathlib import Path
 
 from case import ProgramTestCase
-from program import PROGRAM
 
 AUTHOR_SITE = "http://www.tessarolyne.example"
 AUTHOR_SITE_2 = "http://www2.tessarolyne.example"
@@ -12,9 +11,7 @@ BUILD_TOOL_SITE = "http://www.buildtool.example"
 
 
 class SmallWindows(ProgramTestCase):
-    @classmethod
-    def command(cls):
-        return [PROGRAM, "-session", "10ab_12"]  # as an X session starts it again
+    ARGUMENTS = ["-session", "10ab_12"]  # as an X session starts it again
 
     def open_preferences(self):
         self.choose_command("Préférences")
