@@ -6,6 +6,7 @@
 #include <QChildEvent>
 #include <QDialogButtonBox>
 #include <QFile>
+#include <QFileDialog>
 #include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QLabel>
@@ -146,30 +147,28 @@ QPlainTextEdit* MessageView::MakeText(const MessageDialog& dialog) {
 QWidget* MessageView::MakeButtons(const MessageDialog& dialog) {
     auto* const box = new QDialogButtonBox(this);
     QString taken;
-    const auto add = [&](const std::string& caption, QDialogButtonBox::ButtonRole role, DialogButton answer,
-                         const std::string& helpTag) {
-        auto* const button = box->addButton(WithFreeLetter(caption, taken), role);
+    const struct {
+        const std::string &caption, &helpTag;
+        QDialogButtonBox::ButtonRole role;
+        DialogButton answer;
+    } buttons[] = {
+        {dialog.actionCaption, dialog.actionHelpTag, QDialogButtonBox::AcceptRole, DialogButton::Action},
+        {dialog.cancelCaption, dialog.cancelHelpTag, QDialogButtonBox::RejectRole, DialogButton::Cancel},
+        {dialog.alternateCaption, dialog.alternateHelpTag, QDialogButtonBox::DestructiveRole,
+            DialogButton::Alternate}};
+    for (const auto& [caption, helpTag, role, answer] : buttons) {
+        if (caption.empty() && answer != DialogButton::Action) {
+            continue;
+        }
+        auto* const button = caption.empty() ? box->addButton(QDialogButtonBox::Ok)
+                                             : box->addButton(WithFreeLetter(caption, taken), role);
         button->setAutoDefault(false); // Return belongs to the action button alone
         const QString tag = VisibleText(helpTag);
         button->setToolTip(PlainToolTip(FromQt(tag)));
         button->setAccessibleDescription(tag); // else Qt reads out the tool tip's markup
-        connect(button, &QPushButton::clicked, this, [this, answer] { done(static_cast<int>(answer)); });
-        return button;
-    };
-    if (dialog.actionCaption.empty()) {
-        action_ = box->addButton(QDialogButtonBox::Ok);
         connect(
-            action_, &QPushButton::clicked, this, [this] { done(static_cast<int>(DialogButton::Action)); });
-    } else {
-        action_ = add(
-            dialog.actionCaption, QDialogButtonBox::AcceptRole, DialogButton::Action, dialog.actionHelpTag);
-    }
-    if (!dialog.cancelCaption.empty()) {
-        add(dialog.cancelCaption, QDialogButtonBox::RejectRole, DialogButton::Cancel, dialog.cancelHelpTag);
-    }
-    if (!dialog.alternateCaption.empty()) {
-        add(dialog.alternateCaption, QDialogButtonBox::DestructiveRole, DialogButton::Alternate,
-            dialog.alternateHelpTag);
+            button, &QPushButton::clicked, this, [this, result = static_cast<int>(answer)] { done(result); });
+        action_ = action_ == nullptr ? button : action_;
     }
     action_->setDefault(true);
     return box;
@@ -211,15 +210,7 @@ void QtDialogs::Tell(const std::string& text) {
     Ask(dialog);
 }
 
-std::optional<FolderItem> QtDialogs::ChooseFile(const FileDialog& dialog) {
-    return Choose(dialog, QFileDialog::AcceptOpen);
-}
-
-std::optional<FolderItem> QtDialogs::ChooseTarget(const FileDialog& dialog) {
-    return Choose(dialog, QFileDialog::AcceptSave);
-}
-
-std::optional<FolderItem> QtDialogs::Choose(const FileDialog& dialog, QFileDialog::AcceptMode mode) {
+std::optional<FolderItem> QtDialogs::Choose(const FileDialog& dialog) {
     const auto native = [](const std::string& name) {
         return QFile::decodeName(QByteArray::fromStdString(name));
     };
@@ -228,15 +219,15 @@ std::optional<FolderItem> QtDialogs::Choose(const FileDialog& dialog, QFileDialo
     new PlainQuestions(*chooser);
     // A link is chosen as itself; the program resolves it where it wants the target.
     chooser->setOption(QFileDialog::DontResolveSymlinks);
-    chooser->setAcceptMode(mode);
-    chooser->setFileMode(mode == QFileDialog::AcceptOpen ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
+    chooser->setAcceptMode(dialog.toSave ? QFileDialog::AcceptSave : QFileDialog::AcceptOpen);
+    chooser->setFileMode(dialog.toSave ? QFileDialog::AnyFile : QFileDialog::ExistingFile);
     if (!dialog.filterExtension.empty()) {
         chooser->setNameFilter(ToQt(dialog.filterName + " (*" + dialog.filterExtension + ")"));
     }
     if (dialog.initialFolder) {
         chooser->setDirectory(native(dialog.initialFolder->NativePath()));
     }
-    if (mode == QFileDialog::AcceptSave && !dialog.suggestedName.empty()) {
+    if (dialog.toSave && !dialog.suggestedName.empty()) {
         if (dialog.suggestedName.ends_with(dialog.filterExtension)) {
             // Without it the choosers, which show only such files, would not show this one again.
             chooser->setDefaultSuffix(ToQt(dialog.filterExtension));

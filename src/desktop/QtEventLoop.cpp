@@ -1,4 +1,4 @@
-#include "desktop/QtEventLoop.h"
+#include "desktop/QtServices.h"
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>

@@ -1,5 +1,4 @@
-#include "desktop/QtHttp.h"
-
+#include "desktop/QtServices.h"
 #include "desktop/QtText.h"
 
 #include <QNetworkProxy>

@@ -30,18 +30,11 @@ QList<QKeySequence> Shortcuts(const std::string& shortcut) {
 }
 
 QAction::MenuRole QtRole(MenuRole role) {
-    switch (role) {
-    case MenuRole::Quit:
-        return QAction::QuitRole;
-    case MenuRole::About:
-        return QAction::AboutRole;
-    case MenuRole::Application:
-        return QAction::ApplicationSpecificRole;
-    case MenuRole::Preferences:
-        return QAction::PreferencesRole;
-    default:
-        return QAction::NoRole;
-    }
+    return role == MenuRole::Quit          ? QAction::QuitRole
+           : role == MenuRole::About       ? QAction::AboutRole
+           : role == MenuRole::Application ? QAction::ApplicationSpecificRole
+           : role == MenuRole::Preferences ? QAction::PreferencesRole
+                                           : QAction::NoRole;
 }
 
 // "&" marks the mnemonic only where a caption begins with it; elsewhere it is a character.

@@ -98,9 +98,16 @@ QString FindPlayer() {
 
 class PlayingFile final : public Playing {
 public:
-    explicit PlayingFile(qint64 player) : player_(player) { since_.start(); }
+    PlayingFile(const QString& player, const QString& path) {
+        QProcess process;
+        process.setProgram(player);
+        process.setArguments({path});
+        Silence(process);
+        hasStarted_ = !player.isEmpty() && !path.isEmpty() && process.startDetached(&player_);
+        since_.start();
+    }
     bool IsPlaying() const override {
-        return player_ != 0 && since_.elapsed() < longest && ::kill(static_cast<pid_t>(player_), 0) == 0;
+        return hasStarted_ && since_.elapsed() < longest && ::kill(static_cast<pid_t>(player_), 0) == 0;
     }
 
 private:
@@ -108,19 +115,10 @@ private:
     // for ever.
     static constexpr qint64 longest = 10'000;
 
-    const qint64 player_; // its process; 0 is none
+    qint64 player_ = 0; // its process
+    bool hasStarted_ = false;
     QElapsedTimer since_;
 };
-
-// Gives the player's process, 0 if it didn't start.
-qint64 Start(const QString& player, const QString& path) {
-    QProcess process;
-    process.setProgram(player);
-    process.setArguments({path});
-    Silence(process);
-    qint64 id = 0;
-    return process.startDetached(&id) ? id : 0;
-}
 
 // The application's pointer goes before those of windows and controls.
 void ReadCursor(const Application& application) {
@@ -239,9 +237,8 @@ void QtSounds::Beep() {
 }
 
 std::unique_ptr<Playing> QtSounds::Play(const std::string& file) {
-    const QString path = ResourcePath("sounds/" + file);
     static const QString player = FindPlayer();
-    return std::make_unique<PlayingFile>(path.isEmpty() || player.isEmpty() ? 0 : Start(player, path));
+    return std::make_unique<PlayingFile>(player, ResourcePath("sounds/" + file));
 }
 
 } // namespace tessarolyne

@@ -1,19 +1,85 @@
 #pragma once
 
-#include "desktop/QtEventLoop.h"
-#include "desktop/QtHttp.h"
 #include "desktop/QtMenu.h"
 #include "desktop/WindowView.h"
+#include "platform/EventLoop.h"
+#include "platform/Http.h"
 #include "platform/Services.h"
 
-#include <QFileDialog>
+#include <QByteArray>
+#include <QDialog>
+#include <QHostAddress>
 #include <QPointer>
 #include <QTimer>
+#include <deque>
+#include <functional>
+#include <map>
 #include <memory>
 #include <optional>
 #include <vector>
 
+class QEventLoop;
+
 namespace tessarolyne {
+
+// The main thread's loop on Qt's. Posted tasks and alarms run one at a time from Qt's own events, so nothing
+// wakes up while nothing happens. Needs a QCoreApplication.
+class QtEventLoop final : public QObject, public EventLoop {
+public:
+    // Runs until Quit and returns its exit code; at once if the program quits already.
+    int Run();
+
+    std::int64_t Milliseconds() const override;
+    void Post(std::function<void()> task) override;
+    AlarmId SetAlarm(int milliseconds, std::function<void()> task) override;
+    void CancelAlarm(AlarmId alarm) override { alarms_.erase(alarm); }
+    void RunUntil(const std::function<bool()>& done) override;
+    void WaitUntil(const std::function<bool()>& done) override;
+    bool IsWaiting() const override { return waits_ > 0; }
+    void DropInput() override;
+    void Quit(int exitCode) override;
+    bool IsQuitting() const override { return quitting_; }
+
+private:
+    void Take(std::function<void()> task);
+    void RunNext();
+    void Ring(AlarmId alarm);
+    void EndWait();
+
+    std::deque<std::function<void()>> due_; // more than one only after a wait, which holds them back
+    std::map<AlarmId, std::function<void()>> alarms_;
+    AlarmId lastAlarm_ = 0;
+    std::vector<QEventLoop*> loops_;
+    int waits_ = 0;
+    int exitCode_ = 0;
+    bool quitting_ = false;
+};
+
+// The addresses of a host, best first; none if there is no such host. Called on a thread of its own.
+using HostResolver = std::function<std::vector<QHostAddress>(const QByteArray& host)>;
+std::vector<QHostAddress> SystemAddresses(const QByteArray& host);
+
+// Plain HTTP for small pages over Qt's sockets: one request, which says nothing about the user, and its
+// answer, of limited size and in limited time; no redirects, proxies, cookies or encodings. Not over Qt's own
+// HTTP, which asks again where a server hangs up, names the user's language, takes headers of any length, and
+// at the end of the process waits for a look-up that is under way.
+class QtHttp final : public HttpService {
+public:
+    // Error codes of a reply without a page, in the framework's numbers.
+    static constexpr int lostConnection = 102;
+    static constexpr int notFound = 103;
+
+    // `loop` is also the deadline's clock.
+    explicit QtHttp(EventLoop& loop, HostResolver resolver = SystemAddresses)
+        : loop_(loop), resolver_(std::move(resolver)), exchanges_(std::make_unique<QObject>()) {}
+
+    void Get(const std::string& url, std::function<void(const HttpReply&)> reply) override;
+
+private:
+    EventLoop& loop_;
+    const HostResolver resolver_;
+    const std::unique_ptr<QObject> exchanges_; // the parent of those under way
+};
 
 // The user's screens. The first window that is shown bears the menu bar, where the platform has none of its
 // own; the others obey its shortcuts.
@@ -43,12 +109,10 @@ public:
 
     DialogButton Ask(const MessageDialog& dialog) override;
     void Tell(const std::string& text) override;
-    std::optional<FolderItem> ChooseFile(const FileDialog& dialog) override;
-    std::optional<FolderItem> ChooseTarget(const FileDialog& dialog) override;
+    std::optional<FolderItem> Choose(const FileDialog& dialog) override;
 
 private:
     int Run(QDialog* dialog);
-    std::optional<FolderItem> Choose(const FileDialog& dialog, QFileDialog::AcceptMode mode);
 
     EventLoop& loop_;
     const QtStage& stage_;

@@ -108,6 +108,7 @@ struct FileDialog {
     std::string filterExtension; // ".txt"
     std::optional<FolderItem> initialFolder;
     std::string suggestedName;
+    bool toSave = false;
     Window* sheetOf = nullptr;
 };
 
@@ -121,8 +122,7 @@ public:
     // One text and one button to put it away.
     virtual void Tell(const std::string& text) = 0;
     // The chosen item, nil when the user cancels.
-    virtual std::optional<FolderItem> ChooseFile(const FileDialog& dialog) = 0;
-    virtual std::optional<FolderItem> ChooseTarget(const FileDialog& dialog) = 0;
+    virtual std::optional<FolderItem> Choose(const FileDialog& dialog) = 0;
 };
 
 // How much memory this process may still take. For what grows by the gigabyte and wants to end in order.

@@ -195,6 +195,7 @@ std::optional<FolderItem> Fncts::ChooseItem(const std::optional<FolderItem>& dep
     dialog.filterExtension = filtre.Extensions;
     dialog.sheetOf = sheet ? fenetre : nullptr;
     dialog.suggestedName = nomPropose;
+    dialog.toSave = toSave;
     if (!depart) {
         dialog.initialFolder = FolderItem::Find(services_.files, KnownFolder::Documents);
     } else if (DossPasPack_f(*depart)) {
@@ -205,8 +206,7 @@ std::optional<FolderItem> Fncts::ChooseItem(const std::optional<FolderItem>& dep
     } else {
         dialog.suggestedName.clear();
     }
-    Dialogs& dialogs = services_.dialogs;
-    auto chosen = toSave ? dialogs.ChooseTarget(dialog) : dialogs.ChooseFile(dialog);
+    auto chosen = services_.dialogs.Choose(dialog);
     if (sheet) {
         CtrlDsFenetrDiag(fenetre, false);
     }

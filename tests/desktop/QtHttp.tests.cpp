@@ -1,7 +1,7 @@
 // Over real HTTP with a server of this process, which may answer whatever it likes. Time is the virtual
 // clock's, so that nothing waits for it.
-#include "desktop/QtHttp.h"
 #include "desktop/Offscreen.h"
+#include "desktop/QtServices.h"
 #include "support/VirtualLoop.h"
 
 #include <QElapsedTimer>

@@ -87,14 +87,13 @@ public:
         told.push_back(text);
         REQUIRE_MESSAGE(expectedTells_-- > 0, "unexpected message: " << text);
     }
-    std::optional<FolderItem> ChooseFile(const FileDialog& dialog) override {
+    std::optional<FolderItem> Choose(const FileDialog& dialog) override {
         fileDialogs.push_back(dialog);
         REQUIRE_MESSAGE(!fileAnswers_.empty(), "unexpected file dialog: " << dialog.prompt);
         const auto answer = fileAnswers_.front();
         fileAnswers_.pop_front();
         return answer;
     }
-    std::optional<FolderItem> ChooseTarget(const FileDialog& dialog) override { return ChooseFile(dialog); }
 
     // The next question, its answer, and what happens while it is up.
     void Expect(
