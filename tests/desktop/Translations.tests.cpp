@@ -67,14 +67,11 @@ std::map<std::string, Entry> Catalogue(const QString& language) {
     return entries;
 }
 
-const std::map<std::string, std::string>& BuiltIn() {
-    static const std::map<std::string, std::string> texts = {
+const std::map<std::string, std::string> builtInTexts = {
 #define TEXT(name, text) {"Localisation." #name, text},
 #include "ui/Localisation.def"
 #undef TEXT
-    };
-    return texts;
-}
+};
 
 QStringList Languages() {
     QStringList languages;
@@ -171,6 +168,8 @@ void CheckWidths(Window& window) {
         CAPTURE(widget->objectName().toStdString());
         CAPTURE(widget->accessibleName().toStdString());
         CHECK(QFontInfo(widget->font()).pixelSize() >= fontPixels);
+        const bool isControl = !widget->objectName().isEmpty() && widget->focusPolicy() != Qt::NoFocus;
+        CHECK((!isControl || !widget->accessibleName().trimmed().isEmpty()));
     }
     for (const Control* control : window.Controls()) {
         CAPTURE(control->Name);
@@ -189,8 +188,8 @@ TEST_CASE("A translators' file has known keys and whole texts, and a language's 
         const auto entries = Catalogue(language);
         for (const auto& [key, entry] : entries) {
             CAPTURE(key);
-            const auto builtIn = BuiltIn().find(key);
-            REQUIRE(builtIn != BuiltIn().end());
+            const auto builtIn = builtInTexts.find(key);
+            REQUIRE(builtIn != builtInTexts.end());
             const QString french = WithLineFeeds(builtIn->second);
             const QString& text = entry.translation;
             CHECK(entry.source.toStdString() == french.toStdString());
@@ -198,7 +197,7 @@ TEST_CASE("A translators' file has known keys and whole texts, and a language's 
             CHECK(!text.trimmed().isEmpty());
             CHECK(Frame(text).toStdString() == Frame(french).toStdString());
         }
-        for (const auto& [key, text] : BuiltIn()) {
+        for (const auto& [key, text] : builtInTexts) {
             CHECK_MESSAGE((language.contains(u'_') || entries.count(key) == 1), key << " is missing");
         }
     }

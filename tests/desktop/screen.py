@@ -59,7 +59,7 @@ def wait_until(condition, what, seconds=10.0):
 
 
 class Screen:
-    """Started at the first use by Screen.shared(), ended with the interpreter. Knows nothing of the program."""
+    """Started at the first use by Screen.shared(), ends with the interpreter. Knows nothing of the program."""
 
     @classmethod
     @cache
@@ -72,7 +72,7 @@ class Screen:
         for old in (*OUTPUT.glob("*.png"), *OUTPUT.glob("*.log")):
             old.unlink()
         self._folder = Path(tempfile.mkdtemp(prefix="tessarolyne-screen-"))
-        atexit.register(self.end)
+        atexit.register(shutil.rmtree, self._folder, ignore_errors=True)
         # Whatever the user's session sets (styles, scale factors, input methods) stays outside.
         self.environment = {
             "PATH": "/usr/local/bin:/usr/bin:/bin",
@@ -100,17 +100,6 @@ class Screen:
             os.environ[name] = self.environment[name]
         os.environ.pop("AT_SPI_BUS_ADDRESS", None)
         os.environ.pop("WAYLAND_DISPLAY", None)
-
-    def end(self):
-        """Ends what was started, the last first. The buses' own children end with their bus."""
-        for process in reversed(self._processes):
-            process.terminate()
-            try:
-                process.wait(timeout=5)
-            except subprocess.TimeoutExpired:
-                process.kill()
-                process.wait()
-        shutil.rmtree(self._folder, ignore_errors=True)
 
     def run(self, *command, check=True):
         """Runs a command on the screen and gives what it printed; fails when the command fails."""

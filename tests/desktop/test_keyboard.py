@@ -3,63 +3,57 @@
 from case import ProgramTestCase
 
 
-class Keyboard(ProgramTestCase):
-    def go_to(self, told_name):
-        """One step of F6, which must arrive there."""
-        self.screen.press("F6")
-        self.wait_for_focus(told_name)
+ENGLISH = "Four-thousand-six-hundred-and-sixty pounds zero penny"
+FRENCH = "Quatre mille six cent soixante pounds zéro penny"
+# Where F6 goes from the number 4660 on, if anywhere; the keys there, or the text; and what shows what then.
+ROUND = [
+    ("CheckBoxFormatAuto", ["space"], "EditFieldBaseOrg", "1234"),
+    (None, ["space"], "EditFieldBaseOrg", "12 34"),
+    ("EditFieldBaseOrg", [], None, ""),
+    ("PopupMenuBaseOrg", ["Down"], "EditFieldBaseOrg", "G22"),
+    (None, ["1", "6"], "EditFieldBaseOrg", "12 34"),
+    ("PushButtonPressPapBOrg", ["space"], "clipboard", "12 34"),
+    ("EditFieldBaseDest", [], None, ""),
+    ("PopupMenuBaseDest", ["alt+Down"], "PopupMenuBaseDest", "expanded"),
+    (None, ["3", "Return"], "EditFieldBaseDest", "201 01121"),
+    ("PushButtonPressPapBDest", [], None, ""),
+    ("RadioButton09AZ 0", ["Right"], "EditFieldBaseOrg", "BC DE"),
+    ("TxtAreaDecomp1er", [], None, ""),
+    ("BevelButtonListe", [], None, ""),
+    ("PushButtonPressPapPrem", ["space"], "clipboard", "2 x 2 x 5 x 233"),
+    ("TxtAreaLettres", [], None, ""),
+    ("EditFieldMonnaies", "pounds", "EditFieldMonnaies", "pounds"),
+    ("EditFieldMonnaie", "pound", "EditFieldMonnaie", "pound"),
+    ("EditFieldCentimes", "pence", "EditFieldCentimes", "pence"),
+    ("EditFieldCentime", "penny", "TxtAreaLettres", FRENCH.lower()),
+    ("PushButtonPressPapLettr", ["space"], "clipboard", FRENCH.lower()),
+    ("CheckBoxMajusc", ["space"], "TxtAreaLettres", FRENCH),
+    ("CheckBoxTrUnion", ["space"], None, ""),
+    ("PopupMenuLg", ["Up"], "TxtAreaLettres", ENGLISH),
+    ("EditFieldNbre", [], None, ""),
+]
 
-    def copies(self, text):
-        """Presses the button with the focus and waits for the text on the clipboard."""
-        self.screen.press("space")
+
+class Keyboard(ProgramTestCase):
+    def wait_for_clipboard(self, text):
         self.wait_for(lambda: self.screen.clipboard() == text, f"“{text}” on the clipboard")
 
     def test_f6_goes_over_every_control_and_keys_work_it(self):
         self.screen.press("ctrl+a")
         self.screen.type("4660")
         self.wait_for_text("EditFieldBaseOrg", "12 34")
-        self.go_to("CheckBoxFormatAuto")
-        self.screen.press("space")
-        self.wait_for_text("EditFieldBaseOrg", "1234")
-        self.screen.press("space")
-        self.go_to("EditFieldBaseOrg")
-        self.go_to("PopupMenuBaseOrg")
-        self.screen.press("Down")
-        self.wait_for_text("EditFieldBaseOrg", "G22")
-        self.screen.press("1", "6")
-        self.wait_for_text("EditFieldBaseOrg", "12 34")
-        self.go_to("PushButtonPressPapBOrg")
-        self.copies("12 34")
-        self.go_to("EditFieldBaseDest")
-        self.go_to("PopupMenuBaseDest")
-        self.screen.press("alt+Down")
-        self.wait_for(lambda: self.control("PopupMenuBaseDest").expanded, "the list to open")
-        self.screen.press("3", "Return")
-        self.wait_for_text("EditFieldBaseDest", "201 01121")
-        self.go_to("PushButtonPressPapBDest")
-        self.go_to("RadioButton09AZ 0")
-        self.screen.press("Right")
-        self.wait_for_text("EditFieldBaseOrg", "BC DE")
-        self.go_to("TxtAreaDecomp1er")
-        self.go_to("BevelButtonListe")
-        self.go_to("PushButtonPressPapPrem")
-        self.copies("2 x 2 x 5 x 233")
-        self.go_to("TxtAreaLettres")
-        for field, word in (("Monnaies", "pounds"), ("Monnaie", "pound"), ("Centimes", "pence"), ("Centime", "penny")):
-            self.go_to(f"EditField{field}")
-            self.screen.type(word)
-        self.wait_for_text("TxtAreaLettres", "quatre mille six cent soixante pounds zéro penny")
-        self.go_to("PushButtonPressPapLettr")
-        self.copies("quatre mille six cent soixante pounds zéro penny")
-        self.go_to("CheckBoxMajusc")
-        self.screen.press("space")
-        self.wait_for_text("TxtAreaLettres", "Quatre mille six cent soixante pounds zéro penny")
-        self.go_to("CheckBoxTrUnion")
-        self.screen.press("space")
-        self.go_to("PopupMenuLg")
-        self.screen.press("Up")
-        self.wait_for_text("TxtAreaLettres", "Four-thousand-six-hundred-and-sixty pounds zero penny")
-        self.go_to("EditFieldNbre")
+        for arrives, keys, shows, what in ROUND:
+            if arrives:
+                self.screen.press("F6")
+                self.wait_for_focus(arrives)
+            if keys:
+                self.screen.type(keys) if isinstance(keys, str) else self.screen.press(*keys)
+            if shows == "clipboard":
+                self.wait_for_clipboard(what)
+            elif what == "expanded":
+                self.wait_for(lambda: self.control(shows).expanded, "the list to open")
+            elif shows:
+                self.wait_for_text(shows, what)
         self.screen.press("ctrl+a")
         self.screen.type("1,22")
         self.wait_for_text("TxtAreaLettres", "One pound twenty-two pence")
@@ -77,18 +71,18 @@ class Keyboard(ProgramTestCase):
         self.screen.press("alt+o")  # the check box for groups
         self.wait_for_text("EditFieldBaseDest", "11111111")
         self.screen.press("ctrl+2")
-        self.wait_for(lambda: self.screen.clipboard() == "11111111", "the copy of a shortcut")
+        self.wait_for_clipboard("11111111")
         self.screen.press("alt+o")
         self.wait_for_text("EditFieldBaseDest", "1111 1111")
         self.screen.press("ctrl+quotedbl")  # the key of the 3 on a French keyboard
-        self.wait_for(lambda: self.screen.clipboard() == "3 x 5 x 17", "the copy of a shortcut")
+        self.wait_for_clipboard("3 x 5 x 17")
         self.screen.press("F10", "Right", "Up", "Return")
         self.find_with_keyboard("check box", "Vérifier automatiquement")
         self.screen.press("alt+a")
         self.wait_until_gone("check box", "Vérifier automatiquement")
         self.wait_for_text("EditFieldNbre", "255")
         self.screen.press("Menu", "Up", "Return")  # the last row, which copies without blanks
-        self.wait_for(lambda: self.screen.clipboard() == "255", "the copy of the menu")
+        self.wait_for_clipboard("255")
 
     def test_the_list_is_searched_and_paged_by_keys(self):
         self.focus("EditFieldNbre")

@@ -1,9 +1,12 @@
 #include "desktop/Offscreen.h"
-#include "desktop/WindowView.h"
+#include "desktop/QtServices.h"
+#include "machine/SystemClock.h"
+#include "primes/WinNbresPremiers.h"
 #include "support/TestWorld.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QMouseEvent>
 
@@ -57,6 +60,29 @@ TEST_CASE("A text of the number before is fainter than others") {
     CHECK(color() != plain);
     world.Main().TxtAreaDecomp1er.Remark = "";
     CHECK(color() == plain);
+}
+
+TEST_CASE(
+    "Escape chooses no button, not even one that is called cancel, and a quit ends a sheet with its window") {
+    UseQt();
+    TestWorld parts("");
+    SystemClock clock;
+    QtServices desktop(parts.files);
+    MessageDialog question;
+    question.actionCaption = "Ok";
+    question.cancelCaption = "Historique…";
+    desktop.loop.Post([] {
+        QKeyEvent escape(QEvent::KeyPress, Qt::Key_Escape, Qt::NoModifier);
+        QCoreApplication::sendEvent(QApplication::activeModalWidget(), &escape);
+    });
+    CHECK(desktop.dialogs.Ask(question) == DialogButton::None);
+    Services services{clock, desktop.loop, desktop.stage, desktop.dialogs, parts.desktop, parts.sounds,
+        parts.http, parts.files, parts.memory, parts.announcer};
+    Program program(services);
+    program.Start();
+    desktop.loop.Post([&] { program.app.RequestQuit(); });
+    CHECK(program.fncts.MyDialogBox("m", "", "Ok", "", "", 0, &program.winNbresPremiers()) == 0);
+    CHECK(program.app.DrapOkQuit);
 }
 
 TEST_CASE("In a font twice as large nothing is clipped") {
