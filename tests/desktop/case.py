@@ -5,9 +5,45 @@ import tempfile
 import unittest
 from pathlib import Path
 
-from controls import CONTROLS
 from program import PROGRAM, Program
 from screen import OUTPUT, Screen
+
+
+# The main window's controls by the names that the program calls them, as a screen reader finds them: accessible name
+# and role, as AT-SPI says it, in French, which the program speaks in the C locale.
+CONTROLS = {
+    "EditFieldNbre": ("Nombre en base 10", "text"),
+    "EditFieldBaseOrg": ("Nombre en base de départ", "text"),
+    "EditFieldMonnaies": ("Devise au pluriel", "text"),
+    "EditFieldMonnaie": ("Devise au singulier", "text"),
+    "EditFieldCentimes": ("Centime au pluriel", "text"),
+    "EditFieldCentime": ("Centime au singulier", "text"),
+    "CheckBoxMajusc": ("Première lettre en majuscule", "check box"),
+    "PopupMenuLg": ("Langue du montant en lettres", "combo box"),
+    "CheckBoxTrUnion": ("Traits d'union", "check box"),
+    "EditFieldBaseDest": ("Nombre en base d'arrivée", "text"),
+    "PopupMenuBaseOrg": ("Base de départ", "combo box"),
+    "PopupMenuBaseDest": ("Base d'arrivée", "combo box"),
+    "CheckBoxFormatAuto": ("Format Auto", "check box"),
+    "RadioButton09AZ 0": ("01…89AB…YZ", "radio button"),
+    "TxtAreaDecomp1er": ("Facteurs premiers", "text"),
+    "TxtAreaLettres": ("Montant en lettres", "text"),
+    "BevelButtonListe": ("Liste Nb 1ers", "check box"),
+    "PushButtonPressPapBOrg": ("Copier : Nombre en base de départ", "push button"),
+    "PushButtonPressPapBDest": ("Copier : Nombre en base d'arrivée", "push button"),
+    "PushButtonPressPapLettr": ("Copier : Montant en lettres", "push button"),
+    "PushButtonPressPapPrem": ("Copier : Facteurs premiers", "push button"),
+    "PushButtonFichier": ("Changer Fichier", "push button"),
+    "EditFieldFin": ("Calculer jusqu'à", "text"),
+    "EditFieldAffDu": ("Rang du premier nombre affiché", "text"),
+    "EditFieldAffAu": ("Rang du dernier nombre affiché", "text"),
+    "TxtAreaListeNbres1ers": ("Nombres premiers affichés", "text"),
+    "EditFieldNbNbresLigne": ("Nombres premiers par ligne du fichier", "text"),
+    "StaticTextNbNbre1ers": ("166 nombres premiers", "label"),
+}
+
+# Where Tab goes, in its order, before it begins again: the first of them.
+TAB_ORDER = list(CONTROLS)[:9]
 
 
 class ProgramTestCase(unittest.TestCase):
@@ -63,10 +99,8 @@ class ProgramTestCase(unittest.TestCase):
         opened.unlink()
 
     def run(self, result=None):
-        result = result if result is not None else self.defaultTestResult()
-        bad_before = len(result.failures) + len(result.errors)
-        super().run(result)
-        if len(result.failures) + len(result.errors) > bad_before:
+        result = super().run(result)
+        if any(test.id().startswith(self.id()) for test, _ in result.failures + result.errors):
             picture = OUTPUT / f"{self.id()}.png"
             self.screen.run("import", "-silent", "-window", "root", str(picture))
             print(f"\nPicture of the failure: {picture}\nThe program's messages:\n{self.log()}", flush=True)

@@ -6,10 +6,10 @@ import subprocess
 from pathlib import Path
 
 from accessibility import Control, descendants, find_application
-from controls import WINDOW_TITLE
 from screen import OUTPUT, ROOT, start, wait_until
 
 PROGRAM = Path(os.environ.get("TESSAROLYNE_PROGRAM", ROOT / "build" / "release" / "tessarolyne"))
+WINDOW_TITLE = "Tessarolyne"
 
 
 class Program:

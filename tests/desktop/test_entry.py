@@ -2,8 +2,7 @@
 
 import subprocess
 
-from case import ProgramTestCase
-from controls import TAB_ORDER
+from case import TAB_ORDER, ProgramTestCase
 
 
 class Entry(ProgramTestCase):

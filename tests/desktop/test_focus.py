@@ -1,7 +1,6 @@
 """Where the keyboard goes, and that nobody is left without a name on the way."""
 
-from case import ProgramTestCase
-from controls import CONTROLS, TAB_ORDER
+from case import CONTROLS, TAB_ORDER, ProgramTestCase
 
 
 class Focus(ProgramTestCase):

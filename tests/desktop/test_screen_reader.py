@@ -1,30 +1,14 @@
 """What a screen reader gets to speak: roles, names and states, and the events in their order."""
 
-import json
-import subprocess
-import sys
-import threading
+from contextlib import suppress
 
+from gi.repository import GLib
+
+from accessibility import Atspi
 from case import ProgramTestCase
-from screen import wait_until
 
-# Prints each event that a screen reader speaks upon, with the role and name of its source and what is in it.
-LISTENER = """
-import json, os, gi
-gi.require_version("Atspi", "2.0")
-from gi.repository import Atspi
-def note(event):
-    source = event.source
-    text = " ".join(source.get_child_at_index(i).get_name() for i in range(source.get_child_count()))
-    if source.get_process_id() != os.getpid():
-        line = (event.type.split(":")[-1], event.detail1, source.get_role_name(), source.get_name(), text)
-        print(json.dumps(line), flush=True)
-listener = Atspi.EventListener.new(note)
-for kind in ("state-changed:focused", "state-changed:showing", "text-caret-moved", "text-selection-changed"):
-    listener.register("object:" + kind)
-print(json.dumps("ready"), flush=True)
-Atspi.event_main()
-"""
+# The events that a screen reader speaks upon.
+KINDS = ("state-changed:focused", "state-changed:showing", "text-caret-moved", "text-selection-changed")
 
 
 class English(ProgramTestCase):
@@ -34,18 +18,31 @@ class English(ProgramTestCase):
     def setUpClass(cls):
         super().setUpClass()
         cls.events = []
-        listener = subprocess.Popen([sys.executable, "-c", LISTENER], stdout=subprocess.PIPE, text=True)
-        cls.addClassCleanup(listener.communicate)
-        cls.addClassCleanup(listener.kill)
-        threading.Thread(target=lambda: cls.events.extend(map(json.loads, listener.stdout)), daemon=True).start()
-        wait_until(lambda: cls.events, "the listener")
+        cls.listener = Atspi.EventListener.new(cls.note)
+        for kind in KINDS:
+            cls.listener.register(f"object:{kind}")
+            cls.addClassCleanup(cls.listener.deregister, f"object:{kind}")
+
+    @classmethod
+    def note(cls, event):
+        """Keeps the event with the role and name of its source and what is in it."""
+        source = event.source
+        with suppress(GLib.Error):  # it may be gone by now
+            text = " ".join(source.get_child_at_index(i).get_name() for i in range(source.get_child_count()))
+            cls.events.append((event.type.split(":")[-1], event.detail1, source.get_role_name(), source.get_name(), text))
+
+    def take_events(self):
+        while GLib.MainContext.default().iteration(False):
+            pass
 
     def hear(self, act, wanted):
         """What comes until an event like `wanted` (kind, role, name or text) does, that one last."""
+        self.take_events()
         self.events.clear()
         act()
 
         def found():
+            self.take_events()
             return next((i for i, e in enumerate(self.events) if (e[0], e[2]) == wanted[:2] and wanted[2] in e[3:]), None)
 
         self.wait_for(lambda: found() is not None, lambda: f"{wanted} among {self.events}")

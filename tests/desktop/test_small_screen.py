@@ -1,7 +1,6 @@
 """Nothing is out of reach on a screen that is smaller than the windows."""
 
-from case import ProgramTestCase
-from controls import TAB_ORDER
+from case import TAB_ORDER, ProgramTestCase
 
 SCALE = 2
 
