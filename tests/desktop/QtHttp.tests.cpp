@@ -19,13 +19,12 @@ namespace {
 
 // One connection after the other, each answered alike. One that isn't closed goes on with what is repeated,
 // which may be nothing.
-class Loopback {
+class Loopback : public QTcpServer {
 public:
     explicit Loopback(const std::string& answer, bool closes = true, const std::string& repeated = "") {
-        REQUIRE(server.listen(QHostAddress::LocalHost));
-        port = std::to_string(server.serverPort());
-        QObject::connect(&server, &QTcpServer::newConnection, &server, [=, this] {
-            QTcpSocket* const socket = server.nextPendingConnection();
+        REQUIRE(listen(QHostAddress::LocalHost));
+        QObject::connect(this, &QTcpServer::newConnection, this, [=, this] {
+            QTcpSocket* const socket = nextPendingConnection();
             requests.emplace_back();
             QObject::connect(socket, &QTcpSocket::readyRead, socket, [=, this] {
                 requests.back() += socket->readAll().toStdString();
@@ -41,8 +40,8 @@ public:
         });
     }
 
-    QTcpServer server;
-    std::string port;
+    std::string Authority(const std::string& host) const { return host + ":" + std::to_string(serverPort()); }
+
     std::vector<std::string> requests; // each up to the empty line
 };
 
@@ -116,12 +115,12 @@ TEST_CASE("Whatever a server does, it is asked once, and the answer is its whole
         Client client;
         Loopback server(row.answer, row.closes, row.repeated);
         const std::vector<std::string> request = {
-            "GET /a?b HTTP/1.0\r\nHost: 127.0.0.1:" + server.port + "\r\n\r\n"};
+            "GET /a?b HTTP/1.0\r\nHost: " + server.Authority("127.0.0.1") + "\r\n\r\n"};
         const bool isRefused = row.what == "refused";
         if (isRefused) {
-            server.server.close();
+            server.close();
         }
-        client.Get("http://127.0.0.1:" + server.port + "/a?b");
+        client.Get("http://" + server.Authority("127.0.0.1") + "/a?b");
         if (!row.closes && row.repeated.empty()) {
             client.Until([&] { return server.requests == request; });
             client.loop.Advance(9999);
@@ -148,23 +147,22 @@ TEST_CASE("The next address of a host has its turn at a refusal or after 250 ms,
                                            : std::vector{dead, dead, live};
     });
     full.setListenBacklogSize(0);
-    REQUIRE(full.listen(dead, server.server.serverPort()));
+    REQUIRE(full.listen(dead, server.serverPort()));
     full.pauseAccepting();
     QTcpSocket filler;
-    filler.connectToHost(dead, server.server.serverPort());
+    filler.connectToHost(dead, server.serverPort());
     client.Until([&] { return filler.state() == QAbstractSocket::ConnectedState; });
 
-    const auto url = [&](const char* host) { return host + (":" + server.port) + "/"; };
-    client.Get(url("http://dead.example"));
+    client.Get("http://" + server.Authority("dead.example") + "/");
     client.Until([&] { return client.loop.Alarms() == 2; }); // the deadline and the next address
     client.loop.Advance(499);
     QCoreApplication::processEvents();
     CHECK(server.requests.empty());
     client.loop.Advance(1);
     CHECK(client.Reply().content == "page");
-    client.Get(url("http://refused.example"));
+    client.Get("http://" + server.Authority("refused.example") + "/");
     CHECK(client.Reply(2).content == "page");
-    client.Get(url("http://none.example"));
+    client.Get("http://" + server.Authority("none.example") + "/");
     CHECK(client.Reply(3).errorCode == QtHttp::notFound);
 }
 

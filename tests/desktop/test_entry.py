@@ -58,7 +58,7 @@ class Entry(ProgramTestCase):
         self.screen.type("7")
         self.wait_for_text("EditFieldNbre", "7")
 
-    def test_factors_dragged_into_a_field_count_as_typed_there(self):
+    def test_factors_dragged_into_a_field_count_as_typed_there_and_tab_goes_round(self):
         self.clear("EditFieldNbre")
         self.screen.type("97")
         self.wait_for_text("TxtAreaDecomp1er", "97")
@@ -67,9 +67,11 @@ class Entry(ProgramTestCase):
         left, top, _, _ = self.control("TxtAreaDecomp1er").bounds
         self.screen.drag((left + 12, top + 12), self.control("EditFieldNbre").centre)
         self.wait_for_text("TxtAreaDecomp1er", "97 x 101")
-        for name in TAB_ORDER[1:]:  # for a while: Qt began a drag anew some moments later
-            self.screen.press("Tab")
-            self.wait_for_focus(name)
+        # For a while: Qt began a drag anew some moments later.
+        for key, names in (("Tab", TAB_ORDER[1:] + TAB_ORDER[:1]), ("shift+Tab", TAB_ORDER[::-1])):
+            for name in names:
+                self.screen.press(key)
+                self.wait_for_focus(name)
 
     def test_keys_with_alt_or_super_are_no_text(self):
         for name in ("EditFieldNbre", "EditFieldBaseOrg", "EditFieldCentime"):
