@@ -42,13 +42,9 @@ int HeightOf(const QString& text, const QFont& font) {
 // captions meet in a dialog is only known when it comes up.
 QString WithFreeLetter(const std::string& caption, QString& taken) {
     const QString text = VisibleText(caption).replace(u'\n', u' ');
-    QString letter;
-    for (const QChar c : text) {
-        if (c.isLetter() && !taken.contains(c, Qt::CaseInsensitive)) {
-            letter = c;
-            break;
-        }
-    }
+    const auto free = std::find_if(text.begin(), text.end(),
+        [&](QChar c) { return c.isLetter() && !taken.contains(c, Qt::CaseInsensitive); });
+    const QString letter = free == text.end() ? QString() : QString(*free);
     taken += letter;
     return WithAltKey(FromQt(text), FromQt(letter));
 }

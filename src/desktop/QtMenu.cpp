@@ -1,5 +1,3 @@
-#include "desktop/QtMenu.h"
-
 #include "desktop/QtText.h"
 #include "desktop/TextEdits.h"
 #include "desktop/WindowView.h"

@@ -42,12 +42,13 @@ QWidget* WindowToSpeakFrom() {
     if (QWidget* const active = QApplication::activeWindow()) {
         return active;
     }
-    const auto all = QApplication::topLevelWidgets();
-    const auto shown = std::find_if(all.begin(), all.end(), [](const QWidget* widget) {
-        return widget->isVisible() &&
-               (widget->windowType() == Qt::Window || widget->windowType() == Qt::Dialog);
-    });
-    return shown == all.end() ? nullptr : *shown;
+    for (QWidget* const widget : QApplication::topLevelWidgets()) {
+        const bool isWindow = widget->windowType() == Qt::Window || widget->windowType() == Qt::Dialog;
+        if (isWindow && widget->isVisible()) {
+            return widget;
+        }
+    }
+    return nullptr;
 }
 
 void Silence(QProcess& process) {

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "desktop/QtMenu.h"
 #include "desktop/WindowView.h"
 #include "platform/EventLoop.h"
 #include "platform/Http.h"

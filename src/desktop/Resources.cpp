@@ -23,17 +23,6 @@ namespace {
 constexpr const char* places[] = {INSTALLED_DATA "/tessarolyne", INSTALLED_DATA, "../Resources", "resources",
     "../resources", "share/tessarolyne"};
 
-QString FirstPlace(const std::string& name, bool (QFileInfo::*fits)() const) {
-    const QDir program(QCoreApplication::applicationDirPath());
-    for (const char* place : places) {
-        const QFileInfo item(program.filePath(QLatin1String(place) + u'/' + ToQt(name)));
-        if ((item.*fits)()) {
-            return item.canonicalFilePath();
-        }
-    }
-    return {};
-}
-
 QPixmap Load(const std::string& name) {
     QPixmap pixmap;
     const QString key = QLatin1String("tessarolyne/") + ToQt(name);
@@ -64,11 +53,14 @@ std::vector<std::string> DesktopLanguages() {
 } // namespace
 
 QString ResourcePath(const std::string& name) {
-    return FirstPlace(name, &QFileInfo::isFile);
-}
-
-QString ResourceFolder(const std::string& name) {
-    return FirstPlace(name, &QFileInfo::isDir);
+    const QDir program(QCoreApplication::applicationDirPath());
+    for (const char* place : places) {
+        const QFileInfo item(program.filePath(QLatin1String(place) + u'/' + ToQt(name)));
+        if (item.exists()) {
+            return item.canonicalFilePath();
+        }
+    }
+    return {};
 }
 
 std::optional<std::string> FindFolder(KnownFolder folder) {
@@ -113,7 +105,7 @@ QColor TextColorOn(const Picture& picture, const QPalette& palette) {
     return qGray(picture.fill) > 128 ? Qt::black : Qt::white;
 }
 
-QtTranslations::QtTranslations() : QtTranslations(ResourceFolder("translations"), DesktopLanguages()) {}
+QtTranslations::QtTranslations() : QtTranslations(ResourcePath("translations"), DesktopLanguages()) {}
 
 QtTranslations::QtTranslations(const QString& folder, const std::vector<std::string>& wanted) {
     // An empty path would be the working directory to QDir.
@@ -127,7 +119,11 @@ QtTranslations::QtTranslations(const QString& folder, const std::vector<std::str
         }
     }
     chain_ = ChainFor(wanted);
-    LoadQtTexts();
+    const QLocale locale(ToQt(chain_.empty() ? builtInLanguage : chain_.front()));
+    const QString qtFolder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
+    if (qtTexts_.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"), qtFolder)) {
+        QCoreApplication::installTranslator(&qtTexts_);
+    }
 }
 
 std::optional<std::string> QtTranslations::Find(std::string_view key, std::string_view language) const {
@@ -147,14 +143,6 @@ std::vector<std::string> QtTranslations::ChainFor(const std::vector<std::string>
         available.push_back(language);
     }
     return CatalogueChain(wanted, available, builtInLanguage);
-}
-
-void QtTranslations::LoadQtTexts() {
-    const QLocale locale(ToQt(chain_.empty() ? builtInLanguage : chain_.front()));
-    const QString folder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
-    if (qtTexts_.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"), folder)) {
-        QCoreApplication::installTranslator(&qtTexts_);
-    }
 }
 
 } // namespace tessarolyne

@@ -19,12 +19,9 @@ class QPalette;
 class QRect;
 namespace tessarolyne {
 
-// The path of one of the program's resources ("sounds/Bip.wav"), in the installed tree or beside the build.
-// Empty if there is no such file.
+// The path of one of the program's resources, a file ("sounds/Bip.wav") or a folder ("translations"), in the
+// installed tree or beside the build. Empty if there is none.
 QString ResourcePath(const std::string& name);
-
-// The same for a folder of them ("translations").
-QString ResourceFolder(const std::string& name);
 
 // Where the desktop keeps things, without a link in the path; nothing if there is no such folder. The one for
 // preferences is made if it is missing, readable to the user alone.
@@ -52,7 +49,6 @@ public:
 
 private:
     std::vector<std::string> ChainFor(const std::vector<std::string>& wanted) const;
-    void LoadQtTexts();
 
     // By language.
     std::map<std::string, std::unique_ptr<QTranslator>> catalogues_;

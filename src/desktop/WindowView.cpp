@@ -1,6 +1,5 @@
 #include "desktop/WindowView.h"
 
-#include "desktop/QtMenu.h"
 #include "desktop/QtText.h"
 #include "platform/Application.h"
 #include "platform/Services.h"

@@ -3,19 +3,42 @@
 #include "desktop/ControlView.h"
 #include "desktop/WindowFocus.h"
 #include "platform/Event.h"
+#include "platform/MenuBar.h"
 
+#include <QMenuBar>
 #include <QScrollArea>
 #include <QWidget>
 
 #include <memory>
+#include <utility>
 #include <vector>
 
-class QMenuBar;
+class QAction;
 
 namespace tessarolyne {
 
-class QtMenu;
+class Application;
 class Window;
+
+// The program's menus as Qt's. While no menu is open every action can be triggered, since Qt ignores the
+// shortcut of a disabled one: the model's item then decides by itself. An open menu shows what is enabled.
+class QtMenu final : public QObject {
+public:
+    QtMenu(Application& application, MenuBar& menus) : application_(application), menus_(menus) {}
+
+    // Makes the bar with the menus in the first window, and gives it; in any other lets the shortcuts work.
+    QMenuBar* AddTo(QWidget& window);
+
+private:
+    void AddMenu(const MenuItem& model);
+    void AboutToShow();
+    void Trigger(MenuItem& item);
+
+    Application& application_;
+    MenuBar& menus_;
+    QMenuBar* bar_ = nullptr;
+    std::vector<std::pair<MenuItem*, QAction*>> actions_;
+};
 
 // The part of a window below its menu bar: a sheet of the model's size, on which the controls stand. It
 // scrolls where the screen is too small for the sheet; keys that scroll elsewhere stay the controls' own.

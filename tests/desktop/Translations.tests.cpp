@@ -1,7 +1,6 @@
 #include "app/Version.h"
 #include "conversion/WinMain.h"
 #include "desktop/Offscreen.h"
-#include "desktop/QtMenu.h"
 #include "desktop/QtText.h"
 #include "desktop/Resources.h"
 #include "desktop/WindowView.h"
