@@ -66,15 +66,12 @@ void ControlView::TellModel(const std::function<void()>& tell) {
 // The model is disabled at once and refuses whatever comes; to the eye a state that passes sooner than it can
 // be read would only flicker.
 void ControlView::ReadEnabled() {
-    const bool shown = widget_->isEnabledTo(widget_->parentWidget());
     if (control_.Enabled()) {
         disabling_.Mode = 0;
-        if (!shown) {
-            widget_->setEnabled(true);
-        }
-    } else if (shown && !widget_->isVisible()) {
+        widget_->setEnabled(true);
+    } else if (!widget_->isVisible()) {
         widget_->setEnabled(false);
-    } else if (shown && disabling_.Mode == 0) {
+    } else if (widget_->isEnabledTo(widget_->parentWidget())) {
         disabling_.Mode = 1;
     }
 }
@@ -86,28 +83,15 @@ std::string ControlView::WithKeys(const std::string& text) const {
 
 void ControlView::ReadCommon() {
     const Control* parent = control_.Parent();
-    const QRect place(control_.Left - (parent == nullptr ? 0 : parent->Left()),
+    widget_->setGeometry(control_.Left - (parent == nullptr ? 0 : parent->Left()),
         control_.Top - (parent == nullptr ? 0 : parent->Top()), control_.Width, control_.Height);
-    if (widget_->geometry() != place) {
-        widget_->setGeometry(place);
-    }
     ReadEnabled();
-    if (widget_->isHidden() == control_.Visible()) {
-        widget_->setVisible(control_.Visible());
-    }
-    const QString tip = PlainToolTip(WithKeys(control_.Explanation()));
-    if (widget_->toolTip() != tip) {
-        widget_->setToolTip(tip);
-    }
-    const QString description =
-        WithLineFeeds(control_.Notice().empty() ? WithKeys(Description()) : control_.Notice());
-    if (widget_->accessibleDescription() != description) {
-        widget_->setAccessibleDescription(description);
-    }
-    const QString name = ToQt(control_.AccessibleName().empty() ? OwnName() : control_.AccessibleName());
-    if (widget_->accessibleName() != name) {
-        widget_->setAccessibleName(name);
-    }
+    widget_->setVisible(control_.Visible());
+    widget_->setToolTip(PlainToolTip(WithKeys(control_.Explanation())));
+    widget_->setAccessibleDescription(
+        WithLineFeeds(control_.Notice().empty() ? WithKeys(Description()) : control_.Notice()));
+    widget_->setAccessibleName(
+        ToQt(control_.AccessibleName().empty() ? OwnName() : control_.AccessibleName()));
 }
 
 std::unique_ptr<ControlView> MakeControlView(Control& control, QWidget* parent) {
