@@ -27,19 +27,13 @@ bool IsDark(const QPalette& palette) {
     return palette.color(QPalette::Window).lightness() < palette.color(QPalette::WindowText).lightness();
 }
 
-float Between(float from, float to) {
-    return from + (to - from) * towardsText;
-}
-
 // Fusion derives the outline from the colour of the window, which these elements use for nothing else.
 template <typename Option>
 Option WithOutline(const Option& option) {
     Option outlined(option);
     const QColor window = option.palette.color(QPalette::Window);
     const QColor text = option.palette.color(QPalette::WindowText);
-    outlined.palette.setColor(QPalette::Window,
-        QColor::fromRgbF(Between(window.redF(), text.redF()), Between(window.greenF(), text.greenF()),
-            Between(window.blueF(), text.blueF())));
+    outlined.palette.setColor(QPalette::Window, Mixed(window, text, towardsText));
     return outlined;
 }
 
@@ -110,6 +104,12 @@ QPalette DarkPalette() {
 }
 
 } // namespace
+
+QColor Mixed(const QColor& from, const QColor& to, float share) {
+    const auto mix = [&](float a, float b) { return a + (b - a) * share; };
+    return QColor::fromRgbF(
+        mix(from.redF(), to.redF()), mix(from.greenF(), to.greenF()), mix(from.blueF(), to.blueF()));
+}
 
 OutlinedStyle::OutlinedStyle() : QProxyStyle(QStringLiteral("fusion")) {}
 

@@ -1,11 +1,15 @@
 #pragma once
 
+#include <QColor>
 #include <QProxyStyle>
 #include <QTimer>
 #include <memory>
 
 class QDBusPendingCallWatcher;
 namespace tessarolyne {
+
+// The colour that lies as far as `share`, 0 to 1, from one to the other.
+QColor Mixed(const QColor& from, const QColor& to, float share);
 
 // Qt's Fusion style with outlines that can be seen in dark colours too. Fusion draws the edges of boxes, dots
 // and fields somewhat darker than the window, which on a dark one is next to nothing: an empty check box

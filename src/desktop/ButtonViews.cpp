@@ -110,13 +110,8 @@ protected:
     void ShowCaption(int padding, int pixels = 0) {
         QAbstractButton& button = *this->widget_;
         const std::string caption = this->model_.Caption;
-        if (const QString text = WithAltKey(caption, this->model_.AltKey); button.text() != text) {
-            button.setText(text);
-        }
-        const QFont font = FittingFont(button, ToQt(caption), this->model_.Width - padding, pixels);
-        if (button.font() != font) {
-            button.setFont(font);
-        }
+        button.setText(WithAltKey(caption, this->model_.AltKey));
+        button.setFont(FittingFont(button, ToQt(caption), this->model_.Width - padding, pixels));
     }
 };
 
@@ -312,26 +307,16 @@ void PopupMenuView::Read() {
                 widget_->model()->index(model_.ListIndex(), widget_->modelColumn()));
         }
     }
-    const QFont font = FittingFont(*widget_, widget_->currentText(), model_.Width - boxPadding);
-    if (widget_->font() != font) {
-        widget_->setFont(font);
-    }
+    widget_->setFont(FittingFont(*widget_, widget_->currentText(), model_.Width - boxPadding));
 }
 
 } // namespace
 
 std::unique_ptr<ControlView> MakeButtonView(Control& control, QWidget* parent) {
-    for (MakeView* const make : {&MakeIf<PushButton, PushButtonView>, &MakeIf<BevelButton, BevelButtonView>,
-             &MakeIf<CheckBox, CheckBoxView>, &MakeIf<RadioButton, RadioButtonView>}) {
-        if (auto view = make(control, parent)) {
-            return view;
-        }
-    }
-    return nullptr;
-}
-
-std::unique_ptr<ControlView> MakePopupMenuView(Control& control, QWidget* parent) {
-    return MakeIf<PopupMenu, PopupMenuView>(control, parent);
+    return MakeByFirst({&MakeIf<PushButton, PushButtonView>, &MakeIf<BevelButton, BevelButtonView>,
+                           &MakeIf<CheckBox, CheckBoxView>, &MakeIf<RadioButton, RadioButtonView>,
+                           &MakeIf<PopupMenu, PopupMenuView>},
+        control, parent);
 }
 
 } // namespace tessarolyne

@@ -94,15 +94,22 @@ void ControlView::ReadCommon() {
         ToQt(control_.AccessibleName().empty() ? OwnName() : control_.AccessibleName()));
 }
 
-std::unique_ptr<ControlView> MakeControlView(Control& control, QWidget* parent) {
-    for (MakeView* const make : {&MakeFieldView, &MakeAreaView, &MakeButtonView, &MakePopupMenuView,
-             &MakeShowingView, &MakeWheelView}) {
+std::unique_ptr<ControlView> MakeByFirst(
+    std::initializer_list<MakeView*> makers, Control& control, QWidget* parent) {
+    for (MakeView* const make : makers) {
         if (auto view = make(control, parent)) {
-            view->Update();
             return view;
         }
     }
     return nullptr;
+}
+
+std::unique_ptr<ControlView> MakeControlView(Control& control, QWidget* parent) {
+    auto view = MakeByFirst({&MakeTextView, &MakeButtonView, &MakeShowingView}, control, parent);
+    if (view != nullptr) {
+        view->Update();
+    }
+    return view;
 }
 
 } // namespace tessarolyne

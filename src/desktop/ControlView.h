@@ -8,6 +8,7 @@
 #include <QWidget>
 
 #include <functional>
+#include <initializer_list>
 #include <memory>
 #include <string>
 
@@ -87,7 +88,11 @@ std::unique_ptr<ControlView> MakeIf(Control& control, QWidget* parent) {
 
 // What each file of views makes of a control of its kinds; nothing of any other.
 using MakeView = std::unique_ptr<ControlView>(Control& control, QWidget* parent);
-MakeView MakeFieldView, MakeAreaView, MakeButtonView, MakePopupMenuView, MakeShowingView, MakeWheelView;
+MakeView MakeTextView, MakeButtonView, MakeShowingView;
+
+// What the first of them makes of it that makes anything.
+std::unique_ptr<ControlView> MakeByFirst(
+    std::initializer_list<MakeView*> makers, Control& control, QWidget* parent);
 
 // The view of a control of any kind, its widget made inside `parent`.
 std::unique_ptr<ControlView> MakeControlView(Control& control, QWidget* parent);

@@ -177,13 +177,9 @@ void LabelView::Read() {
     const QString text = widget_->buddy() == nullptr ? plain : WithAltKey(model_.Text, model_.AltKey);
     QFont font = FittingFont(*widget_, plain, model_.Width);
     font.setUnderline(model_.IsLink);
-    if (widget_->font() != font) {
-        widget_->setFont(font);
-    }
+    widget_->setFont(font);
     widget_->setForegroundRole(model_.IsLink ? QPalette::Link : QPalette::NoRole);
-    if (widget_->text() != text) {
-        widget_->setText(text);
-    }
+    widget_->setText(text);
     if (model_.IsOverlay && model_.Visible) {
         widget_->raise();
     }
@@ -197,10 +193,7 @@ public:
 
 private:
     void Read() override {
-        const QString caption = WithAltKey(model_.Caption, model_.AltKey);
-        if (widget_->title() != caption) {
-            widget_->setTitle(caption);
-        }
+        widget_->setTitle(WithAltKey(model_.Caption, model_.AltKey));
         QFont font = QApplication::font(widget_);
         if (constexpr int highest = 17; QFontInfo(font).pixelSize() > highest) {
             font.setPixelSize(highest); // a higher title would push the frame into what stands below
@@ -306,7 +299,7 @@ private:
 // which it speaks of by itself, as often as its user likes.
 class WheelView final : public View<ProgressWheel, WheelWidget> {
 public:
-    WheelView(ProgressWheel& model, QWidget* parent);
+    WheelView(ProgressWheel& model, QWidget* parent) : View(model, new WheelWidget(model, parent)) {}
 
 protected:
     void Read() override;
@@ -315,8 +308,6 @@ protected:
 private:
     std::int64_t toldValue_ = 0;
 };
-
-WheelView::WheelView(ProgressWheel& model, QWidget* parent) : View(model, new WheelWidget(model, parent)) {}
 
 void WheelView::Read() {
     if (toldValue_ != model_.Value) {
@@ -333,17 +324,10 @@ void WheelView::Read() {
 } // namespace
 
 std::unique_ptr<ControlView> MakeShowingView(Control& control, QWidget* parent) {
-    for (MakeView* const make : {&MakeIf<Label, LabelView>, &MakeIf<GroupBox, GroupBoxView>,
-             &MakeIf<ProgressBar, ProgressBarView>, &MakeIf<Canvas, CanvasView>}) {
-        if (auto view = make(control, parent)) {
-            return view;
-        }
-    }
-    return nullptr;
-}
-
-std::unique_ptr<ControlView> MakeWheelView(Control& control, QWidget* parent) {
-    return MakeIf<ProgressWheel, WheelView>(control, parent);
+    return MakeByFirst(
+        {&MakeIf<Label, LabelView>, &MakeIf<GroupBox, GroupBoxView>, &MakeIf<ProgressBar, ProgressBarView>,
+            &MakeIf<Canvas, CanvasView>, &MakeIf<ProgressWheel, WheelView>},
+        control, parent);
 }
 
 } // namespace tessarolyne

@@ -1,7 +1,7 @@
 #include "desktop/TextEdits.h"
 
+#include "desktop/Appearance.h"
 #include "desktop/ControlView.h"
-
 #include "desktop/QtText.h"
 
 #include <QAccessible>
@@ -10,7 +10,6 @@
 #include <QApplication>
 #include <QClipboard>
 #include <QContextMenuEvent>
-#include <QCoreApplication>
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -21,16 +20,11 @@
 #include <QStringView>
 #include <QTextDocumentFragment>
 #include <algorithm>
+#include <iterator>
 
 namespace tessarolyne {
 
 namespace {
-
-// Contrast enough to be read: 4.8 to 1 for black on white, where WCAG 2.1 asks for 4.5. The palette's own
-// colour for hints won't do: where a desktop sets none it stays that of light schemes in dark ones.
-float Faint(float text, float base) {
-    return base + (text - base) * 0.55F;
-}
 
 qsizetype CommonStart(QStringView left, QStringView right) {
     const auto ends = std::mismatch(left.begin(), left.end(), right.begin(), right.end());
@@ -173,10 +167,10 @@ QAccessibleInterface* MakeAccess(const QString& className, QObject* object) {
 QPalette FaintPalette(const QWidget& parent) {
     const QColor text = parent.palette().color(QPalette::Active, QPalette::Text);
     const QColor base = parent.palette().color(QPalette::Active, QPalette::Base);
+    // Contrast enough to be read: 4.8 to 1 for black on white, where WCAG 2.1 asks for 4.5. The palette's own
+    // colour for hints won't do: where a desktop sets none it stays that of light schemes in dark ones.
     QPalette faint;
-    faint.setColor(
-        QPalette::Text, QColor::fromRgbF(Faint(text.redF(), base.redF()), Faint(text.greenF(), base.greenF()),
-                            Faint(text.blueF(), base.blueF())));
+    faint.setColor(QPalette::Text, Mixed(base, text, 0.55F));
     return faint;
 }
 
@@ -270,84 +264,49 @@ void OpenContextMenu(QMenu* menu, TextControl& control, const QContextMenuEvent&
 
 namespace {
 
-struct TextState {
-    bool writable = false;
-    bool selected = false;
-    bool empty = true;
+// The edit commands act by their keys, so that they go the way of every other key.
+struct EditKey {
+    MenuRole role;
+    Qt::Key key;
+    Qt::KeyboardModifier modifier = Qt::ControlModifier;
 };
+constexpr EditKey editKeys[] = {{MenuRole::Cut, Qt::Key_X}, {MenuRole::Copy, Qt::Key_C},
+    {MenuRole::Paste, Qt::Key_V}, {MenuRole::SelectAll, Qt::Key_A},
+    {MenuRole::Clear, Qt::Key_Delete, Qt::NoModifier}};
 
-bool ReadState(const QWidget* target, TextState& state) {
-    if (target == nullptr || !target->isEnabled()) {
-        return false;
-    }
-    if (const auto* line = qobject_cast<const QLineEdit*>(target)) {
-        state = {!line->isReadOnly(), line->hasSelectedText(), line->text().isEmpty()};
-        return true;
-    }
-    if (const auto* area = qobject_cast<const QPlainTextEdit*>(target)) {
-        state = {!area->isReadOnly(), area->textCursor().hasSelection(), area->document()->isEmpty()};
-        return true;
-    }
-    return false;
-}
-
-// By its key, so that it goes the way of every other paste.
-void PressPaste(QWidget& target) {
-    QKeyEvent press(QEvent::KeyPress, Qt::Key_V, Qt::ControlModifier);
-    QCoreApplication::sendEvent(&target, &press);
+const EditKey* KeyOf(MenuRole role) {
+    const auto* const found = std::ranges::find(editKeys, role, &EditKey::role);
+    return found == std::end(editKeys) ? nullptr : found;
 }
 
 } // namespace
 
 bool IsEditRole(MenuRole role) {
-    return role == MenuRole::Cut || role == MenuRole::Copy || role == MenuRole::Paste ||
-           role == MenuRole::Clear || role == MenuRole::SelectAll;
+    return KeyOf(role) != nullptr;
 }
 
 bool CanEdit(const QWidget* target, MenuRole role) {
-    TextState state;
-    if (!ReadState(target, state)) {
+    const auto* const line = qobject_cast<const QLineEdit*>(target);
+    const auto* const area = qobject_cast<const QPlainTextEdit*>(target);
+    if ((line == nullptr && area == nullptr) || !target->isEnabled()) {
         return false;
     }
-    switch (role) {
-    case MenuRole::Copy:
-        return state.selected;
-    case MenuRole::Cut:
-    case MenuRole::Clear:
-        return state.selected && state.writable;
-    case MenuRole::Paste:
-        return state.writable && !QGuiApplication::clipboard()->text().isEmpty();
-    case MenuRole::SelectAll:
-        return !state.empty;
-    default:
-        return false;
+    const bool writable = line != nullptr ? !line->isReadOnly() : !area->isReadOnly();
+    if (role == MenuRole::Paste) {
+        return writable && !QGuiApplication::clipboard()->text().isEmpty();
     }
+    if (role == MenuRole::SelectAll) {
+        return line != nullptr ? !line->text().isEmpty() : !area->document()->isEmpty();
+    }
+    const bool selected = line != nullptr ? line->hasSelectedText() : area->textCursor().hasSelection();
+    return selected && (writable || role == MenuRole::Copy);
 }
 
 void Edit(QWidget* target, MenuRole role) {
-    if (!CanEdit(target, role)) {
-        return;
-    }
-    auto* const line = qobject_cast<QLineEdit*>(target);
-    auto* const area = qobject_cast<QPlainTextEdit*>(target);
-    switch (role) {
-    case MenuRole::Cut:
-        line != nullptr ? line->cut() : area->cut();
-        break;
-    case MenuRole::Copy:
-        line != nullptr ? line->copy() : area->copy();
-        break;
-    case MenuRole::Paste:
-        PressPaste(*target);
-        break;
-    case MenuRole::Clear:
-        line != nullptr ? line->del() : area->textCursor().removeSelectedText();
-        break;
-    case MenuRole::SelectAll:
-        line != nullptr ? line->selectAll() : area->selectAll();
-        break;
-    default:
-        break;
+    if (CanEdit(target, role)) {
+        QKeyEvent press(QEvent::KeyPress, KeyOf(role)->key, KeyOf(role)->modifier);
+        // Not by the application, for which the key may be this very command's.
+        static_cast<QObject*>(target)->event(&press);
     }
 }
 

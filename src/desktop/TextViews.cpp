@@ -123,9 +123,7 @@ void FieldView::AboutToFocusByKey() {
 }
 
 void FieldView::Read() {
-    if (widget_->isReadOnly() != model_.ReadOnly()) {
-        widget_->setReadOnly(model_.ReadOnly);
-    }
+    widget_->setReadOnly(model_.ReadOnly);
     widget_->setAlignment(QtAlignment(model_.TextAlignment));
     widget_->SetDimmed(!model_.Remark().empty());
     ReadFont();
@@ -142,10 +140,7 @@ void FieldView::Read() {
 void FieldView::ReadFont() {
     const bool isEdited = model_.HasFocus() && !model_.ReadOnly;
     const QString whole = model_.ShowsAll && !isEdited ? ToQt(model_.Text) : QString();
-    const QFont font = FittingFont(*widget_, whole, model_.Width - framePadding, model_.TextSize);
-    if (widget_->font() != font) {
-        widget_->setFont(font);
-    }
+    widget_->setFont(FittingFont(*widget_, whole, model_.Width - framePadding, model_.TextSize));
 }
 
 QString FieldView::Shown(const std::string& text) const {
@@ -284,10 +279,7 @@ AreaView::AreaView(TextArea& model, QWidget* parent) : View(model, new PlainEdit
 
 void AreaView::Read() {
     const Qt::TextInteractionFlags reading = Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard;
-    const Qt::TextInteractionFlags flags = model_.ReadOnly ? reading : Qt::TextEditorInteraction;
-    if (widget_->textInteractionFlags() != flags) {
-        widget_->setTextInteractionFlags(flags);
-    }
+    widget_->setTextInteractionFlags(model_.ReadOnly ? reading : Qt::TextEditorInteraction);
     widget_->SetDimmed(!model_.Remark().empty());
     const QString text = WithLineFeeds(model_.Text);
     const bool isNew = text != shown_;
@@ -396,12 +388,8 @@ void AreaView::Selected() {
 
 } // namespace
 
-std::unique_ptr<ControlView> MakeFieldView(Control& control, QWidget* parent) {
-    return MakeIf<TextField, FieldView>(control, parent);
-}
-
-std::unique_ptr<ControlView> MakeAreaView(Control& control, QWidget* parent) {
-    return MakeIf<TextArea, AreaView>(control, parent);
+std::unique_ptr<ControlView> MakeTextView(Control& control, QWidget* parent) {
+    return MakeByFirst({&MakeIf<TextField, FieldView>, &MakeIf<TextArea, AreaView>}, control, parent);
 }
 
 } // namespace tessarolyne
