@@ -5,7 +5,6 @@
 #include "desktop/Resources.h"
 #include "machine/PosixFileSystem.h"
 #include "machine/SystemClock.h"
-#include "platform/System.h"
 #include "ui/Program.h"
 
 #include <iostream>
@@ -27,7 +26,6 @@ int main(int count, char** arguments) {
 
     QtApplication desktop("Tessarolyne", applicationIdentifier, options);
     const QtTranslations translations;
-    System::UseTranslations(&translations);
     QtServices services(files);
     Services world = services.With(clock, files, memory);
     Program program(world);

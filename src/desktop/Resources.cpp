@@ -119,6 +119,7 @@ QtTranslations::QtTranslations(const QString& folder, const std::vector<std::str
         }
     }
     chain_ = ChainFor(wanted);
+    System::UseTranslations(this);
     const QLocale locale(ToQt(chain_.empty() ? builtInLanguage : chain_.front()));
     const QString qtFolder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
     if (qtTexts_.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"), qtFolder)) {

@@ -34,9 +34,9 @@ void DrawPicture(QPainter& painter, const Picture& picture, const QRect& area);
 // A colour that can be read on the picture: black or white on a fill, else the palette's button text.
 QColor TextColorOn(const Picture& picture, const QPalette& palette);
 
-// The translations of the program's texts, from compiled Qt catalogues; and, for as long as it lives, Qt's
-// own texts (the file chooser, context menus) in the same language, where they are installed. Made after
-// Qt's application object.
+// The translations of the program's texts, from compiled Qt catalogues, and Qt's own texts (the file chooser,
+// context menus) in the same language, where they are installed: both are used for as long as it lives. Made
+// after Qt's application object.
 class QtTranslations final : public Translations {
 public:
     // The catalogues beside the program, in the languages of the user's desktop.
@@ -44,6 +44,7 @@ public:
     // The catalogues "tessarolyne_<language>.qm" of `folder`, for a desktop that wants these languages, in
     // the order of preference.
     QtTranslations(const QString& folder, const std::vector<std::string>& wanted);
+    ~QtTranslations() override { System::UseTranslations(nullptr); }
 
     std::optional<std::string> Find(std::string_view key, std::string_view language) const override;
 

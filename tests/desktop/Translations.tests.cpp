@@ -87,18 +87,10 @@ QString Frame(const QString& text) {
     return text.left(at) + u"¿%"_qs.repeated(text.count(u"¿%"_qs)) + text.mid(at + core.size());
 }
 
-// Uses the compiled catalogues as a desktop with these languages does.
-class Speaking {
-public:
-    explicit Speaking(const std::vector<std::string>& wanted)
-        : translations_(QStringLiteral(COMPILED_CATALOGUES), wanted) {
-        System::UseTranslations(&translations_);
-    }
-    ~Speaking() { System::UseTranslations(nullptr); }
-
-private:
-    const QtTranslations translations_;
-};
+// The compiled catalogues, used as long as this lives, as by a desktop with these languages.
+QtTranslations Speaking(const std::vector<std::string>& wanted) {
+    return QtTranslations(QStringLiteral(COMPILED_CATALOGUES), wanted);
+}
 
 // The pinned font for all texts.
 void UseFont() {
@@ -221,7 +213,7 @@ TEST_CASE("A text comes from the region's catalogue, else the language's, else i
     };
     for (const auto& row : rows) {
         CAPTURE(row.wanted.front());
-        const Speaking speaking(row.wanted);
+        const QtTranslations speaking = Speaking(row.wanted);
         CHECK(Localisation::A_LangLoc() == row.words);
         CHECK(Localisation::Txt_Monnaies() + "/" + Localisation::Txt_Centimes() == row.currencies);
         CHECK(Localisation::Btn_Annuler() == row.cancel);
@@ -236,7 +228,7 @@ TEST_CASE("Every text of every language fits at the pinned font, every control i
     const QStringList languages = Languages() + QStringList(u"fr"_qs);
     for (const QString& language : languages) {
         CAPTURE(language.toStdString());
-        const Speaking speaking({FromQt(language)});
+        const QtTranslations speaking = Speaking({FromQt(language)});
         TestWorld world;
         WinMain& main = world.Main();
         QtMenu menus(world.program->app, *world.program->app.GetMenuBar());

@@ -88,14 +88,10 @@ class ProgramTestCase(unittest.TestCase):
         cls.program = Program(cls.screen, cls._home, cls.__name__, [PROGRAM, *cls.ARGUMENTS], cls.ENVIRONMENT)
         cls.addClassCleanup(cls.program.kill)
 
-    def wait_until_opened(self, *addresses):
-        """Waits until exactly these addresses have gone to the browser, and forgets them."""
+    def wait_until_opened(self, address):
+        """Waits until this address alone has gone to the browser, and forgets it."""
         opened = Path(self._home) / "opened"
-
-        def found():
-            return opened.read_text().splitlines() if opened.exists() else []
-
-        self.wait_for(lambda: found() == list(addresses), lambda: f"{addresses} to be opened, not {found()}")
+        self.wait_for(lambda: opened.exists() and opened.read_text() == f"{address}\n", f"{address} to be opened")
         opened.unlink()
 
     def run(self, result=None):

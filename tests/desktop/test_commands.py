@@ -11,26 +11,15 @@ LOADING = "^Chargement des Nombres Premiers$"
 
 
 class PrimeFile(ProgramTestCase):
-    def save_as(self, target):
-        self.screen.press("ctrl+s")
-        self.wait_for(
-            lambda: next((c for c in self.controls() if c.focused and c.text.endswith(".txt")), None), "the chooser"
-        )
-        self.screen.type(str(target))
-        self.screen.press("Return")
-
-    def open(self, path):
-        self.screen.press("ctrl+o")
-        self.find_with_keyboard("dialog", "Sélectionner le Fichier")
-        self.screen.type(str(path))
-        self.screen.press("Return")
-
     def load_zeros(self, size):
         """Begins to load four primes and that many zero bytes on a line, which take no place on the disk."""
         path = Path(self._home) / "long.txt"
         path.write_bytes(b"2\t3\t5\t7\n")
         os.truncate(path, size)
-        self.open(path)
+        self.screen.press("ctrl+o")
+        self.find_with_keyboard("dialog", "Sélectionner le Fichier")
+        self.screen.type(str(path))
+        self.screen.press("Return")
         self.wait_for(lambda: self.screen.find_windows(LOADING), "the load to begin")
         return path
 
@@ -44,7 +33,10 @@ class PrimeFile(ProgramTestCase):
         self.screen.press("Return")
         self.control("StaticTextNbNbre1ers")
         self.assertTrue(self.control("TxtAreaListeNbres1ers").text.startswith("\t2\t3\t5\t7\t11\t13\n\t17"))
-        self.save_as(target.with_suffix(""))  # the chooser adds what it needs to show the file again
+        self.screen.press("ctrl+s")
+        self.wait_for(lambda: [c for c in self.focused() if c.text.endswith(".txt")], "the chooser")
+        self.screen.type(str(target.with_suffix("")))  # the chooser adds what it needs to show the file again
+        self.screen.press("Return")
         self.wait_for(lambda: target.is_file() and target.read_text().endswith("977\t983\n"), "the file")
         self.control("PushButtonFichier")  # the commands are back: while a save runs the program takes no input
         self.press_button("BevelButtonListe")

@@ -14,7 +14,6 @@ INTERFACE = """\
     <method name="Read">
       <arg type="s" direction="in"/><arg type="s" direction="in"/><arg type="v" direction="out"/>
     </method>
-    <signal name="SettingChanged"><arg type="s"/><arg type="s"/><arg type="v"/></signal>
   </interface>
 </node>"""
 
