@@ -1,66 +1,19 @@
 #include "machine/PosixFileSystem.h"
 
-#include "machine/FileBytes.h"
 #include "machine/SafeFile.h"
 
 #include <algorithm>
 #include <array>
+#include <climits>
 #include <csignal>
+#include <cstdio>
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
-#include <fstream>
-#include <sstream>
+#include <mntent.h>
 #include <sys/stat.h>
 
 namespace tessarolyne {
-
-namespace {
-
-bool IsOctal(char c) {
-    return c >= '0' && c <= '7';
-}
-
-// The table writes blank, tab, line feed and backslash as a backslash and three octal digits.
-std::string Unescaped(const std::string& text) {
-    std::string plain;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '\\' && i + 3 < text.size() && IsOctal(text[i + 1]) && IsOctal(text[i + 2]) &&
-            IsOctal(text[i + 3])) {
-            plain +=
-                static_cast<char>((text[i + 1] - '0') * 64 + (text[i + 2] - '0') * 8 + (text[i + 3] - '0'));
-            i += 3;
-        } else {
-            plain += text[i];
-        }
-    }
-    return plain;
-}
-
-} // namespace
-
-bool LiesUnderMountFolders(const std::string& path) {
-    return path.starts_with("/media/") || path.starts_with("/run/media/") || path.starts_with("/mnt/");
-}
-
-std::vector<Volume> MountedVolumes(std::istream& mountTable) {
-    std::vector<Volume> volumes{{rootVolumeName, "/"}};
-    for (std::string line; std::getline(mountTable, line);) {
-        std::istringstream fields(line);
-        std::string number, parent, device, source, mountPoint;
-        if (!(fields >> number >> parent >> device >> source >> mountPoint)) {
-            continue;
-        }
-        const std::string root = Unescaped(mountPoint);
-        const Volume volume{root.substr(root.rfind('/') + 1), root};
-        // A second mount over the first shows in the table as well.
-        if (LiesUnderMountFolders(root) &&
-            std::find(volumes.begin(), volumes.end(), volume) == volumes.end()) {
-            volumes.push_back(volume);
-        }
-    }
-    return volumes;
-}
 
 namespace {
 
@@ -129,12 +82,12 @@ constexpr off_t largestCopy = off_t{16} * 1024 * 1024;
 bool CopyFile(FileSystem& files, const std::string& path, const std::string& copy) {
     try {
         const auto source = files.OpenForReading(path);
-        SafeFile target(copy, LinkPolicy::ReplaceLink, path);
+        const auto target = BeginSave(copy, LinkPolicy::ReplaceLink, path);
         std::array<char, 65536> chunk;
         for (auto count = source->Read(chunk); count > 0; count = source->Read(chunk)) {
-            target.Write({chunk.data(), count});
+            target->Write({chunk.data(), count});
         }
-        target.Commit();
+        target->Commit();
         return true;
     } catch (const IOException&) {
         return false;
@@ -157,6 +110,11 @@ bool MayDo(const std::string& path, int what) {
     return ::faccessat(AT_FDCWD, path.c_str(), what, AT_EACCESS) == 0;
 }
 
+// Where desktops mount what the user plugs in.
+bool LiesUnderMountFolders(const std::string& path) {
+    return path.starts_with("/media/") || path.starts_with("/run/media/") || path.starts_with("/mnt/");
+}
+
 } // namespace
 
 PosixFileSystem::PosixFileSystem(FindFolder find) : find_(std::move(find)) {
@@ -168,16 +126,11 @@ FileKind PosixFileSystem::Kind(const std::string& path) const {
     if (::lstat(path.c_str(), &status) != 0) {
         return errno == ENOENT || errno == ENOTDIR ? FileKind::None : FileKind::Unknown;
     }
-    switch (status.st_mode & S_IFMT) {
-    case S_IFREG:
-        return FileKind::Regular;
-    case S_IFDIR:
-        return FileKind::Folder;
-    case S_IFLNK:
-        return FileKind::Link;
-    default:
-        return FileKind::Other;
-    }
+    const mode_t mode = status.st_mode;
+    return S_ISREG(mode)   ? FileKind::Regular
+           : S_ISDIR(mode) ? FileKind::Folder
+           : S_ISLNK(mode) ? FileKind::Link
+                           : FileKind::Other;
 }
 
 std::optional<FileStamp> PosixFileSystem::Stamp(const std::string& path) const {
@@ -200,20 +153,23 @@ std::optional<std::string> PosixFileSystem::Resolve(const std::string& path) con
     }
 }
 
+// Reads the kernel's table and touches no mounted file system, since one that has died would hang the
+// program.
 std::vector<Volume> PosixFileSystem::Volumes() const {
-    std::ifstream mountTable("/proc/self/mountinfo");
-    return MountedVolumes(mountTable);
-}
-
-std::optional<std::string> PosixFileSystem::VolumeNameAt(const std::string& path) const {
-    // The mount table is read only for paths that can stand in it; this is asked for every part of a path.
-    if (path != "/" && !LiesUnderMountFolders(path)) {
-        return std::nullopt;
+    std::vector<Volume> volumes{{"Root", "/"}};
+    const std::unique_ptr<FILE, int (*)(FILE*)> table(::setmntent("/proc/self/mounts", "re"), &::endmntent);
+    char line[2 * PATH_MAX];
+    mntent mount{};
+    while (table != nullptr && ::getmntent_r(table.get(), &mount, line, sizeof line) != nullptr) {
+        const std::string root = mount.mnt_dir;
+        const Volume volume{root.substr(root.rfind('/') + 1), root};
+        // A second mount over the first shows in the table as well.
+        if (LiesUnderMountFolders(root) &&
+            std::find(volumes.begin(), volumes.end(), volume) == volumes.end()) {
+            volumes.push_back(volume);
+        }
     }
-    const auto volumes = Volumes();
-    const auto found = std::find_if(
-        volumes.begin(), volumes.end(), [&](const Volume& volume) { return volume.root == path; });
-    return found == volumes.end() ? std::nullopt : std::optional(found->name);
+    return volumes;
 }
 
 bool PosixFileSystem::MakeFolder(const std::string& path) {
@@ -225,7 +181,7 @@ std::unique_ptr<InputFile> PosixFileSystem::OpenForReading(const std::string& pa
 }
 
 std::unique_ptr<OutputFile> PosixFileSystem::CreateSafely(const std::string& path, LinkPolicy links) {
-    return std::make_unique<SafeFile>(path, links);
+    return BeginSave(path, links);
 }
 
 bool PosixFileSystem::CanReplace(const std::string& path, LinkPolicy links) const {

@@ -3,22 +3,12 @@
 #include "platform/FolderItem.h"
 
 #include <functional>
-#include <istream>
+#include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 namespace tessarolyne {
-
-// The name that the root file system has in a colon path.
-constexpr const char* rootVolumeName = "Root";
-
-// Whether a path lies where desktops mount what the user plugs in: under /media, /run/media or /mnt.
-bool LiesUnderMountFolders(const std::string& path);
-
-// The root file system, then what is mounted under those folders, each by the last part of its mount point.
-// Reads a table in the form of /proc/self/mountinfo (proc(5)) and touches no mounted file system, since one
-// that has died would hang the program. An unreadable table gives the root alone.
-std::vector<Volume> MountedVolumes(std::istream& mountTable);
 
 // The machine's files by POSIX; what the desktop calls its folders, the desktop tells. Its making turns the
 // signal for a file beyond the process's size limit off, since that is a failed write like any other and not
@@ -33,7 +23,6 @@ public:
     std::optional<FileStamp> Stamp(const std::string& path) const override;
     std::optional<std::string> Resolve(const std::string& path) const override;
     std::vector<Volume> Volumes() const override;
-    std::optional<std::string> VolumeNameAt(const std::string& path) const override;
     std::optional<std::string> Find(KnownFolder folder) override {
         return find_ ? find_(folder) : std::nullopt;
     }

@@ -1,16 +1,57 @@
 #pragma once
 
-#include "machine/FileBytes.h"
 #include "platform/FolderItem.h"
 
+#include <cerrno>
 #include <memory>
 #include <optional>
 #include <string>
-#include <string_view>
 #include <sys/types.h>
+#include <system_error>
+#include <unistd.h>
 #include <utility>
 
 namespace tessarolyne {
+
+// Calls again as long as a signal cut the call short.
+template <class Call>
+auto Uninterrupted(Call call) {
+    auto result = call();
+    while (result == -1 && errno == EINTR) {
+        result = call();
+    }
+    return result;
+}
+
+// Throws the IOException for a system call that has just set errno.
+[[noreturn]] inline void ThrowErrno(const std::string& step) {
+    throw IOException(step + ": " + std::generic_category().message(errno));
+}
+
+// An open file descriptor, closed when it goes. Close reports what the destructor can't.
+class Descriptor {
+public:
+    explicit Descriptor(int number = -1) : number_(number) {}
+    Descriptor(Descriptor&& other) noexcept : number_(std::exchange(other.number_, -1)) {}
+    Descriptor& operator=(Descriptor&& other) noexcept {
+        std::swap(number_, other.number_);
+        return *this;
+    }
+    ~Descriptor() { Close(); }
+
+    int operator*() const { return number_; }
+    bool IsOpen() const { return number_ >= 0; }
+
+    // False with errno if the system reports a failure; the number is gone in any case, as Linux defines it,
+    // so that a second attempt could close another thread's file.
+    bool Close() {
+        const int number = std::exchange(number_, -1);
+        return number < 0 || ::close(number) == 0 || errno == EINTR;
+    }
+
+private:
+    int number_;
+};
 
 // Where a save really goes, and what the new file takes over from the old one.
 struct SaveTarget {
@@ -36,68 +77,18 @@ SaveTarget FindSaveTarget(const std::string& path, LinkPolicy links);
 // IOException.
 std::string FollowLinks(const std::string& path);
 
-// Gives a new, open file the owner, group, permissions and access control list of the file at the path that
-// it is to replace, as far as the user may; what can't be had leaves it open to fewer people, never to more.
-// False if more people could read it all the same, or if a list would be lost: it must not replace that file
-// then. Throws IOException.
-bool TakeOverAccess(int made, const std::string& path, const SaveTarget::Owner& old);
+// Begins a save, the one way in which files are written: a temporary file beside the target takes the bytes,
+// is synced, takes the target's name, and the folder is synced. A failure leaves the old file whole and no
+// temporary. The new file has the old one's permissions, access control list, owner and group as far as the
+// user may give them; it doesn't take over extended attributes or further hard links. Where the folder takes
+// no new file, or none that may replace the old one, the old one is written in place, as the last thing.
+// `like`, if named, is a file to whose people the new one is open, in place of the one that it replaces.
+// Throws IOException, see FindSaveTarget.
+std::unique_ptr<OutputFile> BeginSave(
+    const std::string& path, LinkPolicy links, const std::string& like = {});
 
-// A new, empty file with a name of the program's own, locked as long as this object lives so that a sweep
-// knows it for a save under way. Removed when the object goes, unless it was renamed.
-class TemporaryFile {
-public:
-    // Made in the open folder, which must outlive this. Nothing, with errno, where the folder takes no new
-    // file; IOException for any other failure.
-    static std::unique_ptr<TemporaryFile> Make(int folder, mode_t permissions);
-    TemporaryFile(const TemporaryFile&) = delete;
-    TemporaryFile& operator=(const TemporaryFile&) = delete;
-    ~TemporaryFile();
-
-    int Number() const { return *file_; }
-    // Gives the file its final name. False with errno.
-    bool TakeName(const std::string& name);
-
-private:
-    TemporaryFile(int folder, std::string name, Descriptor file)
-        : folder_(folder), name_(std::move(name)), file_(std::move(file)) {}
-    bool Lock();
-
-    int folder_;
-    std::string name_; // empty once renamed
-    Descriptor file_;
-};
-
-// Removes the files in the folder that have such a name and that no living process holds, as far as the
+// Removes the files in the folder that a save made and that no living process holds, as far as the
 // folder can be read.
 void SweepTemporaryFiles(const std::string& folder);
-
-// The one writer of files: a temporary file beside the target takes the bytes, is synced, takes the target's
-// name, and the folder is synced. A failure leaves the old file whole and no temporary. The new file has the
-// old one's permissions, access control list, owner and group as far as the user may give them; it doesn't
-// take over extended attributes or further hard links. Where the folder takes no new file, or none that may
-// replace the old one, the old one is written in place, as the last thing.
-class SafeFile final : public OutputFile {
-public:
-    // The new file is open to the same people as the file `like`, if one is named, else as the one that it
-    // replaces. Throws IOException, see FindSaveTarget.
-    SafeFile(const std::string& path, LinkPolicy links, const std::string& like = {});
-
-    void Write(std::string_view bytes) override;
-    void Commit() override;
-
-private:
-    int Content() const;
-    void Append(std::string_view bytes);
-    void Finish();
-    void SyncFolder();
-    void End();
-
-    SaveTarget target_;
-    Descriptor folder_;
-    // One of these takes the bytes; none after a Commit or a failure.
-    std::unique_ptr<TemporaryFile> temporary_;
-    Descriptor aside_;
-    std::string buffer_;
-};
 
 } // namespace tessarolyne

@@ -1,5 +1,7 @@
 #include "machine/SystemClock.h"
 
+#include "platform/Text.h"
+
 #include <algorithm>
 #include <array>
 #include <cerrno>
@@ -7,6 +9,7 @@
 #include <ctime>
 #include <fcntl.h>
 #include <fstream>
+#include <limits>
 #include <sys/resource.h>
 #include <system_error>
 #include <unistd.h>
@@ -16,6 +19,8 @@ namespace tessarolyne {
 namespace {
 
 using Path = std::filesystem::path;
+
+constexpr std::uint64_t unlimited = std::numeric_limits<std::uint64_t>::max();
 
 std::uint64_t Left(std::uint64_t limit, std::uint64_t used) {
     return limit > used ? limit - used : 0;
@@ -42,12 +47,18 @@ std::optional<std::uint64_t> FieldIn(const Path& file, std::string_view name) {
     return std::nullopt;
 }
 
+// The same, from kilobytes to bytes.
+std::optional<std::uint64_t> KilobytesIn(const Path& file, std::string_view name) {
+    const auto kilobytes = FieldIn(file, name);
+    return kilobytes ? std::optional(*kilobytes * 1024) : std::nullopt;
+}
+
 // What one control group leaves. Cached file pages count as used there, but give way.
 std::uint64_t LeftInGroup(
     const Path& group, const char* limitName, const char* usedName, const char* cacheName) {
     const auto limit = NumberIn(group / limitName);
     if (!limit) {
-        return std::numeric_limits<std::uint64_t>::max();
+        return unlimited;
     }
     const std::uint64_t used = NumberIn(group / usedName).value_or(0);
     return Left(*limit, Left(used, FieldIn(group / "memory.stat", cacheName).value_or(0)));
@@ -56,7 +67,7 @@ std::uint64_t LeftInGroup(
 // The least that a group and those above it leave. Inside a container the group's path may start outside of
 // what is mounted, so the mount's own root is looked at in any case.
 std::uint64_t LeastInGroups(const Path& mount, Path group, bool isVersion2) {
-    std::uint64_t least = std::numeric_limits<std::uint64_t>::max();
+    std::uint64_t least = unlimited;
     for (group = group.relative_path();; group = group.parent_path()) {
         const Path directory = mount / group;
         least = std::min(least, isVersion2
@@ -69,23 +80,33 @@ std::uint64_t LeastInGroups(const Path& mount, Path group, bool isVersion2) {
     }
 }
 
-// Whether a list like "cpu,memory,pids" holds "memory".
-bool NamesMemory(std::string_view controllers) {
-    while (!controllers.empty()) {
-        const std::size_t comma = controllers.find(',');
-        if (controllers.substr(0, comma) == "memory") {
-            return true;
+// Lines of /proc/self/cgroup: "0::/path" for version 2, "number:controllers:/path" for version 1.
+std::uint64_t LeftInGroups(const Path& root) {
+    std::ifstream stream(root / "proc/self/cgroup");
+    std::uint64_t least = unlimited;
+    for (std::string line; std::getline(stream, line);) {
+        const auto fields = Split(line, ":");
+        if (fields.size() < 3) {
+            continue;
         }
-        controllers.remove_prefix(comma == std::string_view::npos ? controllers.size() : comma + 1);
+        const Path group = line.substr(fields[0].size() + fields[1].size() + 2);
+        const auto controllers = Split(fields[1], ",");
+        if (fields[1].empty()) {
+            least = std::min(least, LeastInGroups(root / "sys/fs/cgroup", group, true));
+        } else if (std::find(controllers.begin(), controllers.end(), "memory") != controllers.end()) {
+            least = std::min(least, LeastInGroups(root / "sys/fs/cgroup/memory", group, false));
+        }
     }
-    return false;
+    return least;
 }
 
-// The resources are an enumeration to glibc and numbers elsewhere.
-std::uint64_t SoftLimit(decltype(RLIMIT_AS) resource) {
+// What a resource limit leaves beside the memory of that name. The resources are an enumeration to glibc and
+// numbers elsewhere.
+std::uint64_t LeftOf(decltype(RLIMIT_AS) resource, const Path& root, std::string_view used) {
     rlimit limit{};
     const bool isLimited = getrlimit(resource, &limit) == 0 && limit.rlim_cur != RLIM_INFINITY;
-    return isLimited ? limit.rlim_cur : std::numeric_limits<std::uint64_t>::max();
+    return isLimited ? Left(limit.rlim_cur, KilobytesIn(root / "proc/self/status", used).value_or(0))
+                     : unlimited;
 }
 
 constexpr std::array watched = {SIGTERM, SIGHUP, SIGINT};
@@ -117,45 +138,12 @@ Date SystemClock::Now() const {
         local.tm_year + 1900, local.tm_mon + 1, local.tm_mday, local.tm_hour, local.tm_min, local.tm_sec};
 }
 
-std::uint64_t SystemMemory::MachineBytes() const {
-    const auto kilobytes = FieldIn(root_ / "proc/meminfo", "MemAvailable:");
-    return kilobytes ? *kilobytes * 1024 : unlimited;
-}
-
-// Lines of /proc/self/cgroup: "0::/path" for version 2, "number:controllers:/path" for version 1.
-std::uint64_t SystemMemory::GroupBytes() const {
-    std::ifstream stream(root_ / "proc/self/cgroup");
-    std::uint64_t least = unlimited;
-    for (std::string line; std::getline(stream, line);) {
-        const std::size_t first = line.find(':');
-        const std::size_t second = first == std::string::npos ? first : line.find(':', first + 1);
-        if (second == std::string::npos) {
-            continue;
-        }
-        const std::string controllers = line.substr(first + 1, second - first - 1);
-        const Path group = line.substr(second + 1);
-        if (controllers.empty()) {
-            least = std::min(least, LeastInGroups(root_ / "sys/fs/cgroup", group, true));
-        } else if (NamesMemory(controllers)) {
-            least = std::min(least, LeastInGroups(root_ / "sys/fs/cgroup/memory", group, false));
-        }
-    }
-    return least;
-}
-
-std::uint64_t SystemMemory::ResourceLimitBytes() const {
-    const Path status = root_ / "proc/self/status";
-    const auto used = [&](std::string_view name) { return 1024 * FieldIn(status, name).value_or(0); };
-    const std::uint64_t addresses = SoftLimit(RLIMIT_AS);
-    const std::uint64_t data = SoftLimit(RLIMIT_DATA);
-    return std::min(addresses == unlimited ? unlimited : Left(addresses, used("VmSize:")),
-        data == unlimited ? unlimited : Left(data, used("VmData:")));
-}
-
 std::uint64_t SystemMemory::AvailableBytes() const {
     // Where nothing can be read, as much as a small machine has.
     constexpr std::uint64_t fallback = std::uint64_t{1} << 30;
-    const std::uint64_t least = std::min({MachineBytes(), GroupBytes(), ResourceLimitBytes()});
+    const std::uint64_t least =
+        std::min({KilobytesIn(root_ / "proc/meminfo", "MemAvailable:").value_or(unlimited),
+            LeftInGroups(root_), LeftOf(RLIMIT_AS, root_, "VmSize:"), LeftOf(RLIMIT_DATA, root_, "VmData:")});
     return least == unlimited ? fallback : least;
 }
 

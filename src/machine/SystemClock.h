@@ -4,7 +4,6 @@
 
 #include <cstdint>
 #include <filesystem>
-#include <limits>
 
 namespace tessarolyne {
 
@@ -25,12 +24,6 @@ public:
     std::uint64_t AvailableBytes() const override;
 
 private:
-    static constexpr std::uint64_t unlimited = std::numeric_limits<std::uint64_t>::max();
-
-    std::uint64_t MachineBytes() const;
-    std::uint64_t GroupBytes() const;
-    std::uint64_t ResourceLimitBytes() const;
-
     std::filesystem::path root_;
 };
 

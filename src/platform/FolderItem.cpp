@@ -13,6 +13,16 @@ bool CanBeName(std::string_view name) {
            name.find('\0') == std::string_view::npos;
 }
 
+// The name of the volume whose root folder this is; nothing for any other path.
+std::optional<std::string> VolumeNameAt(const FileSystem& files, const std::string& path) {
+    for (auto& volume : files.Volumes()) {
+        if (volume.root == path) {
+            return std::move(volume.name);
+        }
+    }
+    return std::nullopt;
+}
+
 } // namespace
 
 std::optional<FolderItem> FolderItem::FromNativePath(FileSystem& files, std::string_view path) {
@@ -39,14 +49,14 @@ std::optional<FolderItem> FolderItem::Find(FileSystem& files, KnownFolder folder
 }
 
 std::string FolderItem::Name() const {
-    if (auto volume = files_->VolumeNameAt(path_)) {
+    if (auto volume = VolumeNameAt(*files_, path_)) {
         return *std::move(volume);
     }
     return path_.substr(path_.rfind('/') + 1);
 }
 
 std::optional<FolderItem> FolderItem::Parent() const {
-    if (path_ == "/" || files_->VolumeNameAt(path_)) {
+    if (path_ == "/" || VolumeNameAt(*files_, path_)) {
         return std::nullopt;
     }
     const auto slash = path_.rfind('/');

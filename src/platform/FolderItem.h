@@ -85,10 +85,8 @@ public:
     // path to that.
     virtual std::optional<std::string> Resolve(const std::string& path) const = 0;
 
-    // The root file system first.
+    // The root file system first, then what the user has mounted, each by the last part of its mount point.
     virtual std::vector<Volume> Volumes() const = 0;
-    // The name of the volume whose root folder this is; nothing for any other path.
-    virtual std::optional<std::string> VolumeNameAt(const std::string& path) const = 0;
     // Nothing if there is no such folder; the one for preferences is made if it is missing.
     virtual std::optional<std::string> Find(KnownFolder folder) = 0;
 

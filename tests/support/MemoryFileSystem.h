@@ -77,11 +77,6 @@ public:
         return kind == FileKind::None || kind == FileKind::Link ? std::nullopt : std::optional(place);
     }
     std::vector<Volume> Volumes() const override { return volumes; }
-    std::optional<std::string> VolumeNameAt(const std::string& path) const override {
-        const auto found = std::find_if(
-            volumes.begin(), volumes.end(), [&](const Volume& volume) { return volume.root == path; });
-        return found == volumes.end() ? std::nullopt : std::optional(found->name);
-    }
     std::optional<std::string> Find(KnownFolder folder) override {
         const auto found = known.find(folder);
         return found == known.end() ? std::nullopt : std::optional(found->second);
