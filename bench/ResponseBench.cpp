@@ -50,7 +50,7 @@ double Milliseconds(Clock::duration duration) {
 class NoSounds final : public Sounds {
 public:
     void Beep() override {}
-    std::unique_ptr<Playing> Play(const std::string&) override { return nullptr; }
+    std::function<bool()> Play(const std::string&) override { return {}; }
 };
 
 // A home of its own for the program, gone at the end.

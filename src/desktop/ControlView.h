@@ -1,8 +1,8 @@
 #pragma once
 
-#include "platform/Control.h"
 #include "platform/Event.h"
 #include "platform/EventLoop.h"
+#include "platform/Window.h"
 
 #include <QAccessible>
 #include <QWidget>

@@ -97,29 +97,9 @@ QString FindPlayer() {
     return {};
 }
 
-class PlayingFile final : public Playing {
-public:
-    PlayingFile(const QString& player, const QString& path) {
-        QProcess process;
-        process.setProgram(player);
-        process.setArguments({path});
-        Silence(process);
-        hasStarted_ = !player.isEmpty() && !path.isEmpty() && process.startDetached(&player_);
-        since_.start();
-    }
-    bool IsPlaying() const override {
-        return hasStarted_ && since_.elapsed() < longest && ::kill(static_cast<pid_t>(player_), 0) == 0;
-    }
-
-private:
-    // In milliseconds: more than any of the program's sounds, so that a player that hangs makes nobody wait
-    // for ever.
-    static constexpr qint64 longest = 10'000;
-
-    qint64 player_ = 0; // its process
-    bool hasStarted_ = false;
-    QElapsedTimer since_;
-};
+// In milliseconds: more than any of the program's sounds, so that a player that hangs makes nobody wait for
+// ever.
+constexpr qint64 longestSound = 10'000;
 
 // The application's pointer goes before those of windows and controls.
 void ReadCursor(const Application& application) {
@@ -237,9 +217,20 @@ void QtSounds::Beep() {
     QApplication::beep();
 }
 
-std::unique_ptr<Playing> QtSounds::Play(const std::string& file) {
+std::function<bool()> QtSounds::Play(const std::string& file) {
     static const QString player = FindPlayer();
-    return std::make_unique<PlayingFile>(player, ResourcePath("sounds/" + file));
+    const QString path = ResourcePath("sounds/" + file);
+    QProcess process;
+    process.setProgram(player);
+    process.setArguments({path});
+    Silence(process);
+    qint64 id = 0;
+    const bool hasStarted = !player.isEmpty() && !path.isEmpty() && process.startDetached(&id);
+    QElapsedTimer since;
+    since.start();
+    return [=] {
+        return hasStarted && since.elapsed() < longestSound && ::kill(static_cast<pid_t>(id), 0) == 0;
+    };
 }
 
 } // namespace tessarolyne

@@ -161,7 +161,7 @@ private:
 class QtSounds final : public Sounds {
 public:
     void Beep() override;
-    std::unique_ptr<Playing> Play(const std::string& file) override;
+    std::function<bool()> Play(const std::string& file) override;
 };
 
 // All that the desktop answers. Made after the QtApplication and before the program, and outlives it.

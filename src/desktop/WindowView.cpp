@@ -118,7 +118,7 @@ void WindowView::Observe() {
         ShowFocus();
     }));
     connections_.push_back(window_.Raised.Connect([this] { Raise(); }));
-    connections_.push_back(window_.DrawNow.Connect([this] { repaint(); }));
+    connections_.push_back(window_.Refresh.Connect([this] { repaint(); }));
     connections_.push_back(window_.Closed.Connect([this] { ModelClosed(); }));
 }
 

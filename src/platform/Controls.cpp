@@ -1,7 +1,5 @@
 #include "platform/Controls.h"
 
-#include "platform/Window.h"
-
 namespace tessarolyne {
 
 void CheckBox::PropertyChanged(const void* property) {

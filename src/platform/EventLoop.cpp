@@ -35,8 +35,6 @@ void Thread::Body() {
         Run();
     } catch (const std::exception& failure) {
         AfterBody([this, reason = std::string(failure.what())] { Failed(reason); });
-    } catch (...) {
-        AfterBody([this] { Failed("unknown"); });
     }
     current = nullptr;
     auto tasks = std::exchange(afterBody_, {});

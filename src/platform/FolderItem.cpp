@@ -64,8 +64,13 @@ std::optional<FolderItem> FolderItem::Parent() const {
 }
 
 std::optional<FolderItem> FolderItem::Child(std::string_view name) const {
-    const auto child = TrueChild(name);
-    return child ? std::optional(child->Resolved()) : std::nullopt;
+    auto child = TrueChild(name);
+    if (child && child->IsAlias()) {
+        if (auto target = files_->Resolve(child->path_)) {
+            child->path_ = *std::move(target);
+        }
+    }
+    return child;
 }
 
 std::optional<FolderItem> FolderItem::TrueChild(std::string_view name) const {
@@ -73,15 +78,6 @@ std::optional<FolderItem> FolderItem::TrueChild(std::string_view name) const {
         return std::nullopt;
     }
     return FolderItem(*files_, (path_ == "/" ? "/" : path_ + "/").append(name));
-}
-
-FolderItem FolderItem::Resolved() const {
-    if (IsAlias()) {
-        if (auto target = files_->Resolve(path_)) {
-            return FolderItem(*files_, *std::move(target));
-        }
-    }
-    return *this;
 }
 
 } // namespace tessarolyne

@@ -130,8 +130,6 @@ public:
     std::optional<FolderItem> Child(std::string_view name) const;
     // The same, an alias as itself.
     std::optional<FolderItem> TrueChild(std::string_view name) const;
-    // What an alias leads to, if that is anywhere; else the item itself.
-    FolderItem Resolved() const;
 
     // These three look at the item itself: a dangling alias exists, an alias of a folder is no directory.
     bool Exists() const { return files_->Kind(path_) != FileKind::None; }

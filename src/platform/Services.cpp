@@ -1,7 +1,5 @@
 #include "platform/Services.h"
 
-#include "platform/Text.h"
-
 #include <algorithm>
 #include <cstdio>
 
@@ -18,14 +16,11 @@ std::string Date::SQLDateTime() const {
 }
 
 std::optional<Date> Date::FromSQLDateTime(std::string_view text) {
-    std::string shape(text);
-    std::replace_if(shape.begin(), shape.end(), IsDigit, '9');
-    if (shape != "9999-99-99 99:99:99") {
-        return std::nullopt;
-    }
-    const auto number = [&](std::size_t at) { return std::stoi(std::string(text.substr(at))); };
-    const Date date{number(0), number(5), number(8), number(11), number(14), number(17)};
-    if (!date.CalendarDay().ok() || date.hour > 23 || date.minute > 59 || date.second > 59) {
+    Date date;
+    std::sscanf(std::string(text).c_str(), "%4d-%2d-%2d %2d:%2d:%2d", &date.year, &date.month, &date.day,
+        &date.hour, &date.minute, &date.second);
+    if (std::count(text.begin(), text.end(), '-') != 2 || date.SQLDateTime() != text ||
+        !date.CalendarDay().ok() || date.hour > 23 || date.minute > 59 || date.second > 59) {
         return std::nullopt;
     }
     return date;

@@ -135,36 +135,27 @@ public:
     virtual std::uint64_t AvailableBytes() const = 0;
 };
 
-// A sound that was started. It goes on when this handle is dropped.
-class Playing {
-public:
-    virtual ~Playing() = default;
-    // False on a machine that can't play it.
-    virtual bool IsPlaying() const = 0;
-};
-
 // The machine's loudspeaker.
 class Sounds {
 public:
     virtual ~Sounds() = default;
     virtual void Beep() = 0;
-    // Starts the sound file of that name among the program's resources; returns at once.
-    virtual std::unique_ptr<Playing> Play(const std::string& file) = 0;
+    // Starts the sound file of that name among the program's resources and returns at once, with what tells
+    // whether it can still be heard: never on a machine that can't play it.
+    virtual std::function<bool()> Play(const std::string& file) = 0;
 };
 
-// One sound resource, by its file's name.
+// One sound resource, by its file's name. A copy is for hearing the same sound twice at once.
 class Sound {
 public:
     explicit Sound(std::string file) : file_(std::move(file)) {}
 
-    void Play(Sounds& sounds) { playing_ = sounds.Play(file_); }
-    bool IsPlaying() const { return playing_ && playing_->IsPlaying(); }
-    // The same sound once more, so that both can be heard at once.
-    Sound Clone() const { return Sound(file_); }
+    void Play(Sounds& sounds) { isPlaying_ = sounds.Play(file_); }
+    bool IsPlaying() const { return isPlaying_ && isPlaying_(); }
 
 private:
     std::string file_;
-    std::unique_ptr<Playing> playing_;
+    std::function<bool()> isPlaying_;
 };
 
 // The size of a screen, in points.

@@ -8,66 +8,46 @@ namespace tessarolyne {
 
 namespace {
 
-// "fr" and "ch"; the region may be empty, and both are for what names no language ("C", "POSIX").
+// "FR" and "CH"; the region may be empty, and both are for what names no language ("C", "POSIX").
 struct Tag {
     std::string language;
     std::string region;
     bool operator==(const Tag&) const = default;
 };
 
-// In lower case, without codeset and modifier, "-" between the parts.
-std::string Plain(std::string_view tag) {
-    std::string plain(tag.substr(0, tag.find_first_of(".@")));
-    for (char& c : plain) {
-        if (c >= 'A' && c <= 'Z') {
-            c = static_cast<char>(c - 'A' + 'a');
-        } else if (c == '_') {
-            c = '-';
-        }
-    }
-    return plain;
-}
-
-// ISO 3166 or UN M.49.
-bool IsRegion(std::string_view part) {
-    return (part.size() == 2 && std::all_of(part.begin(), part.end(), IsLetter)) ||
-           (part.size() == 3 && std::all_of(part.begin(), part.end(), IsDigit));
+bool IsAll(std::string_view part, bool (*is)(char)) {
+    return std::all_of(part.begin(), part.end(), is);
 }
 
 Tag Read(std::string_view text) {
-    const std::string plain = Plain(text);
+    std::string plain = Uppercase(text.substr(0, text.find_first_of(".@"))); // no codeset, no modifier
+    std::replace(plain.begin(), plain.end(), '_', '-');
     Tag tag;
-    for (std::size_t begin = 0; begin <= plain.size();) {
-        const std::size_t end = std::min(plain.find('-', begin), plain.size());
-        const std::string part = plain.substr(begin, end - begin);
-        if (begin == 0) {
+    for (const std::string_view part : Split(plain, "-")) {
+        if (tag.language.empty()) {
             // ISO 639 has two or three letters.
-            if (part.size() < 2 || part.size() > 3 || !std::all_of(part.begin(), part.end(), IsLetter)) {
+            if (part.size() < 2 || part.size() > 3 || !IsAll(part, IsLetter)) {
                 break;
             }
             tag.language = part;
         } else if (part.size() == 1) {
             break; // extensions follow
-        } else if (IsRegion(part)) {
-            tag.region = part;
+        } else if ((part.size() == 2 && IsAll(part, IsLetter)) ||
+                   (part.size() == 3 && IsAll(part, IsDigit))) {
+            tag.region = part; // ISO 3166 or UN M.49
             break;
         }
-        begin = end + 1;
     }
     return tag;
 }
-
-} // namespace
-
-namespace System {
-
-namespace {
 
 constexpr std::string_view fallbackMark = "‡";
 
 const Translations* current = nullptr;
 
 } // namespace
+
+namespace System {
 
 void UseTranslations(const Translations* translations) {
     current = translations;
@@ -106,7 +86,7 @@ std::vector<std::string> CatalogueChain(const std::vector<std::string>& wanted,
             add(tag);
         }
         add({tag.language, {}});
-        if (!chain.empty() || tag.language == builtIn) {
+        if (!chain.empty() || tag.language == Read(builtIn).language) {
             return chain;
         }
     }

@@ -18,6 +18,19 @@ bool IsSecondOfPair(char32_t code) {
     return (fromEven && code % 2 == 1) || (fromOdd && code % 2 == 0);
 }
 
+// The upper-case letter; any other character unchanged.
+char32_t UppercaseOf(char32_t code) {
+    constexpr char32_t divisionSign = 0xF7;
+    constexpr char32_t yWithDiaeresis = 0xFF;
+    if ((code >= 'a' && code <= 'z') || (code >= 0xE0 && code < yWithDiaeresis && code != divisionSign)) {
+        return code - 0x20;
+    }
+    if (code == yWithDiaeresis) {
+        return 0x178;
+    }
+    return IsSecondOfPair(code) ? code - 1 : code;
+}
+
 // Puts the character with this code, as CharacterAt gives it, at the end of the text.
 void AppendCharacter(std::string& text, char32_t code) {
     if (code < 0x80 || code >= invalidByte) {
@@ -77,18 +90,6 @@ Character CharacterAt(std::string_view text, std::size_t at) {
     }
     const bool isSurrogate = code >= 0xD800 && code <= 0xDFFF;
     return code >= leastCode[size] && code <= lastCode && !isSurrogate ? Character{code, size} : invalid;
-}
-
-char32_t UppercaseOf(char32_t code) {
-    constexpr char32_t divisionSign = 0xF7;
-    constexpr char32_t yWithDiaeresis = 0xFF;
-    if ((code >= 'a' && code <= 'z') || (code >= 0xE0 && code < yWithDiaeresis && code != divisionSign)) {
-        return code - 0x20;
-    }
-    if (code == yWithDiaeresis) {
-        return 0x178;
-    }
-    return IsSecondOfPair(code) ? code - 1 : code;
 }
 
 std::string Uppercase(std::string_view text) {
@@ -162,19 +163,7 @@ std::string EncodeURLComponent(std::string_view text) {
 }
 
 std::string ReplaceLineEndings(std::string_view text, std::string_view ending) {
-    std::string result;
-    result.reserve(text.size());
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        if (text[i] == '\r' && i + 1 < text.size() && text[i + 1] == '\n') {
-            continue; // its LF stands for both
-        }
-        if (text[i] == '\r' || text[i] == '\n') {
-            result += ending;
-        } else {
-            result += text[i];
-        }
-    }
-    return result;
+    return ReplaceAll(ReplaceAll(ReplaceAll(text, "\r\n", "\n"), "\r", "\n"), "\n", ending);
 }
 
 std::string OneLine(std::string_view text) {

@@ -33,11 +33,9 @@ struct Character {
 // codes above U+10FFFF aren't valid.
 Character CharacterAt(std::string_view text, std::size_t at);
 
-// The upper-case letter of a letter of ASCII, Latin-1 or Latin Extended-A, where both are in this range; any
-// other character unchanged. So "ı" and "ſ" stay as they are and never pass for "I" and "S".
-char32_t UppercaseOf(char32_t code);
-
-// The text with its letters as UppercaseOf has them ("ß" has no capital and stays).
+// The text with the capitals of its letters of ASCII, Latin-1 and Latin Extended-A, where both are in this
+// range; any other character unchanged. So "ß", "ı" and "ſ" stay as they are and never pass for "SS", "I" and
+// "S".
 std::string Uppercase(std::string_view text);
 
 // The text with U+FFFD for each byte that is no part of valid UTF-8. For text from outside that is to be

@@ -8,6 +8,49 @@
 
 namespace tessarolyne {
 
+Control::Control(Window& window, std::string name, Place place, Locks locks, TabTurn tab, Control* parent)
+    : Name(std::move(name)), Lock(locks), Left(*this, place.left), Top(*this, place.top),
+      Width(*this, place.width), Height(*this, place.height), window_(window), parent_(parent), tab_(tab) {
+    window_.Add(*this);
+}
+
+Control::~Control() {
+    window_.Remove(*this);
+}
+
+bool Control::HasFocus() const {
+    return window_.Focus() == this;
+}
+
+void Control::SetFocus() {
+    if (TakesFocus() && Enabled() && Visible()) {
+        window_.MoveFocus(this);
+    }
+}
+
+void Control::UserFocused() {
+    if (window_.GetApplication().LetsUserInto(window_)) {
+        SetFocus();
+    }
+}
+
+bool Control::UserPressedKey(const std::string& key) {
+    return Enabled() && window_.GetApplication().LetsUserInto(window_) && KeyDown(key);
+}
+
+bool Control::TakesInput() const {
+    const Application& application = window_.GetApplication();
+    if (!application.LetsUserInto(window_)) {
+        application.GetServices().sounds.Beep();
+        return false;
+    }
+    return Enabled();
+}
+
+void Control::PropertyChanged(const void*) {
+    Changed();
+}
+
 Window::Window(Application& application, std::string title, int width, int height, WindowFrame frame)
     : Frame(frame), Title(*this, std::move(title)), Width(*this, width), Height(*this, height),
       application_(application) {
@@ -72,15 +115,15 @@ void Window::UserResized(int width, int height) {
     Width = width;
     Height = height;
     for (Control* control : controls_) {
-        if (control->LockRight()) {
-            if (control->LockLeft()) {
+        if (control->Lock.right) {
+            if (control->Lock.left) {
                 control->Width = control->Width() + wider;
             } else {
                 control->Left = control->Left() + wider;
             }
         }
-        if (control->LockBottom()) {
-            if (control->LockTop()) {
+        if (control->Lock.bottom) {
+            if (control->Lock.top) {
                 control->Height = control->Height() + higher;
             } else {
                 control->Top = control->Top() + higher;

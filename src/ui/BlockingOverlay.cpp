@@ -25,8 +25,8 @@ void Spread(Control& overlay, bool on) {
     overlay.Visible = on;
     overlay.Width = on ? window.Width() : restingSize;
     overlay.Height = on ? window.Height() : restingSize;
-    overlay.LockRight = on;
-    overlay.LockBottom = on;
+    overlay.Lock.right = on;
+    overlay.Lock.bottom = on;
 }
 
 void Cover(const Window& window, Fncts& fncts) {
@@ -40,10 +40,9 @@ void Cover(const Window& window, Fncts& fncts) {
     overlay.Top = 0;
     overlay.Left = 0;
     Spread(overlay, true);
-    if (!overlay.LockLeft() || !overlay.LockTop()) {
+    if (!overlay.Lock.left || !overlay.Lock.top) {
         fncts.ReportFaultInLines("CtrlDsFenetrDiag, 'LabBlockUI' should be Lock Left and Lock Top");
-        overlay.LockLeft = true;
-        overlay.LockTop = true;
+        overlay.Lock.left = overlay.Lock.top = true;
     }
     if (overlays.size() > 1) {
         fncts.ReportFaultInLines("CtrlDsFenetrDiag, there is more than one" + inWindow);

@@ -47,7 +47,7 @@ void Fncts::Pause(int ticks, bool doEvents) {
 }
 
 void Fncts::PlayT(Sound& son, bool attendre) {
-    Sound clone = son.Clone();
+    Sound clone = son;
     Sound& played = son.IsPlaying() ? clone : son;
     played.Play(services_.sounds);
     if (attendre) {

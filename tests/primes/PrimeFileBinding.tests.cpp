@@ -144,7 +144,7 @@ TEST_CASE("While it works the window is drawn, holds the commands and can't be c
     for (const bool saving : {false, true}) {
         WinChargSauvNb1ers& window = world.program->winChargSauvNb1ers();
         int drawn = 0;
-        const Connection connection = window.DrawNow.Connect([&] {
+        const Connection connection = window.Refresh.Connect([&] {
             ++drawn;
             CHECK_FALSE(world.program->fncts.DrapMenu);
             window.UserClosed();
@@ -165,7 +165,7 @@ TEST_CASE("A load at the start shows nothing, unless it lasts, and then leaves t
         {
             const QuietShowing quiet(world.program->app);
             WinChargSauvNb1ers& window = world.program->winChargSauvNb1ers();
-            const Connection connection = window.DrawNow.Connect([&] {
+            const Connection connection = window.Refresh.Connect([&] {
                 world.loop.Advance(lasts ? 20 : 0);
                 CHECK_FALSE((window.Visible() && window.TakesKeyboard()));
             });

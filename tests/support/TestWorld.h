@@ -46,25 +46,15 @@ class TestSounds final : public Sounds {
 public:
     explicit TestSounds(VirtualLoop& loop) : loop_(loop) {}
     void Beep() override { ++beeps; }
-    std::unique_ptr<Playing> Play(const std::string& file) override {
+    std::function<bool()> Play(const std::string& file) override {
         played.push_back(file);
-        return std::make_unique<TestPlaying>(loop_);
+        return [this, end = loop_.Milliseconds() + 100] { return loop_.Milliseconds() < end; };
     }
 
     int beeps = 0;
     std::vector<std::string> played;
 
 private:
-    class TestPlaying final : public Playing {
-    public:
-        explicit TestPlaying(const Clock& clock) : clock_(clock), end_(clock.Milliseconds() + 100) {}
-        bool IsPlaying() const override { return clock_.Milliseconds() < end_; }
-
-    private:
-        const Clock& clock_;
-        std::int64_t end_;
-    };
-
     VirtualLoop& loop_;
 };
 
