@@ -3,7 +3,6 @@
 
 #include <doctest/doctest.h>
 
-#include <sys/resource.h>
 #include <utility>
 #include <vector>
 
@@ -13,19 +12,17 @@ namespace {
 
 constexpr std::uint64_t megabyte = 1024 * 1024;
 
-// A root folder with files of the kernel.
-struct FakeRoot : TemporaryFolder {
-    using Files = std::vector<std::pair<std::string, std::string>>;
+using Files = std::vector<std::pair<std::string, std::string>>;
 
-    explicit FakeRoot(const Files& files) {
-        for (const auto& [name, text] : files) {
-            const std::filesystem::path path = *this / name;
-            std::filesystem::create_directories(path.parent_path());
-            WriteFile(path, text);
-        }
+// What is available where the kernel shows these files.
+std::uint64_t AvailableWith(const Files& files) {
+    const TemporaryFolder root;
+    for (const auto& [name, text] : files) {
+        std::filesystem::create_directories(std::filesystem::path(root / name).parent_path());
+        WriteFile(root / name, text);
     }
-    std::uint64_t Available() const { return SystemMemory(Path()).AvailableBytes(); }
-};
+    return SystemMemory(root.Path()).AvailableBytes();
+}
 
 std::string Megabytes(std::uint64_t count) {
     return std::to_string(count * megabyte);
@@ -34,7 +31,7 @@ std::string Megabytes(std::uint64_t count) {
 } // namespace
 
 TEST_CASE("The least of machine and control groups is what is available") {
-    const FakeRoot::Files narrow = {{"proc/self/cgroup", "0::/user/app\n"},
+    const Files narrow = {{"proc/self/cgroup", "0::/user/app\n"},
         {"sys/fs/cgroup/user/app/memory.max", "max\n"},
         {"sys/fs/cgroup/user/app/memory.current", Megabytes(50)},
         {"sys/fs/cgroup/user/memory.max", Megabytes(500)},
@@ -42,7 +39,7 @@ TEST_CASE("The least of machine and control groups is what is available") {
         {"sys/fs/cgroup/user/memory.stat", "anon 7\ninactive_file " + Megabytes(80) + "\nactive_file 9\n"}};
     auto exceeded = narrow;
     exceeded[1].second = Megabytes(40);
-    const std::pair<FakeRoot::Files, std::uint64_t> rows[] = {{{}, 8000},
+    const std::pair<Files, std::uint64_t> rows[] = {{{}, 8000},
         {narrow, 380}, // a group above, whose cached files give way
         {exceeded, 0},
         {{{"proc/self/cgroup", "0::/../outside/app\n"}, // in a container only the mounted root exists
@@ -50,6 +47,6 @@ TEST_CASE("The least of machine and control groups is what is available") {
             200}};
     for (auto [files, available] : rows) {
         files.push_back({"proc/meminfo", "MemTotal: 9000000 kB\nMemFree: 1 kB\nMemAvailable: 8192000 kB\n"});
-        CHECK(FakeRoot(files).Available() == available * megabyte);
+        CHECK(AvailableWith(files) == available * megabyte);
     }
 }
