@@ -15,7 +15,6 @@ struct Services;
 class Application : public PropertyOwner {
 public:
     explicit Application(Services& services) : services_(services) {}
-    ~Application() override = default;
 
     Services& GetServices() const { return services_; }
 

@@ -88,7 +88,12 @@ public:
 
 private:
     void Press() override { Value = !Value(); }
-    void PropertyChanged(const void* property) override;
+    void PropertyChanged(const void* property) override {
+        Control::PropertyChanged(property);
+        if (property == &Value) {
+            Action();
+        }
+    }
 };
 
 // One of several choices: the radio buttons of one parent exclude each other. Action comes for the button
@@ -101,7 +106,20 @@ public:
 
 private:
     void Press() override { Value = true; }
-    void PropertyChanged(const void* property) override;
+    void PropertyChanged(const void* property) override {
+        if (property == &Value && Value()) {
+            for (Control* control : GetWindow().Controls()) {
+                auto* other = dynamic_cast<RadioButton*>(control);
+                if (other != nullptr && other != this && other->Parent() == Parent()) {
+                    other->Value = false;
+                }
+            }
+        }
+        Control::PropertyChanged(property);
+        if (property == &Value && Value()) {
+            Action();
+        }
+    }
 };
 
 // What answers the mouse, and as a link takes the focus so that the keyboard can follow it too.

@@ -103,9 +103,6 @@ public:
     operator std::string_view() const requires std::same_as<T, std::string> { return value_; }
 
     friend bool operator==(const Property& property, const T& value) { return property.value_ == value; }
-    friend bool operator==(const Property& left, const Property& right) {
-        return left.value_ == right.value_;
-    }
 
 private:
     PropertyOwner& owner_;

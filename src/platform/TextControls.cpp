@@ -58,11 +58,6 @@ void TextControl::UserReplaced(int start, int removed, const std::string& insert
     }
 }
 
-void TextControl::UserSelected(int start, int length) {
-    SelStart = start;
-    SelLength = length;
-}
-
 void TextControl::PropertyChanged(const void* property) {
     // Taken at once: what the handlers below write into this control is the program's.
     const ChangedBy changedBy = std::exchange(changing_, ChangedBy::Program);

@@ -64,7 +64,10 @@ public:
     void UserReplaced(int start, int removed, const std::string& inserted);
     // The same in the place of the selection.
     void UserTyped(const std::string& inserted) { UserReplaced(SelStart, SelLength, inserted); }
-    void UserSelected(int start, int length);
+    void UserSelected(int start, int length) {
+        SelStart = start;
+        SelLength = length;
+    }
 
     Property<std::string> Text{*this};
     Property<int> SelStart{*this, 0};

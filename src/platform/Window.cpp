@@ -47,10 +47,6 @@ bool Control::TakesInput() const {
     return Enabled();
 }
 
-void Control::PropertyChanged(const void*) {
-    Changed();
-}
-
 Window::Window(Application& application, std::string title, int width, int height, WindowFrame frame)
     : Frame(frame), Title(*this, std::move(title)), Width(*this, width), Height(*this, height),
       application_(application) {

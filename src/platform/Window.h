@@ -108,7 +108,7 @@ public:
     Signal<> Changed;
 
 protected:
-    void PropertyChanged(const void* property) override;
+    void PropertyChanged(const void*) override { Changed(); }
     // Whether a press or an edit by the user counts.
     bool TakesInput() const;
 
