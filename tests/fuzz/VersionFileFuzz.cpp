@@ -1,7 +1,7 @@
 // Any bytes whatever as what the update check fetched: what is read stands there, and doesn't
 // depend on the kind of line ending.
 #include "app/VersionFile.h"
-#include "fuzz/Must.h"
+#include "fuzz/Fuzz.h"
 #include "platform/Text.h"
 
 #include <iterator>
