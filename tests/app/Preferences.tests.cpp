@@ -9,18 +9,14 @@ using namespace tessarolyne;
 
 namespace {
 
-// What the lines, each with another ending than the one before, make of the initial values.
-struct After {
-    explicit After(const std::vector<std::string>& lines) {
-        std::string text = "\xEF\xBB\xBF";
-        for (std::size_t i = 0; i < lines.size(); ++i) {
-            text += lines[i] + (i % 3 == 0 ? "\r\n" : i % 3 == 1 ? "\r" : "\n");
-        }
-        read = ReadPreferences(text, preferences);
+// Takes the lines into the values; false if one fails.
+bool Read(const std::vector<std::string>& lines, Preferences& preferences) {
+    std::string text = "\xEF\xBB\xBF";
+    for (const std::string& line : lines) {
+        text += line + "\r\n";
     }
-    Preferences preferences;
-    bool read;
-};
+    return ReadPreferences(text, preferences);
+}
 
 struct Disk : MemoryFileSystem {
     Disk() { AddFolder("/p"); }
@@ -52,12 +48,14 @@ TEST_CASE("A value with a line end, or too long, is written empty, so that no fi
 }
 
 TEST_CASE("Lines count in any order, the later of two wins, and what isn't known says nothing") {
-    const After after(
-        {"Base Dest :@: 3", "Unknown :@: 1", "", " :@: True", "Base Org:@: 9", " Base Org :@: 9",
-            "Base Dest :@: 4", "Majuscule :@: True", "majuscule :@: TRUE", "Format Auto :@: yes",
-            "Trait d'union :@: True ", "Monnaie :@: caf\xE9", "Centime :@: cen\vtime\t\x1B\u2028",
-            "Fichier Nbres 1ers :@: Root:caf\xE9", "Nbre Nb Prem par Lignes :@:   -3.9 x",
-            "Fenetre WinNbres_1ers :@: 1,,99999", "Fenetre WinMain :@: 4294967296,-4294967296,7,8"});
+    Preferences preferences;
+    const bool read =
+        Read({"Base Dest :@: 3", "Unknown :@: 1", "", " :@: True", "Base Org:@: 9", " Base Org :@: 9",
+                 "Base Dest :@: 4", "Majuscule :@: True", "majuscule :@: TRUE", "Format Auto :@: yes",
+                 "Trait d'union :@: True ", "Monnaie :@: caf\xE9", "Centime :@: cen\vtime\t\x1B\u2028",
+                 "Fichier Nbres 1ers :@: Root:caf\xE9", "Nbre Nb Prem par Lignes :@:   -3.9 x",
+                 "Fenetre WinNbres_1ers :@: 1,,99999", "Fenetre WinMain :@: 4294967296,-4294967296,7,8"},
+            preferences);
     Preferences expected;
     expected.baseDest = 4;
     expected.majuscule = true;
@@ -68,8 +66,8 @@ TEST_CASE("Lines count in any order, the later of two wins, and what isn't known
     expected.nbreNbPparLigne = -3;
     expected.winNBP = {1, 0, 32767, 0};
     expected.winMain = {2147483647, -2147483647 - 1, 7, 8};
-    CHECK(after.read);
-    CHECK(after.preferences == expected);
+    CHECK(read);
+    CHECK(preferences == expected);
 }
 
 TEST_CASE("A date that is none, or an index that its control lacks, fails with the lines before it done") {
@@ -78,11 +76,11 @@ TEST_CASE("A date that is none, or an index that its control lacks, fails with t
              "Date Launch :@: 2026-02-03 00:00:00 ", "Base Org :@: 35", "Base Org :@: -1",
              "Base Dest :@: 99999999999", "Nbre Base 09AZ :@: 2", "Nbre Base 09AZ :@: -1"}) {
         CAPTURE(line);
-        const After after({"Base Org :@: 5", line, "Majuscule :@: True"});
+        Preferences preferences;
         Preferences expected;
         expected.baseOrg = 5;
-        CHECK_FALSE(after.read);
-        CHECK(after.preferences == expected);
+        CHECK_FALSE(Read({"Base Org :@: 5", line, "Majuscule :@: True"}, preferences));
+        CHECK(preferences == expected);
     }
 }
 
