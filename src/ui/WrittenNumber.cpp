@@ -232,15 +232,10 @@ std::string WithPlainSigns(std::string_view text) {
     result.reserve(text.size());
     for (std::size_t at = 0; at < text.size();) {
         const Character character = CharacterAt(text, at);
-        if (IsBlank(character.code)) {
-            result += ' ';
-        } else if (character.code == U'’') {
-            result += '\'';
-        } else if (character.code == U'−') {
-            result += '-';
-        } else {
-            result += text.substr(at, character.size);
-        }
+        result += IsBlank(character.code)  ? " "
+                  : character.code == U'’' ? "'"
+                  : character.code == U'−' ? "-"
+                                           : text.substr(at, character.size);
         at += character.size;
     }
     return result;
