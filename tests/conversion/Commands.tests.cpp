@@ -110,20 +110,22 @@ TEST_CASE("The switch brings what is shown into line both ways, but for the edit
     CHECK(window.EditFieldBaseDest.Text() == "#Erreur Nbre !");
 }
 
-TEST_CASE("The list window's numbers follow the switch; a field shows the bare number while it is edited") {
+TEST_CASE("The copy button copies the words, or with Option asks before it resets the currency") {
     TestWorld world;
     WinMain& window = world.Main();
-    window.calculation.NbresPremCalc(20000, false);
-    window.BevelButtonListe.UserPressed();
-    WinNbresPremiers& list = world.program->winNbresPremiers();
-    CHECK(list.EditFieldAffAu.DisplayText() == "2 000");
-    CHECK(list.EditFieldFin.HasFocus());
-    CHECK(list.EditFieldFin.DisplayText() == "19997");
-    window.CheckBoxFormatAuto.UserPressed();
-    CHECK(list.EditFieldAffAu.DisplayText() == "2000");
-    CHECK(list.EditFieldAffAu.Text() == "2000");
-    list.EditFieldFin.Text = "1000000000000"; // one more than the limit
-    list.PushButtonCalcPrems.UserPressed();
-    window.CheckBoxFormatAuto.UserPressed();
-    CHECK(list.EditFieldFin.Text() == "Nb Max = 999999999999");
+    world.Type(window.EditFieldNbre, "2");
+    world.Type(window.EditFieldMonnaies, "florins");
+    window.PushButtonPressPapLettr.UserPressed();
+    world.desktop.option = true;
+    world.dialogs.Expect(DialogButton::Cancel, [&] { CHECK_FALSE(world.program->fncts.DrapMenu); });
+    window.PushButtonPressPapLettr.UserPressed();
+    CHECK(window.EditFieldMonnaies.Text() == "florins");
+    CHECK(world.program->fncts.DrapMenu);
+    world.dialogs.Expect(DialogButton::Action);
+    window.PushButtonPressPapLettr.UserPressed();
+    CHECK(window.TxtAreaLettres.Text() == "deux euros zéro centime");
+    CHECK(world.dialogs.asked.back().message == "Remettre les devises par défaut ?");
+    CHECK(world.desktop.clipboard == "deux florins zéro centime");
+    CHECK(world.sounds.played == std::vector<std::string>{"Bip.wav"});
+    CHECK(world.sounds.beeps == 2);
 }

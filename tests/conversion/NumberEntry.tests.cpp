@@ -116,17 +116,6 @@ TEST_CASE("Factors and words of another number than the one that stands there ar
     CHECK((dimmed(factors) && !dimmed(words)));
     baseOrg(16); // the factors hold again
     CHECK((!dimmed(factors) && dimmed(words)));
-    world.Type(window.EditFieldBaseOrg, "A");
-    CHECK_FALSE((dimmed(factors) || dimmed(words)));
-    baseOrg(10); // an error is written at once
-    CHECK(words.Text() == errNbre);
-    CHECK_FALSE((dimmed(factors) || dimmed(words)));
-    baseOrg(16);
-    CHECK((dimmed(factors) && dimmed(words)));
-    world.Type(window.EditFieldNbre, "12.5");
-    window.EditFieldMonnaie.UserFocused(); // 12.50 is the same number
-    baseOrg(10);
-    CHECK_FALSE((dimmed(factors) || dimmed(words)));
 }
 
 TEST_CASE("What a field can't take is refused with one beep, says why, and changes nothing") {

@@ -48,20 +48,6 @@ TEST_CASE("A control is greyed once it has been disabled for 150 ms, and refuses
     }
 }
 
-TEST_CASE("A text of the number before is fainter than others") {
-    UseQt();
-    TestWorld world;
-    const WindowView view(world.Main(), nullptr);
-    const auto color = [&] {
-        return view.findChild<QWidget*>("TxtAreaDecomp1er")->palette().color(QPalette::Text);
-    };
-    const QColor plain = color();
-    world.Main().TxtAreaDecomp1er.Remark = "of the number before";
-    CHECK(color() != plain);
-    world.Main().TxtAreaDecomp1er.Remark = "";
-    CHECK(color() == plain);
-}
-
 TEST_CASE(
     "Escape chooses no button, not even one that is called cancel, and a quit ends a sheet with its window") {
     UseQt();
@@ -83,19 +69,4 @@ TEST_CASE(
     desktop.loop.Post([&] { program.app.RequestQuit(); });
     CHECK(program.fncts.MyDialogBox("m", "", "Ok", "", "", 0, &program.winNbresPremiers()) == 0);
     CHECK(program.app.DrapOkQuit);
-}
-
-TEST_CASE("In a font twice as large nothing is clipped") {
-    UseQt();
-    QFont large;
-    large.setPixelSize(24);
-    QApplication::setFont(large);
-    TestWorld world;
-    const WindowView view(world.Main(), nullptr);
-    for (const QComboBox* box : view.findChildren<QComboBox*>()) {
-        CHECK(box->fontMetrics().horizontalAdvance(box->currentText()) <= box->width() - 30);
-    }
-    for (const QLineEdit* line : view.findChildren<QLineEdit*>()) {
-        CHECK(line->fontMetrics().height() <= line->height());
-    }
 }

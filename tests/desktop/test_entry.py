@@ -43,15 +43,6 @@ class Entry(ProgramTestCase):
         self.paste("livre\nsterling\n")
         self.wait_for_text("EditFieldMonnaie", "livre sterling")
 
-    def test_a_double_click_takes_a_number_whole(self):
-        self.clear("EditFieldNbre")
-        self.screen.type("1234.56")
-        x, y = self.control("EditFieldNbre").centre
-        _, _, width, _ = self.control("EditFieldNbre").bounds
-        self.screen.run("xdotool", "mousemove", str(x + width // 2 - 12), str(y), "click", "--repeat", "2", "1")
-        self.screen.type("7")
-        self.wait_for_text("EditFieldNbre", "7")
-
     def test_factors_dragged_into_a_field_count_as_typed_there_and_tab_goes_round(self):
         self.clear("EditFieldNbre")
         self.screen.type("97")

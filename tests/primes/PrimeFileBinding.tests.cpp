@@ -157,26 +157,6 @@ TEST_CASE("While it works the window is drawn, holds the commands and can't be c
     }
 }
 
-TEST_CASE("A load at the start shows nothing, unless it lasts, and then leaves the keyboard where it is") {
-    for (const bool lasts : {false, true}) {
-        Bound world("x : 500\n" + sixPrimes);
-        CHECK(world.stage.Count<WinChargSauvNb1ers>() == 0); // from the start with no file
-        const std::int64_t start = world.loop.Ticks();
-        {
-            const QuietShowing quiet(world.program->app);
-            WinChargSauvNb1ers& window = world.program->winChargSauvNb1ers();
-            const Connection connection = window.Refresh.Connect([&] {
-                world.loop.Advance(lasts ? 20 : 0);
-                CHECK_FALSE((window.Visible() && window.TakesKeyboard()));
-            });
-            window.LoadNb1ers();
-        }
-        CHECK((world.loop.Ticks() == start) != lasts);
-        CHECK(world.stage.Count<WinChargSauvNb1ers>() == (lasts ? 1 : 0));
-        CHECK(world.Table() == found);
-    }
-}
-
 TEST_CASE("A save writes the table in the user's line length, to a link's target or in the link's place") {
     for (const LinkPolicy links : {LinkPolicy::ReplaceTarget, LinkPolicy::ReplaceLink}) {
         Bound world("");

@@ -55,22 +55,6 @@ TEST_CASE("Behind a dialog or a modal window nothing that the user does counts, 
     CHECK(state() != before);
 }
 
-TEST_CASE("An empty table, as a load without memory leaves it, is listed as such and can grow") {
-    TestWorld world;
-    WinMain& window = world.Main();
-    WinNbresPremiers& list = world.program->winNbresPremiers();
-    window.primeFile.Nbres_Premiers.Clear();
-    list.FaireListe(true, false);
-    CHECK(list.TxtAreaListeNbres1ers.Text().empty());
-    list.EditFieldFin.Text = "11";
-    list.PushButtonCalcPrems.UserPressed();
-    world.Settle();
-    CHECK(list.TxtAreaListeNbres1ers.Text() == "\t2\t3\t5\t7\t11");
-    window.primeFile.Nbres_Premiers.Clear();
-    world.Type(window.EditFieldNbre, "91");
-    CHECK(window.TxtAreaDecomp1er.Text() == "7 x 13");
-}
-
 TEST_CASE("The result of a calculation that began while a question was up waits, and the commands with it") {
     TestWorld world;
     WinMain& window = world.Main();
@@ -128,27 +112,4 @@ TEST_CASE("Two routes of a conversion that disagree are reported, once until oth
     CHECK(world.dialogs.asked.front().message ==
           "Il y a une erreur de transcription de base !\rRésultat en base 2 \rdepuis base 10 = 101 "
           "\rdepuis base 16 = 11 ");
-}
-
-TEST_CASE("A small window holds the commands off until one of its own buttons ends it") {
-    TestWorld world;
-    const auto hold = [&](auto& window, PushButton& button) {
-        const int beeps = world.sounds.beeps;
-        CHECK_FALSE(world.program->fncts.DrapMenu);
-        window.UserClosed();
-        world.Main().UserClosed();
-        CHECK(world.sounds.beeps == beeps + 2);
-        button.UserPressed();
-        CHECK(window.IsClosed());
-    };
-    const auto choose = [&](const char* command) {
-        world.program->app.GetMenuBar()->Find(command)->UserChose(world.program->app);
-    };
-    world.loop.WhileModal([&] { hold(world.program->winInfos(), world.program->winInfos().BoutonOk); });
-    choose("AppleAPropos");
-    world.loop.WhileModal([&] { hold(world.program->winPrefs(), world.program->winPrefs().PushButtOk); });
-    choose("ApplePrefs");
-    CHECK(world.program->fncts.DrapMenu);
-    world.loop.Advance(1);
-    CHECK(world.program->app.Windows().size() == 1); // let go
 }

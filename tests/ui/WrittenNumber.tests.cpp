@@ -1,8 +1,10 @@
+#include "ui/WrittenNumber.h"
 #include "conversion/BaseConversion.h"
 #include "platform/Text.h"
-#include "ui/WrittenNumber.h"
 
 #include <doctest/doctest.h>
+
+#include <random>
 
 #include <string>
 
@@ -153,21 +155,45 @@ TEST_CASE("In the middle of a number a key must leave a number") {
     CHECK(message.removed == 10);
 }
 
-TEST_CASE("Digits are taken as programs write them, where the base has that way") {
-    const struct {
-        const char* pasted;
-        int base;
-        const char* digits = "no";
-    } rows[] = {{"0xFF", 16, "FF"}, {"0Xff", 16, "ff"}, {"#FF", 16, "FF"}, {"FFh", 16, "FF"},
-        {"0b1010", 2, "1010"}, {"0b1010", 16, "0b1010"}, {"0o17", 8, "17"}, {"0o17", 36, "0o17"},
-        {"FF:FF_FF FF'FF\u00A0FF", 16, "FFFFFFFFFFFF"}, {" FF\r\n", 16, "FF"}, {"h", 16}, {"0xFFh", 16},
-        {"F\nF", 16}, {"F\tF", 16}, {"0x1", 10}, {"12.5", 10}, {"-1", 10}, {"1E3", 10}, {"102", 2}, {"G", 16},
-        {"0b", 2}, {"", 16}, {"é", 36}};
-    for (const auto& [pasted, base, digits] : rows) {
-        CAPTURE(pasted);
-        CAPTURE(base);
-        CHECK(DigitsAsPasted(pasted, base, alphabet09AZ).value_or("no") == digits);
+TEST_CASE("Separators stand between groups from the right, of the size that the base decides") {
+    CHECK(FormatString("1234", " ", 0) == "1234");
+    CHECK(FormatString("1234", " ", -3) == "1234");
+    CHECK(FormatString("123456", " ", 3) == "123 456");
+    CHECK(FormatString("aé€😀", "··", 1) == "a··é··€··😀");
+    CHECK(FormatType("10101", 2, true) == "1 0101");
+    CHECK(FormatType("1234567", 8, true) == "1 234 567");
+    CHECK(FormatType("F FFF", 16, true) == "FF FF");
+    CHECK(FormatType("ABCDEF", 36, true) == "A BCDEF");
+    CHECK(FormatType("FF FF", 16, false) == "FFFF");
+}
+
+TEST_CASE("A decimal number is shown in groups or bare, with two decimals if it has any, and no other text") {
+    const char* const rows[][3] = {{"1 234 567", "1 234 567", "1234567"}, {"1234.5", "1 234.50", "1234.50"},
+        {"12.", "12", "12"}, {".5", "0.50", "0.50"}, {"007.00", "7", "7"}, {"-1234", "-1 234", "-1234"}};
+    for (const auto& [text, shown, bare] : rows) {
+        CHECK(FormatNbre(text, true) == shown);
+        CHECK(FormatNbre(text, false) == bare);
     }
-    CHECK(DigitsAsPasted("BAh", 16, alphabetAZ09) == "BAh");
-    CHECK_FALSE(DigitsAsPasted("0xBA", 16, alphabetAZ09));
+    for (const char* text : {"", " ", "#Erreur Nbre !", "1,5", "1\u202F234"}) {
+        CHECK(FormatNbre(text, true) == text);
+        CHECK(FormatNbre(text, false) == text);
+    }
+}
+
+TEST_CASE("What FormatNbre gives it takes again, and its forms turn into each other") {
+    std::mt19937_64 random(7);
+    std::string edges[] = {"0.004", "-0.004", "1234.996", "1234.995", "0.995", "-1000000000000000000",
+        "4503599627370496.5", "999999999999.994"};
+    for (int round = 0; round < 20000; ++round) {
+        const std::string text = round < 8 ? edges[round]
+                                           : std::to_string(random() % 1000000000000 >> random() % 40) + "." +
+                                                 std::to_string(random() % 100000 >> random() % 17);
+        const std::string shown = FormatNbre(text, true);
+        const std::string bare = FormatNbre(text, false);
+        CAPTURE(text);
+        REQUIRE(FormatNbre(shown, true) == shown);
+        REQUIRE(FormatNbre(bare, false) == bare);
+        REQUIRE(FormatNbre(shown, false) == bare);
+        REQUIRE(FormatNbre(bare, true) == shown);
+    }
 }
