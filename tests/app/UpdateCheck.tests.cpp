@@ -115,3 +115,21 @@ TEST_CASE("A reply that comes while the program is busy waits, looked at once a 
     world.loop.Advance(5000);
     CHECK(world.dialogs.asked.size() == 1);
 }
+
+TEST_CASE("A check from the menu that lasts half a second turns the wheel until the last answer") {
+    Launch world;
+    const ProgressWheel& wheel = world.Main().ProgressWheel1;
+    world.ChooseCheck();
+    world.ChooseCheck();
+    world.loop.Advance(499);
+    CHECK_FALSE(wheel.Visible());
+    world.loop.Advance(1);
+    CHECK(wheel.Visible());
+    world.Answer(File(here));
+    CHECK(wheel.Visible());
+    world.Answer(File(here));
+    CHECK_FALSE(wheel.Visible());
+    world.dialogs.Expect(DialogButton::Action);
+    world.loop.Advance(1000); // and isn't turned again
+    CHECK_FALSE(wheel.Visible());
+}

@@ -73,13 +73,15 @@ TEST_CASE(
         world.Main().BevelButtonListe.UserPressed();
         WinNbresPremiers& list = world.program->winNbresPremiers();
         CHECK(list.Left == (left == 761 ? 1280 - 510 : 100));
+        list.UserResized(520, 400);
+        CHECK((list.TxtAreaListeNbres1ers.Height == 456 - 185 && list.PushButtonFichier.Top == 550 - 185));
         list.UserMoved(120, 90);
         world.Type(list.EditFieldNbNbresLigne, "0");
         world.dialogs.Expect(DialogButton::Action);
         list.UserClosed();
         world.loop.Advance(1);
         CHECK(world.Main().primeFile.NbreNbPparLigne == 10);
-        CHECK(world.program->app.WinNBP[0] == 120);
+        CHECK(world.program->app.WinNBP == std::array<std::int16_t, 4>{120, 90, 520, 400});
     }
 }
 
