@@ -1,13 +1,13 @@
 #include "ui/Program.h"
 
 #include "app/PreferencesFile.h"
-#include "app/Version.h"
 #include "conversion/WinMain.h"
 #include "platform/FolderItem.h"
 #include "platform/Services.h"
 #include "ui/FileItems.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"
+#include "ui/Version.h"
 
 #include <algorithm>
 

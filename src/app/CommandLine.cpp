@@ -1,6 +1,6 @@
 #include "app/CommandLine.h"
 
-#include "app/Version.h"
+#include "ui/Version.h"
 
 #include <ostream>
 #include <string_view>

@@ -1,11 +1,11 @@
 #include "app/CommandLine.h"
-#include "app/Version.h"
 #include "desktop/QtApplication.h"
 #include "desktop/QtServices.h"
 #include "desktop/Resources.h"
 #include "machine/PosixFileSystem.h"
 #include "machine/SystemClock.h"
 #include "ui/Program.h"
+#include "ui/Version.h"
 
 #include <iostream>
 #include <span>

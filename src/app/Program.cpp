@@ -1,12 +1,12 @@
 #include "ui/Program.h"
 
-#include "app/Version.h"
 #include "conversion/MenuBar1.h"
 #include "conversion/WinMain.h"
 #include "platform/EventLoop.h"
 #include "platform/Services.h"
 #include "primes/WinChargSauvNb1ers.h"
 #include "primes/WinNbresPremiers.h"
+#include "ui/Version.h"
 #include "ui/WinInfos.h"
 #include "ui/WinPrefs.h"
 

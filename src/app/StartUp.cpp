@@ -1,7 +1,6 @@
 // Everything from the making of the main window until the event loop is idle.
 
 #include "app/PreferencesFile.h"
-#include "app/Version.h"
 #include "conversion/WinMain.h"
 #include "platform/EventLoop.h"
 #include "platform/Numbers.h"
@@ -12,6 +11,7 @@
 #include "ui/FileItems.h"
 #include "ui/Localisation.h"
 #include "ui/Program.h"
+#include "ui/Version.h"
 #include "ui/WinInfos.h"
 
 #include <set>

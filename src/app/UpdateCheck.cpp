@@ -1,6 +1,5 @@
 #include "app/UpdateCheck.h"
 
-#include "app/Version.h"
 #include "app/VersionFile.h"
 #include "platform/Numbers.h"
 #include "platform/Services.h"
@@ -9,6 +8,7 @@
 #include "ui/Localisation.h"
 #include "ui/Program.h"
 #include "ui/SafeAddress.h"
+#include "ui/Version.h"
 
 namespace tessarolyne {
 

@@ -1,7 +1,7 @@
 #include "app/VersionFile.h"
 
-#include "app/Version.h"
 #include "platform/Text.h"
+#include "ui/Version.h"
 
 #include <algorithm>
 

@@ -1,6 +1,5 @@
 #include "conversion/MenuBar1.h"
 
-#include "app/Version.h"
 #include "conversion/BaseConversion.h"
 #include "conversion/WinMain.h"
 #include "platform/Numbers.h"
@@ -10,6 +9,7 @@
 #include "ui/Localisation.h"
 #include "ui/NumberField.h"
 #include "ui/Program.h"
+#include "ui/Version.h"
 #include "ui/WinInfos.h"
 #include "ui/WinPrefs.h"
 

@@ -1,6 +1,5 @@
 #include "ui/Fncts.h"
 
-#include "app/Version.h"
 #include "platform/Application.h"
 #include "platform/EventLoop.h"
 #include "platform/Numbers.h"
@@ -9,6 +8,7 @@
 #include "ui/FileItems.h"
 #include "ui/Localisation.h"
 #include "ui/SafeAddress.h"
+#include "ui/Version.h"
 
 namespace tessarolyne {
 

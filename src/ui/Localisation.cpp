@@ -1,7 +1,7 @@
 #include "ui/Localisation.h"
 
-#include "app/Version.h"
 #include "platform/System.h"
+#include "ui/Version.h"
 
 namespace tessarolyne::Localisation {
 

@@ -1,8 +1,8 @@
 #include "ui/WinInfos.h"
 
-#include "app/Version.h"
 #include "platform/Text.h"
 #include "ui/Localisation.h"
+#include "ui/Version.h"
 
 namespace tessarolyne {
 

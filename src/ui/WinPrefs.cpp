@@ -1,7 +1,7 @@
 #include "ui/WinPrefs.h"
 
-#include "app/Version.h"
 #include "ui/Localisation.h"
+#include "ui/Version.h"
 
 #include <algorithm>
 

@@ -1,5 +1,5 @@
 #include "app/CommandLine.h"
-#include "app/Version.h"
+#include "ui/Version.h"
 
 #include <doctest/doctest.h>
 

@@ -1,7 +1,7 @@
-#include "app/Version.h"
 #include "platform/MenuBar.h"
 #include "support/TestWorld.h"
 #include "ui/Localisation.h"
+#include "ui/Version.h"
 #include "ui/WinPrefs.h"
 
 #include <doctest/doctest.h>

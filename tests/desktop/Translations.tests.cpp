@@ -1,4 +1,3 @@
-#include "app/Version.h"
 #include "conversion/WinMain.h"
 #include "desktop/Offscreen.h"
 #include "desktop/QtText.h"
@@ -8,6 +7,7 @@
 #include "primes/WinNbresPremiers.h"
 #include "support/TestWorld.h"
 #include "ui/Localisation.h"
+#include "ui/Version.h"
 #include "ui/WinInfos.h"
 #include "ui/WinPrefs.h"
 

@@ -1,8 +1,8 @@
-#include "app/Version.h"
 #include "platform/MenuBar.h"
 #include "platform/Text.h"
 #include "primes/WinNbresPremiers.h"
 #include "support/TestWorld.h"
+#include "ui/Version.h"
 #include "ui/WinInfos.h"
 #include "ui/WinPrefs.h"
 
