@@ -117,7 +117,8 @@ bool LiesUnderMountFolders(const std::string& path) {
 
 } // namespace
 
-PosixFileSystem::PosixFileSystem(FindFolder find) : find_(std::move(find)) {
+PosixFileSystem::PosixFileSystem(FindFolder find, std::string mounts)
+    : find_(std::move(find)), mounts_(std::move(mounts)) {
     std::signal(SIGXFSZ, SIG_IGN);
 }
 
@@ -157,7 +158,7 @@ std::optional<std::string> PosixFileSystem::Resolve(const std::string& path) con
 // program.
 std::vector<Volume> PosixFileSystem::Volumes() const {
     std::vector<Volume> volumes{{"Root", "/"}};
-    const std::unique_ptr<FILE, int (*)(FILE*)> table(::setmntent("/proc/self/mounts", "re"), &::endmntent);
+    const std::unique_ptr<FILE, int (*)(FILE*)> table(::setmntent(mounts_.c_str(), "re"), &::endmntent);
     char line[2 * PATH_MAX];
     mntent mount{};
     while (table != nullptr && ::getmntent_r(table.get(), &mount, line, sizeof line) != nullptr) {

@@ -17,7 +17,8 @@ class PosixFileSystem final : public FileSystem {
 public:
     using FindFolder = std::function<std::optional<std::string>(KnownFolder)>;
 
-    explicit PosixFileSystem(FindFolder find = {});
+    // `mounts`: the table of what is mounted where.
+    explicit PosixFileSystem(FindFolder find = {}, std::string mounts = "/proc/self/mounts");
 
     FileKind Kind(const std::string& path) const override;
     std::optional<FileStamp> Stamp(const std::string& path) const override;
@@ -35,6 +36,7 @@ public:
 
 private:
     const FindFolder find_;
+    const std::string mounts_;
 };
 
 } // namespace tessarolyne

@@ -397,6 +397,18 @@ TEST_CASE("A path is looked at without following a link, and only what isn't the
     }
 }
 
+TEST_CASE("Volumes are the root and, each once, what stands where desktops mount what is plugged in") {
+    Disk disk;
+    WriteFile(disk / "mounts",
+        "proc /proc proc rw 0 0\n/dev/sda1 / ext4 rw 0 0\n"
+        "/dev/sdb1 /media/ann/my\\040disk vfat rw 0 0\n/dev/sdc1 /run/media/ann/x ext4 rw 0 0\n"
+        "/dev/sdd1 /home ext4 rw 0 0\n/dev/sdc1 /run/media/ann/x ext4 rw 0 0\n"
+        "/dev/sde1 /mnt/nas nfs rw 0 0\n");
+    const std::vector<Volume> expected = {
+        {"Root", "/"}, {"my disk", "/media/ann/my disk"}, {"x", "/run/media/ann/x"}, {"nas", "/mnt/nas"}};
+    CHECK((PosixFileSystem({}, disk / "mounts").Volumes() == expected));
+}
+
 TEST_CASE("A file that is kept keeps its bytes when a save replaces it, and replaces what was kept before") {
     Disk disk;
     WriteFile(disk / "f", "first");

@@ -56,13 +56,15 @@ TEST_CASE("A run extends the table to the limit and shows its end; an empty limi
         list.EditFieldFin.Text = limit;
         list.PushButtonCalcPrems.UserPressed();
         open.world.Settle();
-        return list.EditFieldFin.Text();
+        list.EditFieldAffDu.UserFocused();
+        return list.EditFieldFin.DisplayText();
     };
     CHECK(calculate("1000000000000") == "Nb Max = 999 999 999 999");
-    CHECK(calculate("20 000") == "19997"); // 20001 is the last number tested
+    CHECK(calculate("20 000") == "19 997"); // 20001 is the last number tested
     CHECK(open.Range() == "263-2262");
+    open.world.Main().CheckBoxFormatAuto.UserPressed();
     CHECK(calculate("") == "20011");
-    CHECK(list.StaticTextNbNbre1ers.Text() == "2 263 nombres premiers");
+    CHECK(list.StaticTextNbNbre1ers.Text() == "2263 nombres premiers");
 }
 
 TEST_CASE(

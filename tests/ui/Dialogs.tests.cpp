@@ -74,6 +74,20 @@ TEST_CASE("The result of a calculation that began while a question was up waits,
     CHECK((!window.ProgressWheel1.Visible() && world.program->fncts.DrapMenu));
 }
 
+TEST_CASE("Several beeps stand apart, and a sound is waited for if it is to be") {
+    TestWorld world;
+    Fncts& fncts = world.program->fncts;
+    const auto begin = world.loop.Milliseconds();
+    fncts.BeepNbT(1);
+    CHECK(world.loop.Milliseconds() == begin);
+    fncts.BeepNbT(3);
+    CHECK((world.sounds.beeps == 4 && world.loop.Milliseconds() - begin > 300));
+    fncts.PlayT(fncts.Zoum, false);
+    CHECK(fncts.Zoum.IsPlaying());
+    fncts.PlayT(fncts.Zoum, true);
+    CHECK((world.sounds.played.size() == 2 && !fncts.Zoum.IsPlaying()));
+}
+
 TEST_CASE("A chooser begins where its item stands, and suggests what fits it") {
     TestWorld world;
     Fncts& fncts = world.program->fncts;
