@@ -258,65 +258,54 @@ protected:
     }
 };
 
-void TellRowChanged(QComboBox* box) {
-    QAccessibleEvent event(box, QAccessible::DescriptionChanged);
-    QAccessible::updateAccessibility(&event);
-}
-
 // A choice of one row. The wheel turns it only while it has the focus, so that scrolling past changes
 // nothing.
 class PopupMenuView final : public View<PopupMenu, ComboBox> {
 public:
-    PopupMenuView(PopupMenu& model, QWidget* parent);
-
-protected:
-    void Read() override;
-};
-
-PopupMenuView::PopupMenuView(PopupMenu& model, QWidget* parent) : View(model, new ComboBox(parent)) {
-    widget_->setMaxVisibleItems(20);
-    widget_->onListKey = [&model](const QKeyEvent& event) {
-        const std::string key = KeyText(event);
-        return !key.empty() && model.UserPressedKey(key);
-    };
-    widget_->view()->installEventFilter(widget_);
-    QObject::connect(widget_, &QComboBox::activated, widget_,
-        [this](int index) { TellModel([&] { model_.UserChose(index); }); });
-    QObject::connect(widget_, &QComboBox::currentIndexChanged, widget_, [this] { TellRowChanged(widget_); });
-}
-
-void PopupMenuView::Read() {
-    widget_->view()->setAccessibleName(
-        ToQt(model_.AccessibleName)); // the list that opens takes the focus too
-    QStringList rows;
-    for (const std::string& row : model_.Rows()) {
-        rows += ToQt(row);
+    PopupMenuView(PopupMenu& model, QWidget* parent) : View(model, new ComboBox(parent)) {
+        widget_->setMaxVisibleItems(20);
+        widget_->onListKey = [&model](const QKeyEvent& event) {
+            const std::string key = KeyText(event);
+            return !key.empty() && model.UserPressedKey(key);
+        };
+        widget_->view()->installEventFilter(widget_);
+        QObject::connect(widget_, &QComboBox::activated, widget_,
+            [this](int index) { TellModel([&] { model_.UserChose(index); }); });
+        QObject::connect(widget_, &QComboBox::currentIndexChanged, widget_, [this] {
+            QAccessibleEvent event(widget_, QAccessible::DescriptionChanged);
+            QAccessible::updateAccessibility(&event);
+        });
     }
-    QStringList shown;
-    for (int i = 0; i < widget_->count(); ++i) {
-        shown += widget_->itemText(i);
-    }
-    if (rows != shown) {
-        widget_->clear();
-        widget_->addItems(rows);
-    }
-    if (widget_->currentIndex() != model_.ListIndex()) {
-        widget_->setCurrentIndex(model_.ListIndex());
-        if (widget_->view()->isVisible()) {
-            widget_->view()->setCurrentIndex(
-                widget_->model()->index(model_.ListIndex(), widget_->modelColumn()));
+
+private:
+    void Read() override {
+        // The list that opens takes the focus too.
+        widget_->view()->setAccessibleName(ToQt(model_.AccessibleName));
+        if (rows_ != model_.Rows()) {
+            rows_ = model_.Rows();
+            widget_->clear();
+            for (const std::string& row : rows_) {
+                widget_->addItem(ToQt(row));
+            }
         }
+        if (widget_->currentIndex() != model_.ListIndex()) {
+            widget_->setCurrentIndex(model_.ListIndex());
+            if (widget_->view()->isVisible()) {
+                widget_->view()->setCurrentIndex(
+                    widget_->model()->index(model_.ListIndex(), widget_->modelColumn()));
+            }
+        }
+        widget_->setFont(FittingFont(*widget_, widget_->currentText(), model_.Width - boxPadding));
     }
-    widget_->setFont(FittingFont(*widget_, widget_->currentText(), model_.Width - boxPadding));
-}
+
+    std::vector<std::string> rows_;
+};
 
 } // namespace
 
 std::unique_ptr<ControlView> MakeButtonView(Control& control, QWidget* parent) {
-    return MakeByFirst({&MakeIf<PushButton, PushButtonView>, &MakeIf<BevelButton, BevelButtonView>,
-                           &MakeIf<CheckBox, CheckBoxView>, &MakeIf<RadioButton, RadioButtonView>,
-                           &MakeIf<PopupMenu, PopupMenuView>},
-        control, parent);
+    return MakeByFirst<MakeIf<PushButtonView>, MakeIf<BevelButtonView>, MakeIf<CheckBoxView>,
+        MakeIf<RadioButtonView>, MakeIf<PopupMenuView>>(control, parent);
 }
 
 } // namespace tessarolyne

@@ -46,10 +46,9 @@ void ControlView::Update() {
     if (reading_) {
         return;
     }
-    reading_ = true;
+    const QScopedValueRollback reading(reading_, true);
     ReadCommon();
     Read();
-    reading_ = false;
 }
 
 void ControlView::TellModel(const std::function<void()>& tell) {
@@ -94,18 +93,8 @@ void ControlView::ReadCommon() {
         ToQt(control_.AccessibleName().empty() ? OwnName() : control_.AccessibleName()));
 }
 
-std::unique_ptr<ControlView> MakeByFirst(
-    std::initializer_list<MakeView*> makers, Control& control, QWidget* parent) {
-    for (MakeView* const make : makers) {
-        if (auto view = make(control, parent)) {
-            return view;
-        }
-    }
-    return nullptr;
-}
-
 std::unique_ptr<ControlView> MakeControlView(Control& control, QWidget* parent) {
-    auto view = MakeByFirst({&MakeTextView, &MakeButtonView, &MakeShowingView}, control, parent);
+    auto view = MakeByFirst<MakeTextView, MakeButtonView, MakeShowingView>(control, parent);
     if (view != nullptr) {
         view->Update();
     }

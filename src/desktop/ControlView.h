@@ -5,10 +5,10 @@
 #include "platform/Window.h"
 
 #include <QAccessible>
+#include <QScopedValueRollback>
 #include <QWidget>
 
 #include <functional>
-#include <initializer_list>
 #include <memory>
 #include <string>
 
@@ -73,6 +73,9 @@ private:
 // The view of one kind of model by one kind of widget.
 template <typename ModelKind, typename WidgetKind>
 class View : public ControlView {
+public:
+    using ModelType = ModelKind;
+
 protected:
     View(ModelKind& model, WidgetKind* widget) : ControlView(model, widget), model_(model), widget_(widget) {}
 
@@ -80,9 +83,9 @@ protected:
     WidgetKind* const widget_;
 };
 
-template <typename Model, typename ViewKind>
+template <typename ViewKind>
 std::unique_ptr<ControlView> MakeIf(Control& control, QWidget* parent) {
-    auto* model = dynamic_cast<Model*>(&control);
+    auto* model = dynamic_cast<typename ViewKind::ModelType*>(&control);
     return model == nullptr ? nullptr : std::make_unique<ViewKind>(*model, parent);
 }
 
@@ -91,8 +94,12 @@ using MakeView = std::unique_ptr<ControlView>(Control& control, QWidget* parent)
 MakeView MakeTextView, MakeButtonView, MakeShowingView;
 
 // What the first of them makes of it that makes anything.
-std::unique_ptr<ControlView> MakeByFirst(
-    std::initializer_list<MakeView*> makers, Control& control, QWidget* parent);
+template <MakeView*... makers>
+std::unique_ptr<ControlView> MakeByFirst(Control& control, QWidget* parent) {
+    std::unique_ptr<ControlView> view;
+    ((view = makers(control, parent)) || ...);
+    return view;
+}
 
 // The view of a control of any kind, its widget made inside `parent`.
 std::unique_ptr<ControlView> MakeControlView(Control& control, QWidget* parent);

@@ -48,6 +48,13 @@ private:
     const std::function<void()> press_;
 };
 
+bool IsOverlay(const Label& label) {
+    return label.IsOverlay;
+}
+bool IsOverlay(const Canvas&) {
+    return false;
+}
+
 // Gives a widget class the mouse of a model that has MouseDown, MouseUp, MouseEnter and MouseExit: a press
 // that the model takes is followed by its release. With the focus, Space and Return are a press in place.
 template <typename Base, typename Model>
@@ -55,7 +62,6 @@ class Pressable : public Base, public HasAccess {
 public:
     Pressable(Model& model, QWidget* parent) : Base(parent), model_(model) {}
 
-    Model& PressedModel() const { return model_; }
     QAccessibleInterface* MakeAccess() override {
         return model_.IsLink ? new LinkAccess(*this, [this] { Press(); }) : nullptr;
     }
@@ -73,7 +79,7 @@ protected:
         const QPoint at = event->position().toPoint();
         pressed_ = event->button() == Qt::LeftButton && model_.UserPressed(at.x(), at.y());
         // An overlay keeps its presses to itself, also those that the model doesn't follow.
-        event->setAccepted(pressed_ || SwallowsPresses());
+        event->setAccepted(pressed_ || IsOverlay(model_));
     }
     void mouseReleaseEvent(QMouseEvent* event) override {
         const QPoint at = event->position().toPoint();
@@ -107,20 +113,13 @@ protected:
         }
     }
 
-    virtual bool SwallowsPresses() const { return false; }
+    Model& model_;
 
 private:
-    Model& model_;
     bool pressed_ = false;
 };
 
-class LabelWidget final : public Pressable<QLabel, Label> {
-public:
-    using Pressable::Pressable;
-
-protected:
-    bool SwallowsPresses() const override { return PressedModel().IsOverlay(); }
-};
+using LabelWidget = Pressable<QLabel, Label>;
 
 class CanvasWidget final : public Pressable<QWidget, Canvas> {
 public:
@@ -130,7 +129,7 @@ protected:
     void paintEvent(QPaintEvent* event) override {
         {
             QPainter painter(this);
-            DrawPicture(painter, PressedModel().Image, rect());
+            DrawPicture(painter, model_.Image, rect());
         }
         Pressable::paintEvent(event);
     }
@@ -167,23 +166,21 @@ public:
     }
 
 private:
-    void Read() override;
+    void Read() override {
+        widget_->setAlignment(QtAlignment(model_.TextAlignment));
+        const QString plain = WithLineFeeds(model_.Text);
+        const QString text = widget_->buddy() == nullptr ? plain : WithAltKey(model_.Text, model_.AltKey);
+        QFont font = FittingFont(*widget_, plain, model_.Width);
+        font.setUnderline(model_.IsLink);
+        widget_->setFont(font);
+        widget_->setForegroundRole(model_.IsLink ? QPalette::Link : QPalette::NoRole);
+        widget_->setText(text);
+        if (model_.IsOverlay && model_.Visible) {
+            widget_->raise();
+        }
+    }
     std::string OwnName() const override { return model_.Text; }
 };
-
-void LabelView::Read() {
-    widget_->setAlignment(QtAlignment(model_.TextAlignment));
-    const QString plain = WithLineFeeds(model_.Text);
-    const QString text = widget_->buddy() == nullptr ? plain : WithAltKey(model_.Text, model_.AltKey);
-    QFont font = FittingFont(*widget_, plain, model_.Width);
-    font.setUnderline(model_.IsLink);
-    widget_->setFont(font);
-    widget_->setForegroundRole(model_.IsLink ? QPalette::Link : QPalette::NoRole);
-    widget_->setText(text);
-    if (model_.IsOverlay && model_.Visible) {
-        widget_->raise();
-    }
-}
 
 class GroupBoxView final : public View<GroupBox, GroupBoxWidget> {
 public:
@@ -209,21 +206,19 @@ public:
     }
 
 private:
-    void Read() override;
-};
-
-void ProgressBarView::Read() {
-    constexpr int steps = 1000; // the model counts further than Qt's int
-    const std::int64_t maximum = model_.Maximum;
-    if (maximum <= 0) {
-        widget_->setRange(0, 0);
-        return;
+    void Read() override {
+        constexpr int steps = 1000; // the model counts further than Qt's int
+        const std::int64_t maximum = model_.Maximum;
+        if (maximum <= 0) {
+            widget_->setRange(0, 0);
+            return;
+        }
+        const double share =
+            std::clamp(static_cast<double>(model_.Value()) / static_cast<double>(maximum), 0.0, 1.0);
+        widget_->setRange(0, steps);
+        widget_->setValue(static_cast<int>(share * steps));
     }
-    const double share =
-        std::clamp(static_cast<double>(model_.Value()) / static_cast<double>(maximum), 0.0, 1.0);
-    widget_->setRange(0, steps);
-    widget_->setValue(static_cast<int>(share * steps));
-}
+};
 
 class CanvasView final : public View<Canvas, CanvasWidget> {
 public:
@@ -301,33 +296,28 @@ class WheelView final : public View<ProgressWheel, WheelWidget> {
 public:
     WheelView(ProgressWheel& model, QWidget* parent) : View(model, new WheelWidget(model, parent)) {}
 
-protected:
-    void Read() override;
+private:
+    void Read() override {
+        if (toldValue_ != model_.Value) {
+            toldValue_ = model_.Value;
+            QAccessibleValueChangeEvent event(widget_, QVariant::fromValue<qint64>(toldValue_));
+            QAccessible::updateAccessibility(&event);
+        }
+        // A help tag that is up follows what goes on.
+        if (widget_->underMouse() && QToolTip::isVisible()) {
+            QToolTip::showText(QCursor::pos(), widget_->toolTip(), widget_);
+        }
+    }
     std::string Description() const override { return model_.Spoken; }
 
-private:
     std::int64_t toldValue_ = 0;
 };
-
-void WheelView::Read() {
-    if (toldValue_ != model_.Value) {
-        toldValue_ = model_.Value;
-        QAccessibleValueChangeEvent event(Widget(), QVariant::fromValue<qint64>(toldValue_));
-        QAccessible::updateAccessibility(&event);
-    }
-    // A help tag that is up follows what goes on.
-    if (Widget()->underMouse() && QToolTip::isVisible()) {
-        QToolTip::showText(QCursor::pos(), Widget()->toolTip(), Widget());
-    }
-}
 
 } // namespace
 
 std::unique_ptr<ControlView> MakeShowingView(Control& control, QWidget* parent) {
-    return MakeByFirst(
-        {&MakeIf<Label, LabelView>, &MakeIf<GroupBox, GroupBoxView>, &MakeIf<ProgressBar, ProgressBarView>,
-            &MakeIf<Canvas, CanvasView>, &MakeIf<ProgressWheel, WheelView>},
-        control, parent);
+    return MakeByFirst<MakeIf<LabelView>, MakeIf<GroupBoxView>, MakeIf<ProgressBarView>, MakeIf<CanvasView>,
+        MakeIf<WheelView>>(control, parent);
 }
 
 } // namespace tessarolyne

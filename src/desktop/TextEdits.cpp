@@ -180,14 +180,6 @@ QMimeData* PlainEdit::createMimeDataFromSelection() const {
     return copied;
 }
 
-void PlainEdit::contextMenuEvent(QContextMenuEvent* event) {
-    if (!onMenu) {
-        QPlainTextEdit::contextMenuEvent(event);
-    } else if (QMenu* const menu = createStandardContextMenu(event->pos())) {
-        onMenu(menu, *event);
-    }
-}
-
 // A whole drag may have gone by inside, and with it the button's release, which ends the scrolling that else
 // moves the mouse, and so begins the drag, again and again.
 void PlainEdit::mouseMoveEvent(QMouseEvent* event) {

@@ -7,16 +7,16 @@
 #include <QPalette>
 #include <QPlainTextEdit>
 #include <QString>
-#include <QWidget>
-#include <functional>
 
 class QContextMenuEvent;
 class QMenu;
-class QWidget;
 namespace tessarolyne {
 
 // The colours of `parent` with a fainter text.
 QPalette FaintPalette(const QWidget& parent);
+
+// Opens the edit's own context menu, with the control's commands at its end. Takes the menu.
+void OpenContextMenu(QMenu* menu, TextControl& control, const QContextMenuEvent& event);
 
 // An edit that can show its text fainter, also when the desktop's colours change. The colour of the text
 // alone is its own; that follows the desktop's, which the parent has.
@@ -24,6 +24,9 @@ template <typename Edit>
 class Dimmable : public Edit {
 public:
     using Edit::Edit;
+
+    // Whose commands the context menu has at its end; null leaves it as Qt's own.
+    TextControl* control = nullptr;
 
     void SetDimmed(bool dimmed) {
         if (dimmed != dimmed_) {
@@ -39,6 +42,13 @@ protected:
             ReadPalette();
         }
     }
+    void contextMenuEvent(QContextMenuEvent* event) override {
+        if (control == nullptr) {
+            Edit::contextMenuEvent(event);
+        } else if (QMenu* const menu = this->createStandardContextMenu()) {
+            OpenContextMenu(menu, *control, *event);
+        }
+    }
 
 private:
     void ReadPalette() { this->setPalette(dimmed_ ? FaintPalette(*this->parentWidget()) : QPalette()); }
@@ -52,11 +62,7 @@ class PlainEdit final : public Dimmable<QPlainTextEdit> {
 public:
     using Dimmable::Dimmable;
 
-    // Shows the menu, which it takes, for a context menu's event; without it the menu is Qt's own.
-    std::function<void(QMenu*, const QContextMenuEvent&)> onMenu;
-
 protected:
-    void contextMenuEvent(QContextMenuEvent* event) override;
     QMimeData* createMimeDataFromSelection() const override;
     void mouseMoveEvent(QMouseEvent* event) override;
 };
@@ -82,9 +88,6 @@ void MendAccess();
 // of a move of the focus last, when the text that gets it has long placed its caret: a reader then takes that
 // for a move within the text, and never speaks where it has come.
 void TellFocusBeforeCaret();
-
-// Opens the edit's own context menu, with the control's commands at its end. Takes the menu.
-void OpenContextMenu(QMenu* menu, TextControl& control, const QContextMenuEvent& event);
 
 // The edit commands of the menu on the widget with the focus.
 // Cut, Copy, Paste, Clear and SelectAll.

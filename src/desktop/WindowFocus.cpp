@@ -56,19 +56,17 @@ void WindowFocus::Sync() {
     if (syncing_ || window_.IsClosed() || qobject_cast<QMenuBar*>(now) != nullptr) {
         return;
     }
-    const Control* focus = window_.Focus();
-    const ControlView* view = focus == nullptr ? nullptr : find_(focus);
+    const ControlView* view = find_(window_.Focus());
     QWidget* const wanted = view != nullptr && view->Widget()->isEnabled() ? view->Widget() : nullptr;
     if (wanted == now) {
         return;
     }
-    syncing_ = true;
+    const QScopedValueRollback syncing(syncing_, true);
     if (wanted != nullptr) {
         wanted->setFocus(Qt::OtherFocusReason);
     } else if (now != &top_) {
         now->clearFocus();
     }
-    syncing_ = false;
 }
 
 void WindowFocus::SyncSoon() {

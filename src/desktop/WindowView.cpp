@@ -10,7 +10,8 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QKeyEvent>
-#include <QMenuBar>
+#include <QPointer>
+#include <QScrollArea>
 #include <QStyle>
 #include <QTimer>
 #include <QWindow>
@@ -19,21 +20,26 @@
 
 namespace tessarolyne {
 
-WindowContent::WindowContent(QWidget* parent) : QScrollArea(parent) {
-    setWidget(new QWidget(this));
-    setFrameShape(QFrame::NoFrame);
-    setFocusPolicy(Qt::NoFocus);
-}
+// The part of a window below its menu bar: a sheet of the model's size, on which the controls stand. It
+// scrolls where the screen is too small for the sheet; keys that scroll elsewhere stay the controls' own.
+class WindowContent final : public QScrollArea {
+public:
+    explicit WindowContent(QWidget* parent) : QScrollArea(parent) {
+        setWidget(new QWidget(this));
+        setFrameShape(QFrame::NoFrame);
+        setFocusPolicy(Qt::NoFocus);
+    }
 
-QSize WindowContent::SizeFor(const QSize& sheet, const QSize& room) const {
-    const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
-    const QSize bars(sheet.height() > room.height() ? bar : 0, sheet.width() > room.width() ? bar : 0);
-    return (sheet + bars).boundedTo(room);
-}
+    // The size that shows a sheet, or as much of it as there is room for with its scroll bars.
+    QSize SizeFor(const QSize& sheet, const QSize& room) const {
+        const int bar = style()->pixelMetric(QStyle::PM_ScrollBarExtent, nullptr, this);
+        const QSize bars(sheet.height() > room.height() ? bar : 0, sheet.width() > room.width() ? bar : 0);
+        return (sheet + bars).boundedTo(room);
+    }
 
-void WindowContent::keyPressEvent(QKeyEvent* event) {
-    event->ignore();
-}
+protected:
+    void keyPressEvent(QKeyEvent* event) override { event->ignore(); }
+};
 
 namespace {
 
@@ -106,20 +112,27 @@ QAccessibleInterface* WindowView::MakeAccess() {
     return new QAccessibleWidget(this, isDialog ? QAccessible::Dialog : QAccessible::Window);
 }
 
-WindowView::~WindowView() {
-    *alive_ = false;
-    views_.clear();
-}
-
 void WindowView::Observe() {
     connections_.push_back(window_.Changed.Connect([this] { Read(); }));
     connections_.push_back(window_.FocusMoved.Connect([this] {
         focus_.Sync();
-        ShowFocus();
+        if (QWidget* const widget = FocusedWidget()) {
+            content_->ensureWidgetVisible(widget);
+        }
     }));
-    connections_.push_back(window_.Raised.Connect([this] { Raise(); }));
+    connections_.push_back(window_.Raised.Connect([this] {
+        if (isMinimized()) {
+            showNormal();
+        }
+        raise();
+        activateWindow();
+    }));
     connections_.push_back(window_.Refresh.Connect([this] { repaint(); }));
-    connections_.push_back(window_.Closed.Connect([this] { ModelClosed(); }));
+    connections_.push_back(window_.Closed.Connect([this] {
+        hide();
+        connections_.clear();
+        deleteLater();
+    }));
 }
 
 // Also for controls that were made after the window was first shown.
@@ -128,8 +141,8 @@ void WindowView::AddViews() {
         if (Find(control) != nullptr) {
             continue;
         }
-        const ControlView* parent = control->Parent() == nullptr ? nullptr : Find(control->Parent());
-        auto view = MakeControlView(*control, parent == nullptr ? content_->Sheet() : parent->Widget());
+        const ControlView* parent = Find(control->Parent());
+        auto view = MakeControlView(*control, parent == nullptr ? content_->widget() : parent->Widget());
         if (view == nullptr) {
             continue;
         }
@@ -157,8 +170,7 @@ ControlView* WindowView::Find(const Control* control) const {
 }
 
 QWidget* WindowView::FocusedWidget() const {
-    const Control* focus = window_.Focus();
-    const ControlView* view = focus == nullptr ? nullptr : Find(focus);
+    const ControlView* view = Find(window_.Focus());
     return view == nullptr ? nullptr : view->Widget();
 }
 
@@ -166,7 +178,7 @@ void WindowView::Read() {
     if (reading_ || window_.IsClosed()) {
         return;
     }
-    reading_ = true;
+    const QScopedValueRollback reading(reading_, true);
     if (views_.size() != window_.Controls().size()) {
         AddViews();
     }
@@ -179,7 +191,6 @@ void WindowView::Read() {
     ReadSize();
     ReadPlace();
     ReadVisible();
-    reading_ = false;
 }
 
 int WindowView::BarHeight() const {
@@ -192,7 +203,7 @@ void WindowView::ReadSize() {
     const QSize aboveIt(0, bar);
     const QSize sheet(window_.Width, window_.Height);
     QSize room = Room();
-    content_->Sheet()->resize(sheet);
+    content_->widget()->resize(sheet);
     if (frame.resizeable) {
         const QSize least = content_->SizeFor({frame.minWidth, frame.minHeight}, room);
         setMinimumSize(least + aboveIt);
@@ -243,12 +254,6 @@ void WindowView::PullOntoScreen() {
     TellPlace();
 }
 
-void WindowView::ShowFocus() {
-    if (QWidget* const widget = FocusedWidget()) {
-        content_->ensureWidgetVisible(widget);
-    }
-}
-
 // A window that was never given a place is left to the window manager.
 void WindowView::ReadPlace() {
     const QPoint place(window_.Left, window_.Top);
@@ -274,28 +279,14 @@ void WindowView::ReadVisible() {
     }
 }
 
-void WindowView::Raise() {
-    if (isMinimized()) {
-        showNormal();
-    }
-    raise();
-    activateWindow();
-}
-
-void WindowView::ModelClosed() {
-    hide();
-    connections_.clear();
-    deleteLater();
-}
-
 // Through the loop's queue, so that a close while the program waits comes when the wait is over.
 void WindowView::closeEvent(QCloseEvent* event) {
     event->ignore();
     window_.UserWillClose();
     EventLoop& loop = window_.GetApplication().GetServices().loop;
-    loop.Post([this, alive = alive_] {
-        if (*alive && !window_.IsClosed()) {
-            window_.UserClosed();
+    loop.Post([view = QPointer(this)] {
+        if (view != nullptr && !view->window_.IsClosed()) {
+            view->window_.UserClosed();
         }
     });
 }
@@ -312,9 +303,8 @@ void WindowView::TellPlace() {
     if (reading_ || !PlacesWindows() || !isVisible() || !placed_ || window_.IsClosed() || isMinimized()) {
         return;
     }
-    reading_ = true;
+    const QScopedValueRollback reading(reading_, true);
     window_.UserMoved(pos().x(), pos().y());
-    reading_ = false;
 }
 
 void WindowView::resizeEvent(QResizeEvent* event) {
@@ -322,10 +312,9 @@ void WindowView::resizeEvent(QResizeEvent* event) {
     if (reading_ || !window_.Frame.resizeable || window_.IsClosed()) {
         return;
     }
-    reading_ = true;
+    const QScopedValueRollback reading(reading_, true);
     window_.UserResized(width(), height() - BarHeight());
     ReadSize();
-    reading_ = false;
 }
 
 // A window manager that knows nothing of modality, as under Wayland, activates the window behind on a click.

@@ -6,7 +6,6 @@
 #include "platform/MenuBar.h"
 
 #include <QMenuBar>
-#include <QScrollArea>
 #include <QWidget>
 
 #include <memory>
@@ -19,6 +18,7 @@ namespace tessarolyne {
 
 class Application;
 class Window;
+class WindowContent;
 
 // The program's menus as Qt's. While no menu is open every action can be triggered, since Qt ignores the
 // shortcut of a disabled one: the model's item then decides by itself. An open menu shows what is enabled.
@@ -40,20 +40,6 @@ private:
     std::vector<std::pair<MenuItem*, QAction*>> actions_;
 };
 
-// The part of a window below its menu bar: a sheet of the model's size, on which the controls stand. It
-// scrolls where the screen is too small for the sheet; keys that scroll elsewhere stay the controls' own.
-class WindowContent final : public QScrollArea {
-public:
-    explicit WindowContent(QWidget* parent);
-
-    QWidget* Sheet() const { return widget(); }
-    // The size that shows a sheet, or as much of it as there is room for with its scroll bars.
-    QSize SizeFor(const QSize& sheet, const QSize& room) const;
-
-protected:
-    void keyPressEvent(QKeyEvent* event) override;
-};
-
 // Lets a free-standing dialog stand before the window that the user is in, else before the first that is
 // shown: a click on that would else take the keys from the one that waits for an answer.
 void StandBeforeOthers(QWidget& dialog);
@@ -65,7 +51,6 @@ class WindowView final : public QWidget, public HasAccess {
 public:
     // `menu` may be null; the first window that has it shows the bar.
     WindowView(Window& window, QtMenu* menu);
-    ~WindowView() override;
 
     Window& Model() const { return window_; }
     // The widget of the control that has the program's focus; null if none has it.
@@ -89,21 +74,17 @@ private:
     void ReadSize();
     QSize Room() const;
     void PullOntoScreen();
-    void ShowFocus();
     void ReadPlace();
     void ReadVisible();
     void TellPlace();
     int BarHeight() const;
-    void Raise();
     void GiveKeysToDialog();
-    void ModelClosed();
 
     Window& window_;
     WindowContent* const content_;
     QMenuBar* const bar_; // null in all windows but one
     std::vector<std::unique_ptr<ControlView>> views_;
     std::vector<Connection> connections_;
-    std::shared_ptr<bool> alive_ = std::make_shared<bool>(true);
     bool reading_ = false;
     bool placed_ = false; // the window manager has answered where the window stands
     WindowFocus focus_;
