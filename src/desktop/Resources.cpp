@@ -37,18 +37,10 @@ QPixmap Load(const std::string& name) {
 }
 
 // Of the defaults in the string table.
-constexpr const char* builtInLanguage = "fr";
+constexpr QLatin1String builtInLanguage("fr");
 
 constexpr QLatin1String prefix("tessarolyne_");
 constexpr QLatin1String suffix(".qm");
-
-std::vector<std::string> DesktopLanguages() {
-    std::vector<std::string> languages;
-    for (const QString& tag : QLocale::system().uiLanguages()) {
-        languages.push_back(FromQt(tag));
-    }
-    return languages;
-}
 
 } // namespace
 
@@ -105,22 +97,22 @@ QColor TextColorOn(const Picture& picture, const QPalette& palette) {
     return qGray(picture.fill) > 128 ? Qt::black : Qt::white;
 }
 
-QtTranslations::QtTranslations() : QtTranslations(ResourcePath("translations"), DesktopLanguages()) {}
+QtTranslations::QtTranslations()
+    : QtTranslations(ResourcePath("translations"), QLocale::system().uiLanguages()) {}
 
-QtTranslations::QtTranslations(const QString& folder, const std::vector<std::string>& wanted) {
+QtTranslations::QtTranslations(const QString& folder, const QStringList& wanted) {
     // An empty path would be the working directory to QDir.
     const QStringList files =
         folder.isEmpty() ? QStringList() : QDir(folder).entryList({prefix + u'*' + suffix}, QDir::Files);
     for (const QString& file : files) {
         auto catalogue = std::make_unique<QTranslator>();
         if (catalogue->load(file, folder)) {
-            const QString language = file.mid(prefix.size()).chopped(suffix.size());
-            catalogues_.emplace(FromQt(language), std::move(catalogue));
+            catalogues_.emplace(file.mid(prefix.size()).chopped(suffix.size()), std::move(catalogue));
         }
     }
     chain_ = ChainFor(wanted);
     System::UseTranslations(this);
-    const QLocale locale(ToQt(chain_.empty() ? builtInLanguage : chain_.front()));
+    const QLocale locale(chain_.empty() ? builtInLanguage : chain_.front());
     const QString qtFolder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
     if (qtTexts_.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"), qtFolder)) {
         QCoreApplication::installTranslator(&qtTexts_);
@@ -129,8 +121,8 @@ QtTranslations::QtTranslations(const QString& folder, const std::vector<std::str
 
 std::optional<std::string> QtTranslations::Find(std::string_view key, std::string_view language) const {
     const std::string name(key);
-    for (const std::string& link : language.empty() ? chain_ : ChainFor({std::string(language)})) {
-        const QString text = catalogues_.at(link)->translate("", name.c_str());
+    for (const QString& catalogue : language.empty() ? chain_ : ChainFor({ToQt(std::string(language))})) {
+        const QString text = catalogues_.at(catalogue)->translate("", name.c_str());
         if (!text.isNull()) {
             return FromQt(text);
         }
@@ -138,12 +130,22 @@ std::optional<std::string> QtTranslations::Find(std::string_view key, std::strin
     return std::nullopt;
 }
 
-std::vector<std::string> QtTranslations::ChainFor(const std::vector<std::string>& wanted) const {
-    std::vector<std::string> available;
-    for (const auto& [language, catalogue] : catalogues_) {
-        available.push_back(language);
+QStringList QtTranslations::ChainFor(const QStringList& wanted) const {
+    for (const QString& tag : wanted) {
+        const QLocale locale(tag); // C for what names no language; a region too where the tag has none
+        const QString language = QLocale::languageToCode(locale.language());
+        const QString region = QLocale::territoryToCode(locale.territory());
+        QStringList chain;
+        if (tag.indexOf(region, language.size(), Qt::CaseInsensitive) >= 0) {
+            chain += language + u'_' + region;
+        }
+        chain += language;
+        chain.removeIf([this](const QString& name) { return catalogues_.count(name) == 0; });
+        if (!chain.empty() || language == builtInLanguage) {
+            return chain;
+        }
     }
-    return CatalogueChain(wanted, available, builtInLanguage);
+    return {};
 }
 
 } // namespace tessarolyne

@@ -6,13 +6,13 @@
 
 #include <QColor>
 #include <QString>
+#include <QStringList>
 #include <QTranslator>
 #include <map>
 #include <memory>
 #include <optional>
 #include <string>
 #include <string_view>
-#include <vector>
 
 class QPainter;
 class QPalette;
@@ -42,19 +42,21 @@ public:
     // The catalogues beside the program, in the languages of the user's desktop.
     QtTranslations();
     // The catalogues "tessarolyne_<language>.qm" of `folder`, for a desktop that wants these languages, in
-    // the order of preference.
-    QtTranslations(const QString& folder, const std::vector<std::string>& wanted);
+    // the order of preference, as tags of any spelling ("fr_CH.UTF-8", "en-Latn-GB", "C").
+    QtTranslations(const QString& folder, const QStringList& wanted);
     ~QtTranslations() override { System::UseTranslations(nullptr); }
 
     std::optional<std::string> Find(std::string_view key, std::string_view language) const override;
 
 private:
-    std::vector<std::string> ChainFor(const std::vector<std::string>& wanted) const;
+    // The catalogues of the first wanted language that there is: its region's, where one is told, then its
+    // own. None for the language of the built-in texts, in which what they lack is looked up in the end.
+    QStringList ChainFor(const QStringList& wanted) const;
 
     // By language.
-    std::map<std::string, std::unique_ptr<QTranslator>> catalogues_;
+    std::map<QString, std::unique_ptr<QTranslator>> catalogues_;
     // Of the language in which the program runs.
-    std::vector<std::string> chain_;
+    QStringList chain_;
     QTranslator qtTexts_;
 };
 
