@@ -119,15 +119,9 @@ void NumberEntry::ShowDestination(const std::string& decimal, const std::string&
 // reported once, until another one comes between.
 void NumberEntry::ReportConversionMismatch(
     const std::string& fromDecimal, int baseDest, const std::string& fromSource, int baseOrg) {
-    const std::string key = fromSource + " ≠ " + fromDecimal;
-    if (std::exchange(memErrConv_, key) == key) {
-        return;
-    }
-    fncts_.Beep();
-    const std::string message = fncts_.Filled(Localisation::Txt_ErrTranscBase(),
-        {Localisation::Txt_EnBase() + Str(baseDest), fromDecimal, Str(baseOrg), fromSource});
-    fncts_.MyDialogBox(
-        message, Localisation::Txt_MerciContactAuteur(), Localisation::Btn_Ok(), "", "", 1, nullptr);
+    fncts_.WarnOfMismatch(memErrConv_, fromSource + " ≠ " + fromDecimal,
+        fncts_.Filled(Localisation::Txt_ErrTranscBase(),
+            {Localisation::Txt_EnBase() + Str(baseDest), fromDecimal, Str(baseOrg), fromSource}));
 }
 
 } // namespace tessarolyne

@@ -17,7 +17,6 @@
 
 // Menus, buttons and keys of the main window, and the one rule for what may be used when.
 
-#include <array>
 namespace tessarolyne {
 
 namespace {
@@ -31,38 +30,32 @@ MenuBar1::MenuBar1() {
     using namespace Localisation;
     using Role = MenuRole;
 
-    MenuItem& file = AddMenu("FichMenu", Menu_Fichier());
-    file.AltKey = Alt_Menu_Fichier();
-    file.Append("FichChoixFichNbP", Menu_ChoiFichNbP(), "Cmd+O", byProgram).AltKey = Alt_Menu_ChoiFichNbP();
-    file.Append("FichSauvFichNbP", Menu_SauvFichNbP(), "Cmd+S", byProgram).AltKey = Alt_Menu_SauvFichNbP();
-    file.Append("UntitledSeparator0", "-", "", automatic, Role::Separator);
-    file.Append("FichierQuitter", "&Quit", "Cmd+Cmd+Q", automatic, Role::Quit);
+    MenuItem& file = AddMenu("FichMenu", Menu_Fichier(), Alt_Menu_Fichier());
+    file.Append("FichChoixFichNbP", Menu_ChoiFichNbP(), Alt_Menu_ChoiFichNbP(), "Cmd+O", byProgram);
+    file.Append("FichSauvFichNbP", Menu_SauvFichNbP(), Alt_Menu_SauvFichNbP(), "Cmd+S", byProgram);
+    file.Append("UntitledSeparator0", "-", "", "", automatic, Role::Separator);
+    file.Append("FichierQuitter", "&Quit", "", "Cmd+Cmd+Q", automatic, Role::Quit);
 
-    MenuItem& edit = AddMenu("EditMenu", Menu_Edit());
-    edit.AltKey = Alt_Menu_Edit();
-    edit.Append("EditCut", Menu_EditCut(), "Cmd+X", automatic, Role::Cut).AltKey = Alt_Menu_EditCut();
-    edit.Append("EditCopy", Menu_EditCopy(), "Cmd+C", automatic, Role::Copy).AltKey = Alt_Menu_EditCopy();
-    edit.Append("EditPaste", Menu_EditPaste(), "Cmd+V", automatic, Role::Paste).AltKey = Alt_Menu_EditPaste();
-    edit.Append("EditClear", Menu_EditClear(), "", automatic, Role::Clear).AltKey = Alt_Menu_EditClear();
-    edit.Append("EditSelectAll", Menu_EditSelectAll(), "Cmd+A", automatic, Role::SelectAll).AltKey =
-        Alt_Menu_EditSelectAll();
-    edit.Append("UntitledSeparator0", "-", "", automatic, Role::Separator);
-    edit.Append("AppleAPropos", Menu_AppleApropos(), "", byProgram, Role::About).AltKey =
-        Alt_Menu_AppleApropos();
+    MenuItem& edit = AddMenu("EditMenu", Menu_Edit(), Alt_Menu_Edit());
+    edit.Append("EditCut", Menu_EditCut(), Alt_Menu_EditCut(), "Cmd+X", automatic, Role::Cut);
+    edit.Append("EditCopy", Menu_EditCopy(), Alt_Menu_EditCopy(), "Cmd+C", automatic, Role::Copy);
+    edit.Append("EditPaste", Menu_EditPaste(), Alt_Menu_EditPaste(), "Cmd+V", automatic, Role::Paste);
+    edit.Append("EditClear", Menu_EditClear(), Alt_Menu_EditClear(), "", automatic, Role::Clear);
+    edit.Append(
+        "EditSelectAll", Menu_EditSelectAll(), Alt_Menu_EditSelectAll(), "Cmd+A", automatic, Role::SelectAll);
+    edit.Append("UntitledSeparator0", "-", "", "", automatic, Role::Separator);
+    edit.Append("AppleAPropos", Menu_AppleApropos(), Alt_Menu_AppleApropos(), "", byProgram, Role::About);
     if (offersUpdateCheck) {
-        edit.Append("AppleVMaJ", Menu_AppleVMaJ(), "", byProgram, Role::Application).AltKey =
-            Alt_Menu_AppleVMaJ();
+        edit.Append("AppleVMaJ", Menu_AppleVMaJ(), Alt_Menu_AppleVMaJ(), "", byProgram, Role::Application);
     }
     if (asksForDonations) {
-        edit.Append("AppleDon", Btn_FaireDon(), "", byProgram, Role::Application).AltKey = Alt_Btn_FaireDon();
+        edit.Append("AppleDon", Btn_FaireDon(), Alt_Btn_FaireDon(), "", byProgram, Role::Application);
     }
-    edit.Append("UntitledSeparator1", "-", "", automatic, Role::Separator);
-    edit.Append("ApplePrefs", Menu_Preferences(), "", byProgram, Role::Preferences).AltKey =
-        Alt_Menu_Preferences();
+    edit.Append("UntitledSeparator1", "-", "", "", automatic, Role::Separator);
+    edit.Append("ApplePrefs", Menu_Preferences(), Alt_Menu_Preferences(), "", byProgram, Role::Preferences);
 
-    MenuItem& help = AddMenu("AideMenu", Menu_Aide());
-    help.AltKey = Alt_Menu_Aide();
-    help.Append("AideAide", Menu_AideAide(), "Cmd+?", byProgram).AltKey = Alt_Menu_AideAide();
+    MenuItem& help = AddMenu("AideMenu", Menu_Aide(), Alt_Menu_Aide());
+    help.Append("AideAide", Menu_AideAide(), Alt_Menu_AideAide(), "Cmd+?", byProgram);
 }
 
 void WinMain::EnableMenuBoutons() {

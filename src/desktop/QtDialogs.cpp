@@ -148,9 +148,9 @@ QWidget* MessageView::MakeButtons(const MessageDialog& dialog) {
         QDialogButtonBox::ButtonRole role;
         DialogButton answer;
     } buttons[] = {
-        {dialog.actionCaption, dialog.actionHelpTag, QDialogButtonBox::AcceptRole, DialogButton::Action},
-        {dialog.cancelCaption, dialog.cancelHelpTag, QDialogButtonBox::RejectRole, DialogButton::Cancel},
-        {dialog.alternateCaption, dialog.alternateHelpTag, QDialogButtonBox::DestructiveRole,
+        {dialog.actionCaption, dialog.helpTags.action, QDialogButtonBox::AcceptRole, DialogButton::Action},
+        {dialog.cancelCaption, dialog.helpTags.cancel, QDialogButtonBox::RejectRole, DialogButton::Cancel},
+        {dialog.alternateCaption, dialog.helpTags.alternate, QDialogButtonBox::DestructiveRole,
             DialogButton::Alternate}};
     for (const auto& [caption, helpTag, role, answer] : buttons) {
         if (caption.empty() && answer != DialogButton::Action) {

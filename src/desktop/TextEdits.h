@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/MenuBar.h"
+#include "platform/Application.h"
 #include "platform/TextControls.h"
 
 #include <QEvent>

@@ -2,8 +2,8 @@
 
 #include "desktop/ControlView.h"
 #include "desktop/WindowFocus.h"
+#include "platform/Application.h"
 #include "platform/Event.h"
-#include "platform/MenuBar.h"
 
 #include <QMenuBar>
 #include <QWidget>

@@ -7,6 +7,29 @@
 
 namespace tessarolyne {
 
+void MenuItem::UserChose(Application& application) {
+    application.EnableMenuItems();
+    if (Role == MenuRole::Quit) {
+        application.RequestQuit();
+    } else if (!application.HasModalStep() && !application.GetServices().loop.IsWaiting()) {
+        Action();
+    }
+}
+
+MenuItem* MenuBar::Find(std::string_view name) const {
+    for (const auto& menu : menus_) {
+        if (menu->Name == name) {
+            return menu.get();
+        }
+        for (const auto& item : menu->Items()) {
+            if (item->Name == name) {
+                return item.get();
+            }
+        }
+    }
+    return nullptr;
+}
+
 Application::ModalStep::ModalStep(Application& application, const Window* window)
     : application_(application), window_(window) {
     application_.modalSteps_.push_back(this);

@@ -84,6 +84,13 @@ public:
 
 class Window;
 
+// What the buttons of a message say when the pointer rests on them; empty for nothing.
+struct DialogHelpTags {
+    std::string action = {};
+    std::string cancel = {};
+    std::string alternate = {};
+};
+
 // What a message dialog shows. Empty captions mean no such button, but for the action button, which then has
 // the desktop's own caption. Texts are plain text, whatever they hold; carriage returns are line breaks.
 struct MessageDialog {
@@ -92,9 +99,7 @@ struct MessageDialog {
     std::string actionCaption;
     std::string cancelCaption;
     std::string alternateCaption;
-    std::string actionHelpTag;
-    std::string cancelHelpTag;
-    std::string alternateHelpTag;
+    DialogHelpTags helpTags;
     int icon = 0; // 0 note, 1 caution
     Window* sheetOf = nullptr;
 };

@@ -70,6 +70,11 @@ inline std::string Chr(char code) {
     return std::string(1, code);
 }
 
+// Whether the key, as controls are told it, is Return or Enter.
+inline bool IsReturn(std::string_view key) {
+    return key == "\r" || key == "\3";
+}
+
 // The bytes of the text as a piece of an address: all but the unreserved characters of RFC 3986 as "%20".
 std::string EncodeURLComponent(std::string_view text);
 

@@ -89,26 +89,16 @@ void Decomposition::DecompPremFin(std::uint64_t n) {
         const std::uint64_t product = std::accumulate(
             Nbre_Decompose.begin(), Nbre_Decompose.end(), std::uint64_t{1}, std::multiplies());
         if (product != n) {
-            ReportFactorMismatch(product, n);
+            const std::string shown = FormatWhole(n, true);
+            const std::string recomposed = FormatWhole(product, true);
+            fncts_.WarnOfMismatch(memErrDecomp_, recomposed + " ≠ " + shown,
+                fncts_.Filled(Localisation::Txt_ErrDeDecomp(), {shown, recomposed}));
+            PushButtDecomposer.Enabled = true;
         }
         TableMayHaveGrown(true);
     }
     factors_.Write(text);
     calculation_.End();
-}
-
-void Decomposition::ReportFactorMismatch(std::uint64_t product, std::uint64_t n) {
-    const std::string mismatch = FormatWhole(product, true) + " ≠ " + FormatWhole(n, true);
-    if (mismatch == memErrDecomp_) {
-        return;
-    }
-    memErrDecomp_ = mismatch;
-    fncts_.Beep();
-    const auto piece = [this](
-                           int number) { return fncts_.FracTexte(Localisation::Txt_ErrDeDecomp(), number); };
-    fncts_.MyDialogBox(piece(1) + FormatWhole(n, true) + piece(2) + FormatWhole(product, true) + piece(3),
-        Localisation::Txt_MerciContactAuteur(), Localisation::Btn_Ok(), "", "", 1, nullptr);
-    PushButtDecomposer.Enabled = true;
 }
 
 } // namespace tessarolyne

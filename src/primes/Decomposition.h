@@ -51,7 +51,6 @@ public:
 
 private:
     void RunOnThread(std::uint64_t n, bool isAskedFor);
-    void ReportFactorMismatch(std::uint64_t product, std::uint64_t n);
     std::string FactorsText(bool grouped) const;
 
     NumberOutput& factors_;

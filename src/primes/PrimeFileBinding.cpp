@@ -49,9 +49,7 @@ std::optional<FolderItem> PrimeFileBinding::ChooseAndSave() {
     const auto chosen = fncts_.MyDialogSave(app_.FichNbPrems, Localisation::Txt_SelectDossSauv(),
         FileTypes::QueText, Localisation::WinNbresTitre() + ".txt", nullptr);
     if (chosen && chosen->Exists() && !chosen->CanReplace(LinkPolicy::ReplaceLink)) {
-        fncts_.Beep();
-        fncts_.MyDialogBox(
-            Localisation::Txt_Rempl_Imposs(), "", Localisation::Btn_Annuler(), "", "", 1, nullptr);
+        fncts_.Warn(Localisation::Txt_Rempl_Imposs(), Localisation::Btn_Annuler());
         return {};
     }
     if (!chosen || !CanBeKept(*chosen)) {
@@ -94,9 +92,7 @@ bool PrimeFileBinding::CanBeKept(const FolderItem& item) {
     if (isOneLine(item) && isOneLine(GetTargetItem_f(item).value_or(item))) {
         return true;
     }
-    fncts_.Beep();
-    fncts_.MyDialogBox(
-        Localisation::Txt_FichNomSurLignes(), "", Localisation::Btn_Annuler(), "", "", 1, nullptr);
+    fncts_.Warn(Localisation::Txt_FichNomSurLignes(), Localisation::Btn_Annuler());
     return false;
 }
 
@@ -123,9 +119,8 @@ std::string PrimeFileBinding::TextOfUnkeptPrimes() const {
     if (unkept <= 0) {
         return {};
     }
-    const std::string text = Localisation::Txt_PremsPerdus();
-    return "\r" + fncts_.FracTexte(text, 1) + FormatWhole(static_cast<std::uint64_t>(unkept), true) +
-           fncts_.FracTexte(text, 2);
+    const std::string count = FormatWhole(static_cast<std::uint64_t>(unkept), true);
+    return "\r" + fncts_.Filled(Localisation::Txt_PremsPerdus(), {count});
 }
 
 } // namespace tessarolyne

@@ -11,6 +11,7 @@
 #include "ui/WrittenNumber.h"
 
 #include <algorithm>
+#include <ranges>
 
 namespace tessarolyne {
 
@@ -48,17 +49,8 @@ Slice CutToTable(Slice entered, std::int64_t last, bool garderDebut, std::int64_
 
 // The rank of the first entry that isn't below `value`; Size() where there is none.
 std::int32_t LowerBound(const PrimeTable& table, std::uint64_t value) {
-    std::int32_t low = 0;
-    std::int32_t high = table.Size();
-    while (low < high) {
-        const std::int32_t middle = low + (high - low) / 2;
-        if (table[middle] < value) {
-            low = middle + 1;
-        } else {
-            high = middle;
-        }
-    }
-    return low;
+    const auto ranks = std::views::iota(0, table.Size());
+    return *std::ranges::lower_bound(ranks, value, {}, [&](std::int32_t rank) { return table[rank]; });
 }
 
 } // namespace
@@ -148,13 +140,12 @@ void WinNbresPremiers::AskForValue() {
     StaticTextNbNbre1ers.Visible = false;
     EditFieldChercher.Visible = true;
     EditFieldChercher.SetFocus();
-    EditFieldChercher.SelStart = 0;
-    EditFieldChercher.SelLength = static_cast<int>(Len(EditFieldChercher.Text()));
+    EditFieldChercher.UserSelected(0, static_cast<int>(Len(EditFieldChercher.Text())));
     EditFieldChercher.Notify(Localisation::Txt_Chercher());
 }
 
 bool WinNbresPremiers::EditFieldChercher_KeyDown(const std::string& key) {
-    const bool isReturn = key == Chr(13) || key == Chr(3);
+    const bool isReturn = IsReturn(key);
     if (!isReturn && key != Chr(27)) {
         return false;
     }
@@ -175,27 +166,27 @@ void WinNbresPremiers::EditFieldChercher_LostFocus() {
 }
 
 void WinNbresPremiers::GoToValue(std::uint64_t value) {
-    const auto say = [this](const std::string& text, const std::string& value1, const std::string& value2) {
-        const std::string said =
-            fncts.FracTexte(text, 1) + value1 + (value2.empty() ? "" : fncts.FracTexte(text, 2) + value2);
+    const auto say = [this](const std::string& text) {
         (EditFieldChercher.HasFocus() ? static_cast<Control&>(EditFieldChercher) : TxtAreaListeNbres1ers)
-            .Notify(said);
-        fncts.Announce(said);
+            .Notify(text);
+        fncts.Announce(text);
     };
     if (value > table_.Back()) {
-        say(Localisation::Txt_AuDela(), Shown(table_.Back()), "");
+        say(fncts.Filled(Localisation::Txt_AuDela(), {Shown(table_.Back())}));
         return;
     }
     const std::int32_t rank = LowerBound(table_, value);
     ShowRank(rank);
+    const std::string found = WithRank(rank);
     if (table_[rank] == value) {
-        StaticTextNbNbre1ers.Text = WithRank(rank);
-        say("¿%", WithRank(rank), "");
+        StaticTextNbNbre1ers.Text = found;
+        say(found);
         return;
     }
     const std::string before = rank == 0 ? "" : WithRank(rank - 1);
-    StaticTextNbNbre1ers.Text = before + (rank == 0 ? "" : " < ") + Shown(value) + " < " + WithRank(rank);
-    say(Localisation::Txt_NonPremier(), Shown(value), before + (rank == 0 ? "" : ", ") + WithRank(rank));
+    StaticTextNbNbre1ers.Text = before + (rank == 0 ? "" : " < ") + Shown(value) + " < " + found;
+    const std::string neighbours = rank == 0 ? found : before + ", " + found;
+    say(fncts.Filled(Localisation::Txt_NonPremier(), {Shown(value), neighbours}));
 }
 
 // Selects the entry in the list, among about as many before as behind it if it isn't there yet.
@@ -217,9 +208,8 @@ void WinNbresPremiers::ShowRank(std::int32_t rank) {
 }
 
 std::string WinNbresPremiers::WithRank(std::int32_t rank) const {
-    const std::string text = Localisation::Txt_AvecRang();
-    return fncts.FracTexte(text, 1) + Shown(table_[rank]) + fncts.FracTexte(text, 2) +
-           Shown(static_cast<std::uint64_t>(rank) + 1) + fncts.FracTexte(text, 3);
+    return fncts.Filled(
+        Localisation::Txt_AvecRang(), {Shown(table_[rank]), Shown(static_cast<std::uint64_t>(rank) + 1)});
 }
 
 std::string WinNbresPremiers::Shown(std::uint64_t value) const {

@@ -111,63 +111,34 @@ void WinChargSauvNb1ers::LoadNb1ers() {
 }
 
 void WinChargSauvNb1ers::LoadBoundFile() {
+    BoundFile& bound = primeFile_.PrimeFile;
     PrimeTable read;
-    const Reading reading = ReadInto(read);
-    if (reading == Reading::Primes) {
-        Take(read);
+    PrimeFileContent content{};
+    bound.isForeign = true; // until it turns out to be ours
+    try {
+        bound.seen = app.FichNbPrems->Stamp();
+        const auto file = app.FichNbPrems->Files().OpenForReading(app.FichNbPrems->NativePath());
+        bound.seen = file->Stamp();
+        if (bound.seen->size > largestPrimeFile) {
+            TellFailure(1, Localisation::Txt_FichTropGrand());
+            return;
+        }
+        content = ReadPrimeFile(*file, read, *this, MemoryForTable());
+    } catch (const ReadingStopped&) {
+        Reset();
+        return;
+    } catch (const std::exception&) {
+        read.Clear();
+        TellFailure(1, Localisation::Txt_ErreurLectFich());
         return;
     }
-    read.Clear();
-    primeFile_.PrimeFile.isForeign = reading != Reading::Nothing;
-    switch (reading) {
-    case Reading::Other:
-        if (UserOverwrites()) {
-            Save(LinkPolicy::ReplaceTarget);
-        }
-        break;
-    case Reading::TooLarge:
-        TellFailure(1, Localisation::Txt_FichTropGrand());
-        break;
-    case Reading::Failed:
-        TellFailure(1, Localisation::Txt_ErreurLectFich());
-        break;
-    case Reading::Stopped:
-        Reset();
-        break;
-    case Reading::Primes:
-    case Reading::Nothing:
-        break;
+    bound.isForeign = content == PrimeFileContent::Other;
+    if (content == PrimeFileContent::Primes) {
+        primeFile_.Nbres_Premiers.Swap(read);
+        CountAsSaved();
+    } else if (bound.isForeign && UserOverwrites()) {
+        Save(LinkPolicy::ReplaceTarget);
     }
-}
-
-WinChargSauvNb1ers::Reading WinChargSauvNb1ers::ReadInto(PrimeTable& table) {
-    std::optional<FileStamp>& seen = primeFile_.PrimeFile.seen;
-    try {
-        seen = app.FichNbPrems->Stamp();
-        const auto file = app.FichNbPrems->Files().OpenForReading(app.FichNbPrems->NativePath());
-        seen = file->Stamp();
-        if (seen->size > largestPrimeFile) {
-            return Reading::TooLarge;
-        }
-        switch (ReadPrimeFile(*file, table, *this, MemoryForTable())) {
-        case PrimeFileContent::Primes:
-            return Reading::Primes;
-        case PrimeFileContent::Nothing:
-            return Reading::Nothing;
-        case PrimeFileContent::Other:
-            return Reading::Other;
-        }
-    } catch (const ReadingStopped&) {
-        return Reading::Stopped;
-    } catch (const std::exception&) {
-        return Reading::Failed;
-    }
-    return Reading::Failed;
-}
-
-void WinChargSauvNb1ers::Take(PrimeTable& read) {
-    primeFile_.Nbres_Premiers.Swap(read);
-    CountAsSaved();
 }
 
 // Half of what there is, as for a calculation. The table that stays until another has been read counts as

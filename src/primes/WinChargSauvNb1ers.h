@@ -40,14 +40,10 @@ private:
     void Work() override;
     bool MustStop() override;
 
-    enum class Reading { Primes, Nothing, Other, TooLarge, Failed, Stopped };
-
     void Start(const std::string& title);
     void End();
     void Draw();
     void LoadBoundFile();
-    Reading ReadInto(PrimeTable& table);
-    void Take(PrimeTable& read);
     void CountAsSaved();
     bool UserOverwrites();
     void Reset();

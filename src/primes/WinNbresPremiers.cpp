@@ -20,8 +20,14 @@ constexpr int defaultTop = 50;
 constexpr int defaultWidth = 500;
 constexpr int defaultHeight = 540;
 
-bool IsReturn(const std::string& key) {
-    return key == Chr(13) || key == Chr(3);
+void OnReturn(TextField& field, std::function<void()> action) {
+    field.KeyDown = [action = std::move(action)](const std::string& key) {
+        const bool isReturn = IsReturn(key);
+        if (isReturn) {
+            action();
+        }
+        return isReturn;
+    };
 }
 
 } // namespace
@@ -80,9 +86,9 @@ void WinNbresPremiers::SetInitialState() {
 }
 
 void WinNbresPremiers::BindEvents() {
-    EditFieldFin.KeyDown = [this](const std::string& key) { return EditFieldFin_KeyDown(key); };
-    EditFieldAffDu.KeyDown = [this](const std::string& key) { return EditFieldAffDu_KeyDown(key); };
-    EditFieldAffAu.KeyDown = [this](const std::string& key) { return EditFieldAffAu_KeyDown(key); };
+    OnReturn(EditFieldFin, [this] { PushButtonCalcPrems.Push(); });
+    OnReturn(EditFieldAffDu, [this] { FaireListe(true, true); });
+    OnReturn(EditFieldAffAu, [this] { FaireListe(true, false); });
     EditFieldChercher.KeyDown = [this](const std::string& key) { return EditFieldChercher_KeyDown(key); };
     EditFieldChercher.LostFocus = [this] { EditFieldChercher_LostFocus(); };
     TxtAreaListeNbres1ers.KeyDown = [this](const std::string& key) {
@@ -112,8 +118,7 @@ void WinNbresPremiers::Event_Open() {
     ProgressWheel2.Visible = true;
     Show();
     FaireListe(true, true);
-    EditFieldFin.SelStart = 0;
-    EditFieldFin.SelLength = static_cast<int>(Len(EditFieldFin.Text()));
+    EditFieldFin.UserSelected(0, static_cast<int>(Len(EditFieldFin.Text())));
     EditFieldFin.SetFocus();
     EditFieldFin.Format = mask;
     ProgressWheel2.Visible = false;
@@ -162,39 +167,13 @@ bool WinNbresPremiers::Event_KeyDown(const std::string& key) {
     return key != Chr(9);
 }
 
-bool WinNbresPremiers::EditFieldFin_KeyDown(const std::string& key) {
-    if (!IsReturn(key)) {
-        return false;
-    }
-    PushButtonCalcPrems.Push();
-    return true;
-}
-
-bool WinNbresPremiers::EditFieldAffDu_KeyDown(const std::string& key) {
-    if (!IsReturn(key)) {
-        return false;
-    }
-    FaireListe(true, true);
-    return true;
-}
-
-bool WinNbresPremiers::EditFieldAffAu_KeyDown(const std::string& key) {
-    if (!IsReturn(key)) {
-        return false;
-    }
-    FaireListe(true, false);
-    return true;
-}
-
 void WinNbresPremiers::DefNbreNbPparLigne() {
     std::int16_t& perLine = primeFile_.NbreNbPparLigne;
     perLine = ToInt16(Val(EditFieldNbNbresLigne.Text()));
     if (perLine == 0) {
         perLine = 10;
         EditFieldNbNbresLigne.Text = "10";
-        fncts.Beep();
-        fncts.MyDialogBox(
-            Localisation::Txt_VsPouvPasMettre0(), "", Localisation::Btn_Ok(), "", "", 1, nullptr);
+        fncts.Warn(Localisation::Txt_VsPouvPasMettre0(), Localisation::Btn_Ok());
     }
 }
 
@@ -245,8 +224,6 @@ void WinNbresPremiers::Regroup(bool grouped) {
     const std::string mask(grouped ? groupedMask : plainMask);
     for (TextField* field : {&EditFieldFin, &EditFieldAffDu, &EditFieldAffAu}) {
         field->Format = mask;
-    }
-    for (TextField* field : {&EditFieldFin, &EditFieldAffDu, &EditFieldAffAu}) {
         const std::string bare = WithoutBlanks(field->Text());
         if (IsNumeric(bare)) { // a message keeps its blanks
             field->Text = bare;

@@ -124,22 +124,29 @@ void Fncts::DecPosCtrl(Window& fenetre) {
     }
 }
 
-// Freezes the commands for as long as a dialog is up, and gives back what it found.
+// Freezes the commands and covers the other windows for as long as a dialog is up, and gives back what it
+// found.
 class Fncts::DialogProtocol {
 public:
-    explicit DialogProtocol(Fncts& fncts)
+    DialogProtocol(Fncts& fncts, Window* fenetre)
         : fncts_(fncts), step_(fncts.app_, nullptr), found_(fncts.DrapMenu), foundDialog_(fncts.DrapDiagBox) {
         fncts_.DrapDiagBox = true;
         fncts_.app_.MouseCursor = Cursor::Standard;
         fncts_.DrapMenu = false;
+        sheetOf = fncts_.CtrlDsFenetrDiag(fenetre, true) ? fenetre : nullptr;
     }
     ~DialogProtocol() {
+        if (sheetOf != nullptr) {
+            fncts_.CtrlDsFenetrDiag(sheetOf, false);
+        }
         fncts_.RestoreDrapMenu(found_);
         fncts_.app_.MouseCursor = Cursor::None;
         fncts_.DrapDiagBox = foundDialog_; // a quit may ask over a file chooser
     }
     DialogProtocol(const DialogProtocol&) = delete;
     DialogProtocol& operator=(const DialogProtocol&) = delete;
+
+    Window* sheetOf;
 
 private:
     Fncts& fncts_;
@@ -151,27 +158,23 @@ private:
 int Fncts::MyDialogBox(const std::string& message, const std::string& explication,
     const std::string& boutonAction, const std::string& boutonAnnuler, const std::string& boutonAutre,
     int icone, Window* fenetre, const DialogHelpTags& bulles) {
-    const DialogProtocol protocol(*this);
-    const bool sheet = CtrlDsFenetrDiag(fenetre, true);
+    const DialogProtocol protocol(*this, fenetre);
     if (boutonAction.empty()) {
         ReportFaultInLines("My DialogBox, BtnAct = ''");
     }
-    MessageDialog dialog;
-    dialog.message = message.empty() ? " " : message;
-    dialog.explanation = explication;
-    dialog.actionCaption = boutonAction;
-    dialog.cancelCaption = boutonAnnuler;
-    dialog.alternateCaption = boutonAutre;
-    dialog.actionHelpTag = bulles.action;
-    dialog.cancelHelpTag = bulles.cancel;
-    dialog.alternateHelpTag = bulles.alternate;
-    dialog.icon = icone;
-    dialog.sheetOf = sheet ? fenetre : nullptr;
-    const auto button = static_cast<int>(services_.dialogs.Ask(dialog));
-    if (sheet) {
-        CtrlDsFenetrDiag(fenetre, false);
+    return static_cast<int>(services_.dialogs.Ask({message.empty() ? " " : message, explication, boutonAction,
+        boutonAnnuler, boutonAutre, bulles, icone, protocol.sheetOf}));
+}
+
+void Fncts::Warn(const std::string& message, const std::string& bouton, const std::string& explication) {
+    Beep();
+    MyDialogBox(message, explication, bouton, "", "", 1, nullptr);
+}
+
+void Fncts::WarnOfMismatch(std::string& last, const std::string& results, const std::string& message) {
+    if (std::exchange(last, results) != results) {
+        Warn(message, Localisation::Btn_Ok(), Localisation::Txt_MerciContactAuteur());
     }
-    return button;
 }
 
 std::optional<FolderItem> Fncts::MyDialogLoad(const std::optional<FolderItem>& depart,
@@ -187,30 +190,16 @@ std::optional<FolderItem> Fncts::MyDialogSave(const std::optional<FolderItem>& d
 std::optional<FolderItem> Fncts::ChooseItem(const std::optional<FolderItem>& depart,
     const std::string& invite, const FileType& filtre, const std::string& nomPropose, Window* fenetre,
     bool toSave) {
-    const DialogProtocol protocol(*this);
-    const bool sheet = CtrlDsFenetrDiag(fenetre, true);
-    FileDialog dialog;
-    dialog.prompt = invite;
-    dialog.filterName = filtre.Name;
-    dialog.filterExtension = filtre.Extensions;
-    dialog.sheetOf = sheet ? fenetre : nullptr;
-    dialog.suggestedName = nomPropose;
-    dialog.toSave = toSave;
+    const DialogProtocol protocol(*this, fenetre);
+    FileDialog dialog{invite, std::string(filtre.Name), std::string(filtre.Extensions), depart, nomPropose,
+        toSave, protocol.sheetOf};
     if (!depart) {
         dialog.initialFolder = FolderItem::Find(services_.files, KnownFolder::Documents);
-    } else if (DossPasPack_f(*depart)) {
-        dialog.initialFolder = depart;
-    } else if (const auto parent = depart->Parent()) {
-        dialog.initialFolder = parent;
+    } else if (!DossPasPack_f(*depart)) {
+        dialog.initialFolder = depart->Parent();
         dialog.suggestedName = depart->Name();
-    } else {
-        dialog.suggestedName.clear();
     }
-    auto chosen = services_.dialogs.Choose(dialog);
-    if (sheet) {
-        CtrlDsFenetrDiag(fenetre, false);
-    }
-    return chosen;
+    return services_.dialogs.Choose(dialog);
 }
 
 void Fncts::MsgBox(const std::string& texte) {

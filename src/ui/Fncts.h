@@ -24,13 +24,6 @@ namespace FileTypes {
 inline constexpr FileType QueText{"text", ".txt"};
 }
 
-// What the buttons of a message say when the pointer rests on them; empty for nothing.
-struct DialogHelpTags {
-    std::string action = {};
-    std::string cancel = {};
-    std::string alternate = {};
-};
-
 // The flags and small services that all windows share: questions and messages, beeps and sounds, the
 // clipboard, and the freezing of commands while something else goes on.
 class Fncts {
@@ -58,6 +51,10 @@ public:
     int MyDialogBox(const std::string& message, const std::string& explication,
         const std::string& boutonAction, const std::string& boutonAnnuler, const std::string& boutonAutre,
         int icone, Window* fenetre, const DialogHelpTags& bulles = {});
+    // Beeps, and tells what is wrong, with one button.
+    void Warn(const std::string& message, const std::string& bouton, const std::string& explication = "");
+    // The same for two results that should agree and don't: once, until others don't. `last` remembers them.
+    void WarnOfMismatch(std::string& last, const std::string& results, const std::string& message);
 
     // Hands an address to the desktop without waiting. One that isn't safe to hand on, or that nothing takes,
     // is shown to the user instead, to copy or not.

@@ -1,4 +1,4 @@
-#include "platform/MenuBar.h"
+#include "platform/Application.h"
 #include "platform/Text.h"
 #include "support/TestWorld.h"
 #include "ui/Localisation.h"

@@ -1,4 +1,4 @@
-#include "platform/MenuBar.h"
+#include "platform/Application.h"
 #include "support/TestWorld.h"
 #include "ui/Localisation.h"
 #include "ui/Version.h"
@@ -72,8 +72,8 @@ TEST_CASE("A check from the menu tells what the server has, and opens only what 
         CHECK(dialog.icon == (row.message == isBad ? 1 : 0));
         CHECK(world.sounds.beeps == (row.message == isBad ? 1 : 0));
         // A button says where it leads, unless that would not be opened.
-        CHECK(dialog.actionHelpTag == (row.message == isNew && row.told.empty() ? download : ""));
-        CHECK(dialog.alternateHelpTag == (row.message == isNew ? history : ""));
+        CHECK(dialog.helpTags.action == (row.message == isNew && row.told.empty() ? download : ""));
+        CHECK(dialog.helpTags.alternate == (row.message == isNew ? history : ""));
         CHECK(world.desktop.opened == std::vector(row.opened.empty() ? 0 : 1, row.opened));
         CHECK(world.dialogs.told == std::vector(row.told.empty() ? 0 : 1, row.told));
         CHECK(world.program->fncts.DrapMenu);

@@ -1,4 +1,4 @@
-#include "platform/MenuBar.h"
+#include "platform/Application.h"
 #include "primes/WinNbresPremiers.h"
 #include "support/TestWorld.h"
 
