@@ -13,160 +13,148 @@
         <extracomment>Not a text: the sign that stands before decimals, &quot;.&quot; or &quot;,&quot;. With &quot;.&quot;, &quot;1,234&quot; is read as 1234.</extracomment>
         <translation>.</translation>
     </message>
-    <message id="Localisation.Acc_BaseArrivee">
-        <source>Base d'arrivée</source>
-        <extracomment>For screen readers.</extracomment>
-        <translation>Destination base</translation>
-    </message>
-    <message id="Localisation.Acc_BaseDepart">
-        <source>Base de départ</source>
-        <extracomment>For screen readers.</extracomment>
-        <translation>Source base</translation>
-    </message>
     <message id="Localisation.Acc_Calcul">
         <source>Calcul en cours</source>
         <extracomment>For screen readers.</extracomment>
         <translation>Calculation under way</translation>
     </message>
-    <message id="Localisation.Acc_CentimePluriel">
-        <source>Centime au pluriel</source>
+    <message id="Localisation.Acc_CheckBoxTrUnion">
+        <source>Traits d'union</source>
         <extracomment>For screen readers.</extracomment>
-        <translation>Hundredth, plural</translation>
-    </message>
-    <message id="Localisation.Acc_CentimeSingulier">
-        <source>Centime au singulier</source>
-        <extracomment>For screen readers.</extracomment>
-        <translation>Hundredth, singular</translation>
+        <translation>Hyphens</translation>
     </message>
     <message id="Localisation.Acc_Copier">
         <source>Copier : ¿%</source>
         <extracomment>For screen readers.</extracomment>
         <translation>Copy: ¿%</translation>
     </message>
-    <message id="Localisation.Acc_DevisePluriel">
-        <source>Devise au pluriel</source>
+    <message id="Localisation.Acc_EdFieldNbNbresLigne">
+        <source>Nombres premiers par ligne du fichier</source>
         <extracomment>For screen readers.</extracomment>
-        <translation>Currency, plural</translation>
+        <translation>Primes per line of the file</translation>
     </message>
-    <message id="Localisation.Acc_DeviseSingulier">
-        <source>Devise au singulier</source>
+    <message id="Localisation.Acc_EditFieldAffAu">
+        <source>Rang du dernier nombre affiché</source>
         <extracomment>For screen readers.</extracomment>
-        <translation>Currency, singular</translation>
+        <translation>Rank of the last prime shown</translation>
     </message>
-    <message id="Localisation.Acc_Facteurs">
-        <source>Facteurs premiers</source>
+    <message id="Localisation.Acc_EditFieldAffDu">
+        <source>Rang du premier nombre affiché</source>
         <extracomment>For screen readers.</extracomment>
-        <translation>Prime factors</translation>
+        <translation>Rank of the first prime shown</translation>
     </message>
-    <message id="Localisation.Acc_LangueLettres">
-        <source>Langue du montant en lettres</source>
+    <message id="Localisation.Acc_EditFieldBaseDest">
+        <source>Nombre en base d'arrivée</source>
         <extracomment>For screen readers.</extracomment>
-        <translation>Language of the amount in words</translation>
+        <translation>Number in the destination base</translation>
     </message>
-    <message id="Localisation.Acc_Lettres">
-        <source>Montant en lettres</source>
+    <message id="Localisation.Acc_EditFieldBaseOrg">
+        <source>Nombre en base de départ</source>
         <extracomment>For screen readers.</extracomment>
-        <translation>Amount in words</translation>
+        <translation>Number in the source base</translation>
     </message>
-    <message id="Localisation.Acc_Limite">
+    <message id="Localisation.Acc_EditFieldCentime">
+        <source>Centime au singulier</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Hundredth, singular</translation>
+    </message>
+    <message id="Localisation.Acc_EditFieldCentimes">
+        <source>Centime au pluriel</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Hundredth, plural</translation>
+    </message>
+    <message id="Localisation.Acc_EditFieldFin">
         <source>Calculer jusqu'à</source>
         <extracomment>For screen readers.</extracomment>
         <translation>Compute up to</translation>
     </message>
-    <message id="Localisation.Acc_ListeNbres">
-        <source>Nombres premiers affichés</source>
+    <message id="Localisation.Acc_EditFieldMonnaie">
+        <source>Devise au singulier</source>
         <extracomment>For screen readers.</extracomment>
-        <translation>Primes shown</translation>
+        <translation>Currency, singular</translation>
+    </message>
+    <message id="Localisation.Acc_EditFieldMonnaies">
+        <source>Devise au pluriel</source>
+        <extracomment>For screen readers.</extracomment>
+        <translation>Currency, plural</translation>
     </message>
     <message id="Localisation.Acc_Nombre">
         <source>Nombre </source>
         <extracomment>For screen readers.</extracomment>
         <translation>Number </translation>
     </message>
-    <message id="Localisation.Acc_NombreArrivee">
-        <source>Nombre en base d'arrivée</source>
+    <message id="Localisation.Acc_PopupMenuBaseDest">
+        <source>Base d'arrivée</source>
         <extracomment>For screen readers.</extracomment>
-        <translation>Number in the destination base</translation>
+        <translation>Destination base</translation>
     </message>
-    <message id="Localisation.Acc_NombreDepart">
-        <source>Nombre en base de départ</source>
+    <message id="Localisation.Acc_PopupMenuBaseOrg">
+        <source>Base de départ</source>
         <extracomment>For screen readers.</extracomment>
-        <translation>Number in the source base</translation>
+        <translation>Source base</translation>
     </message>
-    <message id="Localisation.Acc_ParLigne">
-        <source>Nombres premiers par ligne du fichier</source>
+    <message id="Localisation.Acc_PopupMenuLg">
+        <source>Langue du montant en lettres</source>
         <extracomment>For screen readers.</extracomment>
-        <translation>Primes per line of the file</translation>
+        <translation>Language of the amount in words</translation>
     </message>
-    <message id="Localisation.Acc_RangDernier">
-        <source>Rang du dernier nombre affiché</source>
+    <message id="Localisation.Acc_TxtAreaDecomp1er">
+        <source>Facteurs premiers</source>
         <extracomment>For screen readers.</extracomment>
-        <translation>Rank of the last prime shown</translation>
+        <translation>Prime factors</translation>
     </message>
-    <message id="Localisation.Acc_RangPremier">
-        <source>Rang du premier nombre affiché</source>
+    <message id="Localisation.Acc_TxtAreaLettres">
+        <source>Montant en lettres</source>
         <extracomment>For screen readers.</extracomment>
-        <translation>Rank of the first prime shown</translation>
+        <translation>Amount in words</translation>
     </message>
-    <message id="Localisation.Acc_TraitsUnion">
-        <source>Traits d'union</source>
+    <message id="Localisation.Acc_TxtAreaListeNbres1ers">
+        <source>Nombres premiers affichés</source>
         <extracomment>For screen readers.</extracomment>
-        <translation>Hyphens</translation>
+        <translation>Primes shown</translation>
     </message>
     <message id="Localisation.Acc_VerMaJ">
         <source>Recherche d'une mise à jour</source>
         <extracomment>For screen readers.</extracomment>
         <translation>Looking for an update</translation>
     </message>
-    <message id="Localisation.Alt_BevelButtListe">
-        <source>L</source>
-        <translation>L</translation>
-    </message>
-    <message id="Localisation.Alt_Btn_Annuler">
-        <source>A</source>
-        <translation>C</translation>
-    </message>
-    <message id="Localisation.Alt_Btn_CalcPrems">
-        <source>C</source>
-        <translation>C</translation>
-    </message>
-    <message id="Localisation.Alt_Btn_Decomposer">
-        <source>D</source>
-        <translation>C</translation>
-    </message>
-    <message id="Localisation.Alt_Btn_DejDon">
+    <message id="Localisation.Alt_BevButtDejDon">
         <source>J</source>
         <translation>I</translation>
+    </message>
+    <message id="Localisation.Alt_BevelButtonListe">
+        <source>L</source>
+        <translation>L</translation>
     </message>
     <message id="Localisation.Alt_Btn_FaireDon">
         <source>F</source>
         <translation>M</translation>
     </message>
-    <message id="Localisation.Alt_Btn_Fich">
+    <message id="Localisation.Alt_CheckBoxAnnonces">
         <source>F</source>
-        <translation>F</translation>
+        <translation>A</translation>
     </message>
-    <message id="Localisation.Alt_Btn_Ok">
-        <source>O</source>
-        <translation>O</translation>
+    <message id="Localisation.Alt_CheckBoxAutoUpdt">
+        <source>V</source>
+        <translation>U</translation>
     </message>
-    <message id="Localisation.Alt_ChBoxFormatAuto">
+    <message id="Localisation.Alt_CheckBoxFormatAuto">
         <source>O</source>
         <translation>A</translation>
     </message>
-    <message id="Localisation.Alt_ChBoxMajusc">
+    <message id="Localisation.Alt_CheckBoxMajusc">
         <source>M</source>
         <translation>S</translation>
     </message>
-    <message id="Localisation.Alt_GpBox1">
+    <message id="Localisation.Alt_GroupBox1">
         <source>B</source>
         <translation>B</translation>
     </message>
-    <message id="Localisation.Alt_GpBox2">
+    <message id="Localisation.Alt_GroupBox2">
         <source>P</source>
         <translation>P</translation>
     </message>
-    <message id="Localisation.Alt_GpBox3">
+    <message id="Localisation.Alt_GroupBoxLettre">
         <source>C</source>
         <translation>W</translation>
     </message>
@@ -226,19 +214,31 @@
         <source>E</source>
         <translation>S</translation>
     </message>
-    <message id="Localisation.Alt_Pref_ChBoxAnnonces">
+    <message id="Localisation.Alt_PushButtAnnuler">
+        <source>A</source>
+        <translation>C</translation>
+    </message>
+    <message id="Localisation.Alt_PushButtDecomposer">
+        <source>D</source>
+        <translation>C</translation>
+    </message>
+    <message id="Localisation.Alt_PushButtOk">
+        <source>O</source>
+        <translation>O</translation>
+    </message>
+    <message id="Localisation.Alt_PushButtonCalcPrems">
+        <source>C</source>
+        <translation>C</translation>
+    </message>
+    <message id="Localisation.Alt_PushButtonFichier">
         <source>F</source>
-        <translation>A</translation>
+        <translation>F</translation>
     </message>
-    <message id="Localisation.Alt_Pref_ChBoxAutoUpdt">
-        <source>V</source>
-        <translation>U</translation>
-    </message>
-    <message id="Localisation.Alt_StTextAffAu">
+    <message id="Localisation.Alt_StaticTextAffAu">
         <source>U</source>
         <translation>T</translation>
     </message>
-    <message id="Localisation.Alt_StTextAffDu">
+    <message id="Localisation.Alt_StaticTextAffDu">
         <source>A</source>
         <translation>S</translation>
     </message>

@@ -2,17 +2,13 @@
 
 #include "conversion/BaseConversion.h"
 #include "conversion/NumberEntry.h"
-#include "platform/Controls.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
-#include "platform/TextControls.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"
 #include "ui/NumberField.h"
 #include "ui/Program.h"
 #include "ui/WrittenNumber.h"
-
-#include <utility>
 
 namespace tessarolyne {
 

@@ -15,16 +15,10 @@ namespace tessarolyne {
 
 class App;
 class Calculation;
-class CheckBox;
 class Clock;
 class Decomposition;
 class Fncts;
-class Label;
 class NumberOutput;
-class PopupMenu;
-class RadioButton;
-class TextArea;
-class TextField;
 class Words;
 struct Services;
 

@@ -28,8 +28,8 @@ WinMain::WinMain(Program& owner)
       updateCheck(app, fncts, owner.services, owner.versionFile),
       calculation(fncts, owner.services, primeFile.Nbres_Premiers, CheckBoxFormatAuto) {
     SetInitialState();
-    NameForScreenReaders();
     ExplainControls();
+    NameForScreenReaders();
     GiveAltKeys();
     BindEvents();
     BindSubjects();
@@ -86,38 +86,19 @@ void WinMain::SetInitialState() {
 
 // The captions without words are alike in all languages.
 void WinMain::GiveAltKeys() {
-    GroupBox1.AltKey = Localisation::Alt_GpBox1();
     GroupBox1.AltTarget = &EditFieldBaseOrg;
-    GroupBox2.AltKey = Localisation::Alt_GpBox2();
     GroupBox2.AltTarget = &TxtAreaDecomp1er;
-    GroupBoxLettre.AltKey = Localisation::Alt_GpBox3();
     GroupBoxLettre.AltTarget = &TxtAreaLettres;
     StaticTextEnBase10.AltKey = Localisation::Alt_Txt_EnBase();
     StaticTextEnBase10.AltTarget = &EditFieldNbre;
-    CheckBoxFormatAuto.AltKey = Localisation::Alt_ChBoxFormatAuto();
-    CheckBoxMajusc.AltKey = Localisation::Alt_ChBoxMajusc();
     CheckBoxTrUnion.AltKey = "-";
     RadioButton09AZ[0].AltKey = "0";
     RadioButton09AZ[1].AltKey = "Z";
-    BevelButtonListe.AltKey = Localisation::Alt_BevelButtListe();
-    PushButtDecomposer.AltKey = Localisation::Alt_Btn_Decomposer();
 }
 
-// Only for those that have no caption, or share one with another control of the window.
+// Those whose names are put together.
 void WinMain::NameForScreenReaders() {
     EditFieldNbre.AccessibleName = Localisation::Acc_Nombre() + Localisation::Txt_EnBase() + "10";
-    EditFieldBaseOrg.AccessibleName = Localisation::Acc_NombreDepart();
-    PopupMenuBaseOrg.AccessibleName = Localisation::Acc_BaseDepart();
-    EditFieldBaseDest.AccessibleName = Localisation::Acc_NombreArrivee();
-    PopupMenuBaseDest.AccessibleName = Localisation::Acc_BaseArrivee();
-    TxtAreaDecomp1er.AccessibleName = Localisation::Acc_Facteurs();
-    TxtAreaLettres.AccessibleName = Localisation::Acc_Lettres();
-    PopupMenuLg.AccessibleName = Localisation::Acc_LangueLettres();
-    CheckBoxTrUnion.AccessibleName = Localisation::Acc_TraitsUnion();
-    EditFieldMonnaies.AccessibleName = Localisation::Acc_DevisePluriel();
-    EditFieldMonnaie.AccessibleName = Localisation::Acc_DeviseSingulier();
-    EditFieldCentimes.AccessibleName = Localisation::Acc_CentimePluriel();
-    EditFieldCentime.AccessibleName = Localisation::Acc_CentimeSingulier();
     const std::string copy = fncts.FracTexte(Localisation::Acc_Copier(), 1);
     PushButtonPressPapBOrg.AccessibleName = copy + EditFieldBaseOrg.AccessibleName();
     PushButtonPressPapBDest.AccessibleName = copy + EditFieldBaseDest.AccessibleName();

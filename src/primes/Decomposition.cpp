@@ -1,9 +1,7 @@
 #include "primes/Decomposition.h"
 
-#include "platform/Controls.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
-#include "platform/TextControls.h"
 #include "primes/Calculation.h"
 #include "primes/engine/PrimeTable.h"
 #include "ui/Fncts.h"

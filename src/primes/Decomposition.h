@@ -1,6 +1,6 @@
 #pragma once
 
-#include "platform/Event.h"
+#include "platform/TextControls.h"
 
 #include <cstdint>
 #include <string>
@@ -9,15 +9,9 @@
 namespace tessarolyne {
 
 class Calculation;
-class CheckBox;
 class Fncts;
-class Label;
 class NumberOutput;
 class PrimeTable;
-class ProgressWheel;
-class PushButton;
-class TextArea;
-class TextField;
 
 // The controls of the main window that the factors have to do with.
 struct DecompositionControls {

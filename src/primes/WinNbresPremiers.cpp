@@ -68,18 +68,9 @@ void WinNbresPremiers::SetInitialState() {
     TxtAreaListeNbres1ers.TabColumns = columns;
     PushButtonFichier.Caption = Localisation::Btn_ChoixFich();
 
-    EditFieldFin.AccessibleName = Localisation::Acc_Limite();
-    EditFieldAffDu.AccessibleName = Localisation::Acc_RangPremier();
-    EditFieldAffAu.AccessibleName = Localisation::Acc_RangDernier();
     ProgressWheel2.AccessibleName = Localisation::Acc_Calcul();
-    TxtAreaListeNbres1ers.AccessibleName = Localisation::Acc_ListeNbres();
-    EditFieldNbNbresLigne.AccessibleName = Localisation::Acc_ParLigne();
-    PushButtonCalcPrems.AltKey = Localisation::Alt_Btn_CalcPrems();
-    StaticTextAffDu.AltKey = Localisation::Alt_StTextAffDu();
     StaticTextAffDu.AltTarget = &EditFieldAffDu;
-    StaticTextAffAu.AltKey = Localisation::Alt_StTextAffAu();
     StaticTextAffAu.AltTarget = &EditFieldAffAu;
-    PushButtonFichier.AltKey = Localisation::Alt_Btn_Fich();
 
     EditFieldChercher.AccessibleName = Localisation::Txt_Chercher();
     TxtAreaListeNbres1ers.KeyTag = Localisation::Touches_Liste();

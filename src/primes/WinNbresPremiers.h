@@ -1,6 +1,5 @@
 #pragma once
 
-#include "platform/Controls.h"
 #include "platform/TextControls.h"
 #include "ui/BlockingOverlay.h"
 #include "ui/NumberField.h"
@@ -12,9 +11,7 @@
 
 namespace tessarolyne {
 
-class BevelButton;
 class Calculation;
-class CheckBox;
 class PrimeFileBinding;
 class PrimeTable;
 class Quitting;

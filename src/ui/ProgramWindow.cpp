@@ -44,10 +44,15 @@ void ProgramWindow::ExplainControls() {
         for (const auto& [other, nameOfText] : namesOfTexts) {
             name = other == name ? nameOfText : name;
         }
-        const auto* const found = std::ranges::find(texts, std::string(name) + "_HT", &Text::first);
-        if (found != std::end(texts) && control->HelpTag().empty()) {
-            control->HelpTag = found->second({});
-        }
+        const auto take = [](Property<std::string>& property, const std::string& nameOfText) {
+            const auto* const found = std::ranges::find(texts, nameOfText, &Text::first);
+            if (found != std::end(texts) && property().empty()) {
+                property = found->second({});
+            }
+        };
+        take(control->HelpTag, std::string(name) + "_HT");
+        take(control->AccessibleName, "Acc_" + std::string(name));
+        take(control->AltKey, "Alt_" + std::string(name));
     }
 }
 

@@ -25,9 +25,10 @@ public:
     void EnableControls();
 
 protected:
-    // Gives each control its help tag, one sentence for those who see it for the first time: the text of its
-    // name with "_HT". What a control is given otherwise stands: a tag that tells a state or an address.
-    // Texts that only caption others, and frames, have none.
+    // Gives each control the texts that have its name: with "_HT" its help tag, one sentence for those who
+    // see it for the first time; with "Acc_" what a screen reader calls it, where it has no caption or shares
+    // one; with "Alt_" the letter of its caption that works with Alt. What a control is given otherwise
+    // stands.
     void ExplainControls();
 
     // What stays usable during a calculation, or has a rule of its own.

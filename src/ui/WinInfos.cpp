@@ -12,15 +12,11 @@ constexpr std::uint32_t paleYellow = 0xFFE8B8;
 constexpr int bodyTextSize = 13; // definite, since the prompt's first line is two points larger
 constexpr int titleLarger = 2;
 
-WindowFrame AboutFrame() {
-    WindowFrame frame;
-    frame.kind = WindowFrame::Kind::MovableModal;
-    frame.minimizeButton = false;
-    frame.resizeable = true;
-    frame.minWidth = 300;
-    frame.minHeight = 300;
-    return frame;
-}
+constexpr WindowFrame aboutFrame{.kind = WindowFrame::Kind::MovableModal,
+    .minimizeButton = false,
+    .resizeable = true,
+    .minWidth = 300,
+    .minHeight = 300};
 
 bool IsInside(const Control& control, int x, int y) {
     return x >= 0 && x <= control.Width() && y >= 0 && y <= control.Height();
@@ -29,7 +25,7 @@ bool IsInside(const Control& control, int x, int y) {
 } // namespace
 
 WinInfos::WinInfos(Program& owner)
-    : ModalWindow(owner, Localisation::Menu_AppleApropos(), 430, 480, AboutFrame()) {
+    : ModalWindow(owner, Localisation::Menu_AppleApropos(), 430, 480, aboutFrame) {
     SetInitialState();
     ExplainControls();
     BindLinks();
@@ -67,12 +63,11 @@ void WinInfos::SetInitialState() {
     BevButtDon.HelpTag = donationAddress;
     BevButtDon.Visible = asksForDonations;
     BevButtDejDon.Caption = Localisation::Btn_DejDon();
-    BevButtDejDon.AltKey = Localisation::Alt_Btn_DejDon();
     BevButtDejDon.Visible = false;
     CanvDevLogo.HelpTag = buildToolSite;
     CanvDevLogo.AccessibleName = buildToolSite;
     BoutonOk.Caption = Localisation::Btn_Ok();
-    BoutonOk.AltKey = Localisation::Alt_Btn_Ok();
+    BoutonOk.AltKey = Localisation::Alt_PushButtOk();
     BoutonOk.Default = true;
 }
 

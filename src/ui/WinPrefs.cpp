@@ -10,34 +10,23 @@ namespace tessarolyne {
 namespace {
 
 constexpr int belowMainWindowsTop = 30;
-
-WindowFrame PreferencesFrame() {
-    WindowFrame frame;
-    frame.kind = WindowFrame::Kind::MovableModal;
-    frame.minimizeButton = false;
-    return frame;
-}
+constexpr WindowFrame preferencesFrame{.kind = WindowFrame::Kind::MovableModal, .minimizeButton = false};
 
 } // namespace
 
 WinPrefs::WinPrefs(Program& owner, const Window& mainWindow)
-    : ModalWindow(owner, Localisation::WinPref_Title(), 400, 99, PreferencesFrame()),
-      mainWindow_(mainWindow) {
+    : ModalWindow(owner, Localisation::WinPref_Title(), 400, 99, preferencesFrame), mainWindow_(mainWindow) {
     CheckBoxAutoUpdt.Caption = Localisation::Pref_ChBoxAutoUpdt();
-    CheckBoxAutoUpdt.AltKey = Localisation::Alt_Pref_ChBoxAutoUpdt();
     if (!offersUpdateCheck) {
         CheckBoxAutoUpdt.Visible = false;
         CheckBoxAnnonces.Top = CheckBoxAutoUpdt.Top;
     }
     CheckBoxAnnonces.Caption = Localisation::Pref_ChBoxAnnonces();
     ExplainControls();
-    CheckBoxAnnonces.AltKey = Localisation::Alt_Pref_ChBoxAnnonces();
     PushButtAnnuler.Caption = Localisation::Btn_Annuler();
-    PushButtAnnuler.AltKey = Localisation::Alt_Btn_Annuler();
     PushButtAnnuler.Cancel = true;
     PushButtAnnuler.Action = [this] { EndModal(); };
     PushButtOk.Caption = Localisation::Btn_Ok();
-    PushButtOk.AltKey = Localisation::Alt_Btn_Ok();
     PushButtOk.Default = true;
     PushButtOk.Action = [this] {
         app.AutoCheckUpdt = CheckBoxAutoUpdt.Value;

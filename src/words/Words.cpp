@@ -1,9 +1,7 @@
 #include "words/Words.h"
 
-#include "platform/Controls.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
-#include "platform/TextControls.h"
 #include "ui/Fncts.h"
 #include "ui/Localisation.h"
 #include "ui/NumberField.h"
@@ -25,12 +23,8 @@ Words::Words(const WordsControls& controls, NumberOutput& output, App& app, Fnct
 
 void Words::ConvNbreLettresD() {
     const std::string decimal = WithoutBlanks(EditFieldNbre.Text());
-    if (decimal.empty()) {
-        output_.Write("");
-        return;
-    }
     if (!IsNumeric(decimal)) {
-        output_.Write(Localisation::Txt_ErrNbre());
+        output_.Write(decimal.empty() ? "" : Localisation::Txt_ErrNbre());
         return;
     }
     const double value = CDbl(decimal);

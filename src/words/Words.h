@@ -1,15 +1,12 @@
 #pragma once
 
-#include "platform/Event.h"
+#include "platform/TextControls.h"
 
 namespace tessarolyne {
 
 class App;
-class CheckBox;
 class Fncts;
 class NumberOutput;
-class PopupMenu;
-class TextField;
 
 // The controls of the main window that the words have to do with.
 struct WordsControls {
