@@ -128,4 +128,7 @@ TEST_CASE("The copy button copies the words, or with Option asks before it reset
     CHECK(world.desktop.clipboard == "deux florins zéro centime");
     CHECK(world.sounds.played == std::vector<std::string>{"Bip.wav"});
     CHECK(world.sounds.beeps == 2);
+    window.PopupMenuLg.UserChose(0);
+    world.Type(window.EditFieldNbre, "1000000000");
+    CHECK(window.TxtAreaLettres.Text().starts_with("Vous devez"));
 }

@@ -69,6 +69,7 @@ class SmallWindows(ProgramTestCase):
         self.screen.click(*box.centre)
         self.screen.press("Return")
         self.wait_until_gone("check box", "Vérifier automatiquement")
-        self.screen.press("ctrl+q")
+        self.assertTrue(self.open_preferences().checked)
+        self.screen.press("Escape", "ctrl+q")
         self.assertEqual(self.wait_for_end(), 0)
         self.assertIn("Auto Check Update :@: True", self.preferences_file.read_text())

@@ -88,6 +88,39 @@ TEST_CASE("Several beeps stand apart, and a sound is waited for if it is to be")
     CHECK((world.sounds.played.size() == 2 && !fncts.Zoum.IsPlaying()));
 }
 
+TEST_CASE("A dialog over one window covers the others, which come back uncovered") {
+    TestWorld world;
+    world.Main().BevelButtonListe.UserPressed();
+    const auto covers = [&](const Window& window) {
+        return std::ranges::count_if(window.Controls(), [&](const Control* control) {
+            return control->Name == "LabBlockUI1" && control->Visible() && control->Width == window.Width();
+        });
+    };
+    WinNbresPremiers& list = world.program->winNbresPremiers();
+    world.dialogs.Expect(
+        DialogButton::Action, [&] { CHECK((covers(world.Main()) == 1 && covers(list) == 0)); });
+    world.program->fncts.MyDialogBox("m", "", "Ok", "", "", 0, &list);
+    CHECK(covers(world.Main()) == 0);
+}
+
+TEST_CASE("A link shows the finger, and is followed where the press ends on it") {
+    TestWorld world;
+    WinInfos& about = world.program->winInfos();
+    CHECK((!about.Web1.Visible() && !about.Email1.Visible()));
+    Label& link = about.Email2;
+    link.MouseEnter();
+    CHECK(about.MouseCursor == Cursor::Finger);
+    for (const int x : {-1, 1}) {
+        CHECK(link.MouseDown(1, 1));
+        CHECK(world.desktop.opened.empty());
+        link.MouseUp(x, 1);
+    }
+    CHECK(world.desktop.opened.at(0).starts_with("mailto:author2%40tessarolyne.example?Subject=A%20propos"));
+    link.MouseEnter();
+    link.MouseExit();
+    CHECK(about.MouseCursor == Cursor::Standard);
+}
+
 TEST_CASE("A chooser begins where its item stands, and suggests what fits it") {
     TestWorld world;
     Fncts& fncts = world.program->fncts;

@@ -139,6 +139,12 @@ TEST_CASE("Every number has the words that a plain speller gives it") {
     }
 }
 
+TEST_CASE("A group of more than three digits is reported") {
+    std::string told;
+    CHECK(Century("1000", 0, 0, [&](std::string_view place) { told = place; }) == "### Error ###");
+    CHECK(told.starts_with("Century, hNbre"));
+}
+
 TEST_CASE("Whole millions are joined by d' to a vowel, by de to all else, and other numbers to nothing") {
     for (const char* currency : {"euros", "Euros", "€", "Ares", "yens", "YENS", "ors", "unités", "imi"}) {
         CHECK(French("80001000000", false, currency).ends_with("d'"));
