@@ -59,8 +59,9 @@ class Entry(ProgramTestCase):
                 self.wait_for_focus(name)
 
     def test_keys_with_alt_or_super_are_no_text(self):
-        for name in ("EditFieldNbre", "EditFieldBaseOrg", "EditFieldCentime"):
+        for name, factors in (("EditFieldNbre", "23"), ("EditFieldBaseOrg", "5 x 7"), ("EditFieldCentime", "5 x 7")):
             self.clear(name)
             self.screen.type("2")
             self.screen.press("alt+5", "super+5", "ctrl+alt+1", "Escape", "3")
             self.wait_for_text(name, "23")
+            self.wait_for_text("TxtAreaDecomp1er", factors)  # until then a calculation takes no click
