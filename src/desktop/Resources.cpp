@@ -9,9 +9,6 @@
 #include <QLocale>
 #include <QPainter>
 #include <QPalette>
-#include <QPixmap>
-#include <QPixmapCache>
-#include <QRect>
 #include <QStandardPaths>
 
 namespace tessarolyne {
@@ -22,19 +19,6 @@ namespace {
 // bundle, the top of a build, a folder inside it, and what the build itself has made.
 constexpr const char* places[] = {INSTALLED_DATA "/tessarolyne", INSTALLED_DATA, "../Resources", "resources",
     "../resources", "share/tessarolyne"};
-
-QPixmap Load(const std::string& name) {
-    QPixmap pixmap;
-    const QString key = QLatin1String("tessarolyne/") + ToQt(name);
-    if (!QPixmapCache::find(key, &pixmap)) {
-        const QString path = ResourcePath("pictures/" + name + ".png");
-        if (!path.isEmpty()) {
-            pixmap.load(path);
-        }
-        QPixmapCache::insert(key, pixmap);
-    }
-    return pixmap;
-}
 
 // Of the defaults in the string table.
 constexpr QLatin1String builtInLanguage("fr");
@@ -81,10 +65,7 @@ void DrawPicture(QPainter& painter, const Picture& picture, const QRect& area) {
         painter.fillRect(QRect(area.topLeft(), given), QColor::fromRgb(picture.fill));
         return;
     }
-    const QPixmap pixmap = Load(picture.resource);
-    if (pixmap.isNull()) {
-        return;
-    }
+    const QPixmap pixmap(ResourcePath("pictures/" + picture.resource + ".png")); // Qt caches it
     const QSize size = given.isEmpty() ? pixmap.deviceIndependentSize().toSize() : given;
     painter.setRenderHint(QPainter::SmoothPixmapTransform);
     painter.drawPixmap(QRect(area.topLeft(), size), pixmap);
@@ -111,7 +92,7 @@ QtTranslations::QtTranslations(const QString& folder, const QStringList& wanted)
         }
     }
     chain_ = ChainFor(wanted);
-    System::UseTranslations(this);
+    System::UseTranslations([this](auto key, auto language) { return Find(key, language); });
     const QLocale locale(chain_.empty() ? builtInLanguage : chain_.front());
     const QString qtFolder = QLibraryInfo::path(QLibraryInfo::TranslationsPath);
     if (qtTexts_.load(locale, QStringLiteral("qtbase"), QStringLiteral("_"), qtFolder)) {

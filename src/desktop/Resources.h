@@ -5,7 +5,6 @@
 #include "platform/System.h"
 
 #include <QColor>
-#include <QString>
 #include <QStringList>
 #include <QTranslator>
 #include <map>
@@ -37,18 +36,17 @@ QColor TextColorOn(const Picture& picture, const QPalette& palette);
 // The translations of the program's texts, from compiled Qt catalogues, and Qt's own texts (the file chooser,
 // context menus) in the same language, where they are installed: both are used for as long as it lives. Made
 // after Qt's application object.
-class QtTranslations final : public Translations {
+class QtTranslations final {
 public:
     // The catalogues beside the program, in the languages of the user's desktop.
     QtTranslations();
     // The catalogues "tessarolyne_<language>.qm" of `folder`, for a desktop that wants these languages, in
     // the order of preference, as tags of any spelling ("fr_CH.UTF-8", "en-Latn-GB", "C").
     QtTranslations(const QString& folder, const QStringList& wanted);
-    ~QtTranslations() override { System::UseTranslations(nullptr); }
-
-    std::optional<std::string> Find(std::string_view key, std::string_view language) const override;
+    ~QtTranslations() { System::UseTranslations(nullptr); }
 
 private:
+    std::optional<std::string> Find(std::string_view key, std::string_view language) const;
     // The catalogues of the first wanted language that there is: its region's, where one is told, then its
     // own. None for the language of the built-in texts, in which what they lack is looked up in the end.
     QStringList ChainFor(const QStringList& wanted) const;

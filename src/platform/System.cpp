@@ -1,26 +1,26 @@
 #include "platform/System.h"
 
+#include <utility>
+
 namespace tessarolyne {
 
 namespace {
 
 constexpr std::string_view fallbackMark = "‡";
 
-const Translations* current = nullptr;
+System::FindTranslation findTranslation;
 
 } // namespace
 
 namespace System {
 
-void UseTranslations(const Translations* translations) {
-    current = translations;
+void UseTranslations(FindTranslation find) {
+    findTranslation = std::move(find);
 }
 
 std::string GetLocalizedString(std::string_view key, std::string_view fallback, std::string_view language) {
-    if (current != nullptr) {
-        if (auto text = current->Find(key, language)) {
-            return *text;
-        }
+    if (const auto text = findTranslation ? findTranslation(key, language) : std::nullopt) {
+        return *text;
     }
     if (fallback.starts_with(fallbackMark)) {
         fallback.remove_prefix(fallbackMark.size());
