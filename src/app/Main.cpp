@@ -14,8 +14,7 @@ using namespace tessarolyne;
 
 int main(int count, char** arguments) {
     const std::span<const char* const> all(arguments, static_cast<std::size_t>(count));
-    const auto options = all.subspan(all.empty() ? 0 : 1);
-    if (const auto status = AnswerCommandLine(options, std::cout, std::cerr)) {
+    if (const auto status = AnswerCommandLine(all.subspan(all.empty() ? 0 : 1), std::cout, std::cerr)) {
         return *status;
     }
 
@@ -24,7 +23,7 @@ int main(int count, char** arguments) {
     SystemMemory memory;
     Signals endSignals;
 
-    QtApplication desktop("Tessarolyne", applicationIdentifier, options);
+    QtApplication desktop("Tessarolyne", applicationIdentifier, count, arguments);
     const QtTranslations translations;
     QtServices services(files);
     Services world = services.With(clock, files, memory);

@@ -4,7 +4,6 @@
 #include "desktop/Resources.h"
 #include "desktop/TextEdits.h"
 
-#include <QEvent>
 #include <QIcon>
 #include <QSessionManager>
 #include <QSocketNotifier>
@@ -17,12 +16,14 @@ namespace tessarolyne {
 
 namespace {
 
+constexpr const char* platformVariable = "QT_QPA_PLATFORM";
+const QByteArray chosenPlatform = qgetenv(platformVariable);
+
 // The session's own first; the other may be there all the same, or its plugin alone.
 QByteArray Platforms() {
-    const QByteArray chosen = qgetenv("QT_QPA_PLATFORM");
     const bool isWayland =
         !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") || qgetenv("XDG_SESSION_TYPE") == "wayland";
-    return !chosen.isEmpty() ? chosen : isWayland ? "wayland;xcb" : "xcb;wayland";
+    return !chosenPlatform.isEmpty() ? chosenPlatform : isWayland ? "wayland;xcb" : "xcb;wayland";
 }
 
 // Qt tells each display that it doesn't find, and where none is left it aborts, which leaves a core.
@@ -39,24 +40,21 @@ void TellMissingDisplay(QtMsgType type, const QMessageLogContext& context, const
     }
 }
 
-} // namespace
-
-detail::QtArguments::QtArguments(std::span<const char* const> more) : texts{"tessarolyne"} {
+// Tells Qt which to look for, and hears what it says of that.
+int& LookForDisplay(int& count) {
 #ifdef Q_OS_LINUX
-    texts.insert(texts.end(), {"-platform", Platforms().toStdString()});
+    qputenv(platformVariable, Platforms());
 #endif
     qInstallMessageHandler(TellMissingDisplay);
-    texts.insert(texts.end(), more.begin(), more.end());
-    for (std::string& text : texts) {
-        pointers.push_back(text.data());
-    }
-    pointers.push_back(nullptr);
-    count = static_cast<int>(texts.size());
+    return count;
 }
 
+} // namespace
+
 QtApplication::QtApplication(
-    const std::string& name, const std::string& identifier, std::span<const char* const> options)
-    : QtArguments(options), QApplication(count, pointers.data()) {
+    const std::string& name, const std::string& identifier, int& count, char** arguments)
+    : QApplication(LookForDisplay(count), arguments) {
+    qputenv(platformVariable, chosenPlatform); // for the programs that this one starts
     qInstallMessageHandler(nullptr);
     setLayoutDirection(Qt::LeftToRight); // as all numbers and all texts are, on every desktop
     setApplicationName(ToQt(name));

@@ -6,30 +6,17 @@
 #include <QApplication>
 
 #include <functional>
-#include <span>
 #include <string>
-#include <vector>
 
 namespace tessarolyne {
-
-namespace detail {
-// The arguments that Qt is started with; made before QApplication, which keeps references to them.
-struct QtArguments {
-    explicit QtArguments(std::span<const char* const> more);
-    std::vector<std::string> texts;
-    std::vector<char*> pointers;
-    int count = 0;
-};
-} // namespace detail
 
 // Qt's application object, set up for this program: the session's display, X or Wayland, from left to right,
 // no quit of its own, and the desktop's requests handed on. Made first thing in main(), after nothing but the
 // machine. Where there is no display it ends the process with one line and status 1.
-class QtApplication final : private detail::QtArguments, public QApplication {
+class QtApplication final : public QApplication {
 public:
-    // `identifier` is the reverse domain name of the desktop entry. `options` are for Qt: the X session's.
-    QtApplication(
-        const std::string& name, const std::string& identifier, std::span<const char* const> options = {});
+    // `identifier` is the reverse domain name of the desktop entry. Qt keeps references to the command line.
+    QtApplication(const std::string& name, const std::string& identifier, int& count, char** arguments);
 
     // Calls back on the main thread whenever the descriptor can be read; for signals of the machine.
     void WatchDescriptor(int descriptor, std::function<void()> readable);
