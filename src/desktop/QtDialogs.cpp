@@ -7,36 +7,26 @@
 #include <QDialogButtonBox>
 #include <QFile>
 #include <QFileDialog>
-#include <QFontMetrics>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QMessageBox>
 #include <QPushButton>
 #include <QScreen>
 #include <QStyle>
-#include <QTextCursor>
 #include <QVBoxLayout>
 #include <algorithm>
+#include <cmath>
+#include <memory>
 
 namespace tessarolyne {
 
 namespace {
 
 constexpr int textWidth = 420;
-constexpr int textMargins = 12;
 constexpr int scrollBar = 18; // Qt shows it first, and then keeps it if the text beside it needs it
 
 // A screen reader gets as much as it can be asked to read out at once.
 constexpr qsizetype longestName = 2000;
-
-// The height of the text in the font, wrapped at words; anywhere only where that takes more.
-int HeightOf(const QString& text, const QFont& font) {
-    const QRect space(0, 0, textWidth - textMargins - scrollBar, QWIDGETSIZE_MAX);
-    const auto height = [&](int flags) {
-        return QFontMetrics(font).boundingRect(space, flags, text).height();
-    };
-    return text.isEmpty() ? 0 : std::max(height(Qt::TextWordWrap), height(Qt::TextWrapAnywhere));
-}
 
 // The caption with the first of its letters that no button before it has, to be pressed with Alt. Which
 // captions meet in a dialog is only known when it comes up.
@@ -74,108 +64,100 @@ protected:
 // drop something.
 class MessageView final : public QDialog {
 public:
-    MessageView(const MessageDialog& dialog, QWidget* parent);
+    MessageView(const MessageDialog& dialog, QWidget* parent) : QDialog(parent) {
+        // Read out as it comes up, and then the button that has the focus.
+        setAccessibleName(VisibleText(dialog.message).trimmed().left(longestName));
+        setAccessibleDescription(VisibleText(dialog.explanation).left(longestName));
+        auto* const upper = new QHBoxLayout;
+        upper->addWidget(MakeIcon(dialog.icon), 0, Qt::AlignTop);
+        upper->addWidget(MakeText(dialog), 1);
+        auto* const all = new QVBoxLayout(this);
+        all->addLayout(upper, 1);
+        all->addWidget(MakeButtons(dialog));
+        all->setSizeConstraint(QLayout::SetFixedSize);
+    }
 
 protected:
-    void showEvent(QShowEvent* event) override;
+    void showEvent(QShowEvent* event) override {
+        QDialog::showEvent(event);
+        action_->setFocus(Qt::OtherFocusReason);
+        QAccessibleEvent alert(this, QAccessible::Alert);
+        QAccessible::updateAccessibility(&alert);
+    }
 
 private:
-    QWidget* MakeIcon(int icon);
-    QPlainTextEdit* MakeText(const MessageDialog& dialog);
-    QWidget* MakeButtons(const MessageDialog& dialog);
+    QWidget* MakeIcon(int icon) {
+        auto* const label = new QLabel(this);
+        const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
+        const auto kind = icon == 0 ? QStyle::SP_MessageBoxInformation : QStyle::SP_MessageBoxWarning;
+        label->setPixmap(
+            style()->standardIcon(kind, nullptr, this).pixmap(QSize(size, size), devicePixelRatio()));
+        return label;
+    }
+
+    QPlainTextEdit* MakeText(const MessageDialog& dialog) {
+        auto* const edit = new PlainEdit(this);
+        edit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
+        edit->setFocusPolicy(Qt::StrongFocus);
+        edit->setTabChangesFocus(true);
+        edit->setFrameShape(QFrame::NoFrame);
+        edit->viewport()->setAutoFillBackground(false);
+        edit->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
+        edit->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+
+        const QString message = VisibleText(dialog.message);
+        const QString explanation = VisibleText(dialog.explanation);
+        QTextCursor cursor(edit->document());
+        QTextCharFormat format;
+        format.setFontWeight(explanation.isEmpty() ? QFont::Normal : QFont::Bold);
+        cursor.insertText(message, format);
+        if (!explanation.isEmpty()) {
+            cursor.insertText(QLatin1String("\n\n") + explanation, QTextCharFormat());
+        }
+        edit->setAccessibleName((message + u'\n' + explanation).trimmed().left(longestName));
+
+        // Laid out beforehand, since the edit itself counts in lines; without the margin more it would
+        // scroll.
+        const std::unique_ptr<QTextDocument> sheet(edit->document()->clone());
+        sheet->setTextWidth(textWidth - scrollBar);
+        const int height = static_cast<int>(std::ceil(sheet->size().height() + sheet->documentMargin()));
+        edit->setFixedSize(textWidth, std::min(height, screen()->availableSize().height() / 2));
+        return edit;
+    }
+
+    QWidget* MakeButtons(const MessageDialog& dialog) {
+        auto* const box = new QDialogButtonBox(this);
+        QString taken;
+        const struct {
+            const std::string &caption, &helpTag;
+            QDialogButtonBox::ButtonRole role;
+            DialogButton answer;
+        } buttons[] = {{dialog.actionCaption, dialog.helpTags.action, QDialogButtonBox::AcceptRole,
+                           DialogButton::Action},
+            {dialog.cancelCaption, dialog.helpTags.cancel, QDialogButtonBox::RejectRole,
+                DialogButton::Cancel},
+            {dialog.alternateCaption, dialog.helpTags.alternate, QDialogButtonBox::DestructiveRole,
+                DialogButton::Alternate}};
+        for (const auto& [caption, helpTag, role, answer] : buttons) {
+            if (caption.empty() && answer != DialogButton::Action) {
+                continue;
+            }
+            auto* const button = caption.empty() ? box->addButton(QDialogButtonBox::Ok)
+                                                 : box->addButton(WithFreeLetter(caption, taken), role);
+            button->setAutoDefault(false); // Return belongs to the action button alone
+            const QString tag = VisibleText(helpTag);
+            button->setToolTip(PlainToolTip(FromQt(tag)));
+            button->setAccessibleDescription(tag); // else Qt reads out the tool tip's markup
+            connect(button, &QPushButton::clicked, this,
+                [this, result = static_cast<int>(answer)] { done(result); });
+            action_ = action_ == nullptr ? button : action_;
+        }
+        action_->setDefault(true);
+        return box;
+    }
 
     QPushButton* action_ = nullptr;
 };
-
-MessageView::MessageView(const MessageDialog& dialog, QWidget* parent) : QDialog(parent) {
-    // Read out as it comes up, and then the button that has the focus.
-    setAccessibleName(VisibleText(dialog.message).trimmed().left(longestName));
-    setAccessibleDescription(VisibleText(dialog.explanation).left(longestName));
-    auto* const upper = new QHBoxLayout;
-    upper->addWidget(MakeIcon(dialog.icon), 0, Qt::AlignTop);
-    upper->addWidget(MakeText(dialog), 1);
-    auto* const all = new QVBoxLayout(this);
-    all->addLayout(upper, 1);
-    all->addWidget(MakeButtons(dialog));
-    all->setSizeConstraint(QLayout::SetFixedSize);
-}
-
-QWidget* MessageView::MakeIcon(int icon) {
-    auto* const label = new QLabel(this);
-    const int size = style()->pixelMetric(QStyle::PM_MessageBoxIconSize, nullptr, this);
-    const auto kind = icon == 0 ? QStyle::SP_MessageBoxInformation : QStyle::SP_MessageBoxWarning;
-    label->setPixmap(
-        style()->standardIcon(kind, nullptr, this).pixmap(QSize(size, size), devicePixelRatio()));
-    return label;
-}
-
-QPlainTextEdit* MessageView::MakeText(const MessageDialog& dialog) {
-    auto* const edit = new PlainEdit(this);
-    edit->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
-    edit->setFocusPolicy(Qt::StrongFocus);
-    edit->setTabChangesFocus(true);
-    edit->setFrameShape(QFrame::NoFrame);
-    edit->viewport()->setAutoFillBackground(false);
-    edit->setWordWrapMode(QTextOption::WrapAtWordBoundaryOrAnywhere);
-    edit->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
-
-    const QString message = VisibleText(dialog.message);
-    const QString explanation = VisibleText(dialog.explanation);
-    QTextCursor cursor(edit->document());
-    QTextCharFormat format;
-    format.setFontWeight(explanation.isEmpty() ? QFont::Normal : QFont::Bold);
-    cursor.insertText(message, format);
-    if (!explanation.isEmpty()) {
-        cursor.insertText(QLatin1String("\n\n") + explanation, QTextCharFormat());
-    }
-    edit->setAccessibleName((message + u'\n' + explanation).trimmed().left(longestName));
-
-    edit->setFixedWidth(textWidth);
-    QFont messageFont = edit->font();
-    messageFont.setWeight(static_cast<QFont::Weight>(format.fontWeight()));
-    const int height = HeightOf(message, messageFont) + HeightOf(explanation, edit->font()) +
-                       (explanation.isEmpty() ? 0 : edit->fontMetrics().lineSpacing());
-    const int rounding = height / 20; // the view rounds the height of each line up
-    edit->setFixedHeight(std::min(height + rounding + textMargins, screen()->availableSize().height() / 2));
-    return edit;
-}
-
-QWidget* MessageView::MakeButtons(const MessageDialog& dialog) {
-    auto* const box = new QDialogButtonBox(this);
-    QString taken;
-    const struct {
-        const std::string &caption, &helpTag;
-        QDialogButtonBox::ButtonRole role;
-        DialogButton answer;
-    } buttons[] = {
-        {dialog.actionCaption, dialog.helpTags.action, QDialogButtonBox::AcceptRole, DialogButton::Action},
-        {dialog.cancelCaption, dialog.helpTags.cancel, QDialogButtonBox::RejectRole, DialogButton::Cancel},
-        {dialog.alternateCaption, dialog.helpTags.alternate, QDialogButtonBox::DestructiveRole,
-            DialogButton::Alternate}};
-    for (const auto& [caption, helpTag, role, answer] : buttons) {
-        if (caption.empty() && answer != DialogButton::Action) {
-            continue;
-        }
-        auto* const button = caption.empty() ? box->addButton(QDialogButtonBox::Ok)
-                                             : box->addButton(WithFreeLetter(caption, taken), role);
-        button->setAutoDefault(false); // Return belongs to the action button alone
-        const QString tag = VisibleText(helpTag);
-        button->setToolTip(PlainToolTip(FromQt(tag)));
-        button->setAccessibleDescription(tag); // else Qt reads out the tool tip's markup
-        connect(
-            button, &QPushButton::clicked, this, [this, result = static_cast<int>(answer)] { done(result); });
-        action_ = action_ == nullptr ? button : action_;
-    }
-    action_->setDefault(true);
-    return box;
-}
-
-void MessageView::showEvent(QShowEvent* event) {
-    QDialog::showEvent(event);
-    action_->setFocus(Qt::OtherFocusReason);
-    QAccessibleEvent alert(this, QAccessible::Alert);
-    QAccessible::updateAccessibility(&alert);
-}
 
 } // namespace
 
