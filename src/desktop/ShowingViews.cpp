@@ -3,22 +3,16 @@
 #include "desktop/Resources.h"
 #include "platform/Controls.h"
 
-#include <QAccessible>
 #include <QAccessibleWidget>
 #include <QApplication>
 #include <QBasicTimer>
-#include <QCursor>
 #include <QFontInfo>
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
-#include <QMetaObject>
-#include <QMouseEvent>
-#include <QPainter>
 #include <QProgressBar>
 #include <QStyleOptionFocusRect>
 #include <QStylePainter>
-#include <QTimerEvent>
 #include <QToolTip>
 #include <algorithm>
 #include <functional>
@@ -48,13 +42,6 @@ private:
     const std::function<void()> press_;
 };
 
-bool IsOverlay(const Label& label) {
-    return label.IsOverlay;
-}
-bool IsOverlay(const Canvas&) {
-    return false;
-}
-
 // Gives a widget class the mouse of a model that has MouseDown, MouseUp, MouseEnter and MouseExit: a press
 // that the model takes is followed by its release. With the focus, Space and Return are a press in place.
 template <typename Base, typename Model>
@@ -78,8 +65,7 @@ protected:
     void mousePressEvent(QMouseEvent* event) override {
         const QPoint at = event->position().toPoint();
         pressed_ = event->button() == Qt::LeftButton && model_.UserPressed(at.x(), at.y());
-        // An overlay keeps its presses to itself, also those that the model doesn't follow.
-        event->setAccepted(pressed_ || IsOverlay(model_));
+        event->setAccepted(pressed_);
     }
     void mouseReleaseEvent(QMouseEvent* event) override {
         const QPoint at = event->position().toPoint();
@@ -175,6 +161,8 @@ private:
         widget_->setFont(font);
         widget_->setForegroundRole(model_.IsLink ? QPalette::Link : QPalette::NoRole);
         widget_->setText(text);
+        // An overlay keeps its presses to itself, also those that the model doesn't follow.
+        widget_->setAttribute(Qt::WA_NoMousePropagation, model_.IsOverlay);
         if (model_.IsOverlay && model_.Visible) {
             widget_->raise();
         }
@@ -199,26 +187,25 @@ private:
     }
 };
 
-class ProgressBarView final : public View<ProgressBar, QProgressBar> {
+// The share of what is to come; a screen reader reads it as that of a progress bar.
+template <typename Model, typename Widget>
+class ProgressView : public View<Model, Widget> {
 public:
-    ProgressBarView(ProgressBar& model, QWidget* parent) : View(model, new QProgressBar(parent)) {
-        widget_->setTextVisible(false);
+    ProgressView(Model& model, QWidget* parent) : View<Model, Widget>(model, new Widget(parent)) {
+        this->widget_->setTextVisible(false);
     }
 
-private:
+protected:
     void Read() override {
-        constexpr int steps = 1000; // the model counts further than Qt's int
-        const std::int64_t maximum = model_.Maximum;
-        if (maximum <= 0) {
-            widget_->setRange(0, 0);
-            return;
-        }
-        const double share =
-            std::clamp(static_cast<double>(model_.Value()) / static_cast<double>(maximum), 0.0, 1.0);
-        widget_->setRange(0, steps);
-        widget_->setValue(static_cast<int>(share * steps));
+        const auto maximum = static_cast<double>(this->model_.Maximum());
+        const int steps = maximum > 0 ? 1000 : 0; // the model counts further than Qt's int
+        const double share = static_cast<double>(this->model_.Value()) / std::max(maximum, 1.0);
+        this->widget_->setRange(0, steps);
+        this->widget_->setValue(static_cast<int>(std::clamp(share, 0.0, 1.0) * steps));
     }
 };
+
+using ProgressBarView = ProgressView<ProgressBar, QProgressBar>;
 
 class CanvasView final : public View<Canvas, CanvasWidget> {
 public:
@@ -228,30 +215,9 @@ private:
     void Read() override { widget_->update(); }
 };
 
-class WheelAccess final : public QAccessibleWidget, public QAccessibleValueInterface {
+class WheelWidget final : public QProgressBar {
 public:
-    WheelAccess(QWidget& wheel, const ProgressWheel& model)
-        : QAccessibleWidget(&wheel, QAccessible::ProgressBar), model_(model) {}
-
-    void* interface_cast(QAccessible::InterfaceType type) override {
-        return type == QAccessible::ValueInterface ? static_cast<QAccessibleValueInterface*>(this)
-                                                   : QAccessibleWidget::interface_cast(type);
-    }
-    QVariant currentValue() const override { return QVariant::fromValue<qint64>(model_.Value); }
-    void setCurrentValue(const QVariant&) override {}
-    QVariant maximumValue() const override { return QVariant::fromValue<qint64>(model_.Maximum); }
-    QVariant minimumValue() const override { return 0; }
-    QVariant minimumStepSize() const override { return 0; }
-
-private:
-    const ProgressWheel& model_;
-};
-
-class WheelWidget final : public QWidget, public HasAccess {
-public:
-    WheelWidget(const ProgressWheel& model, QWidget* parent) : QWidget(parent), model_(model) {}
-
-    QAccessibleInterface* MakeAccess() override { return new WheelAccess(*this, model_); }
+    using QProgressBar::QProgressBar;
 
 protected:
     void showEvent(QShowEvent*) override {
@@ -285,32 +251,25 @@ protected:
 private:
     static constexpr int spokes = 12;
     static constexpr int turnPeriod = 80; // milliseconds a spoke
-    const ProgressWheel& model_;
     QBasicTimer timer_;
     int turn_ = 0;
 };
 
 // Spokes that turn; the timer runs only while they can be seen. To a screen reader it is a progress bar,
 // which it speaks of by itself, as often as its user likes.
-class WheelView final : public View<ProgressWheel, WheelWidget> {
+class WheelView final : public ProgressView<ProgressWheel, WheelWidget> {
 public:
-    WheelView(ProgressWheel& model, QWidget* parent) : View(model, new WheelWidget(model, parent)) {}
+    using ProgressView::ProgressView;
 
 private:
     void Read() override {
-        if (toldValue_ != model_.Value) {
-            toldValue_ = model_.Value;
-            QAccessibleValueChangeEvent event(widget_, QVariant::fromValue<qint64>(toldValue_));
-            QAccessible::updateAccessibility(&event);
-        }
+        ProgressView::Read();
         // A help tag that is up follows what goes on.
         if (widget_->underMouse() && QToolTip::isVisible()) {
             QToolTip::showText(QCursor::pos(), widget_->toolTip(), widget_);
         }
     }
     std::string Description() const override { return model_.Spoken; }
-
-    std::int64_t toldValue_ = 0;
 };
 
 } // namespace
