@@ -1,11 +1,11 @@
 #include "desktop/ControlView.h"
 #include "desktop/QtText.h"
 #include "desktop/Resources.h"
+#include "desktop/WindowFocus.h"
 #include "platform/Controls.h"
 #include "platform/Window.h"
 
 #include <QAbstractItemView>
-#include <QAccessible>
 #include <QAccessibleWidget>
 #include <QCheckBox>
 #include <QComboBox>
@@ -14,7 +14,6 @@
 #include <QRadioButton>
 #include <QStyleOptionButton>
 #include <QStylePainter>
-#include <QWheelEvent>
 #include <algorithm>
 #include <functional>
 #include <utility>
@@ -162,22 +161,15 @@ public:
         if (!forward && key != Qt::Key_Left && key != Qt::Key_Up) {
             return false;
         }
-        std::vector<RadioButton*> group;
-        for (Control* control : model_.GetWindow().Controls()) {
-            auto* other = dynamic_cast<RadioButton*>(control);
-            if (other != nullptr && other->Parent() == model_.Parent() && other->Enabled() &&
-                other->Visible()) {
-                group.push_back(other);
-            }
+        const auto isOfGroup = [this](const Control& other) {
+            return dynamic_cast<const RadioButton*>(&other) != nullptr && other.Parent() == model_.Parent();
+        };
+        auto* const next =
+            static_cast<RadioButton*>(NextUsable(model_.GetWindow().Controls(), &model_, forward, isOfGroup));
+        if (next != nullptr) {
+            next->UserFocused();
+            next->UserPressed();
         }
-        const auto self = std::find(group.begin(), group.end(), &model_);
-        if (self == group.end()) {
-            return true;
-        }
-        const auto at = static_cast<std::size_t>(self - group.begin());
-        RadioButton* const next = group[(at + (forward ? 1 : group.size() - 1)) % group.size()];
-        next->UserFocused();
-        next->UserPressed();
         return true;
     }
 

@@ -6,12 +6,8 @@
 #include "platform/Window.h"
 
 #include <QAbstractScrollArea>
-#include <QFocusEvent>
-#include <QInputMethodEvent>
 #include <QKeyEvent>
 #include <QMenuBar>
-#include <QMetaObject>
-#include <QVariant>
 
 #include <algorithm>
 
@@ -206,25 +202,32 @@ bool WindowFocus::ButtonKey(int key) {
 }
 
 void WindowFocus::Step(bool stopsOnly, bool forward) {
-    const auto order = stopsOnly ? window_.TabOrder(false) : window_.SightOrder();
+    Control* const next = NextUsable(stopsOnly ? window_.TabOrder(false) : window_.SightOrder(),
+        window_.Focus(), forward, [=](const Control& control) { return control.IsTabStop() || !stopsOnly; });
+    if (next != nullptr) {
+        top_.setAttribute(Qt::WA_KeyboardFocusChange); // styles then draw the focus
+        if (ControlView* view = find_(next)) {
+            view->AboutToFocusByKey();
+        }
+        next->UserFocused();
+    }
+}
+
+Control* NextUsable(const std::vector<Control*>& order, const Control* from, bool forward,
+    const std::function<bool(const Control&)>& counts) {
     const auto count = order.size();
-    const auto focus = std::find(order.begin(), order.end(), window_.Focus());
-    // With no focus yet, the first step arrives at the first control, or backwards at the last.
-    std::size_t at = focus != order.end() ? static_cast<std::size_t>(focus - order.begin())
+    const auto found = std::ranges::find(order, from);
+    // From outside of them, the first step arrives at the first, or backwards at the last.
+    std::size_t at = found != order.end() ? static_cast<std::size_t>(found - order.begin())
                      : forward            ? count - 1
                                           : 0;
     for (std::size_t steps = 0; steps < count; ++steps) {
         at = (at + (forward ? 1 : count - 1)) % count;
-        Control* const control = order[at];
-        if (CanBeUsed(*control) && (control->IsTabStop() || !stopsOnly)) {
-            top_.setAttribute(Qt::WA_KeyboardFocusChange); // styles then draw the focus
-            if (ControlView* view = find_(control)) {
-                view->AboutToFocusByKey();
-            }
-            control->UserFocused();
-            return;
+        if (CanBeUsed(*order[at]) && counts(*order[at])) {
+            return order[at];
         }
     }
+    return nullptr;
 }
 
 } // namespace tessarolyne

@@ -4,6 +4,7 @@
 
 #include <functional>
 #include <string>
+#include <vector>
 
 class QFocusEvent;
 class QInputMethodEvent;
@@ -15,6 +16,11 @@ namespace tessarolyne {
 class Control;
 class ControlView;
 class Window;
+
+// The control after `from` in the order, or backwards the one before, that can be used now and counts; round
+// its ends, so that it may be `from` again. Null if there is none.
+Control* NextUsable(const std::vector<Control*>& order, const Control* from, bool forward,
+    const std::function<bool(const Control&)>& counts);
 
 // The keys and the focus of one window. The model says which control has the focus, and Qt follows: a control
 // that is disabled keeps the program's focus though Qt must take it away for the time, and a menu, a popup or
