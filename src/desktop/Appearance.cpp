@@ -2,18 +2,12 @@
 
 #include <QAbstractScrollArea>
 #include <QApplication>
-#include <QColor>
 #include <QDBusConnection>
-#include <QDBusMessage>
-#include <QDBusPendingCallWatcher>
 #include <QDBusPendingReply>
 #include <QDBusVariant>
 #include <QFileInfo>
 #include <QPainter>
-#include <QPalette>
-#include <QStyle>
 #include <QStyleOptionButton>
-#include <QStyleOptionFrame>
 
 namespace tessarolyne {
 
@@ -36,30 +30,6 @@ Option WithOutline(const Option& option) {
     outlined.palette.setColor(QPalette::Window, Mixed(window, text, towardsText));
     return outlined;
 }
-
-// Fusion draws the frame of an area around the middle of its lines, half of them outside of the widget. Where
-// a point is not a whole number of pixels, the half that is left may be less than one, and nothing is seen.
-class WholeLines {
-public:
-    WholeLines(QPainter* painter, const QWidget* widget)
-        : painter_(painter->device()->devicePixelRatioF() > 1 &&
-                           qobject_cast<const QAbstractScrollArea*>(widget) != nullptr
-                       ? painter
-                       : nullptr) {
-        Shift(0.5);
-    }
-    ~WholeLines() { Shift(-0.5); }
-    WholeLines(const WholeLines&) = delete;
-    WholeLines& operator=(const WholeLines&) = delete;
-
-private:
-    void Shift(qreal points) {
-        if (painter_ != nullptr) {
-            painter_->translate(points, points);
-        }
-    }
-    QPainter* const painter_;
-};
 
 // The settings portal,
 // https://flatpak.github.io/xdg-desktop-portal/docs/doc-org.freedesktop.portal.Settings.html
@@ -118,7 +88,14 @@ void OutlinedStyle::drawPrimitive(
     const auto* const button = qstyleoption_cast<const QStyleOptionButton*>(option);
     const auto* const frame = qstyleoption_cast<const QStyleOptionFrame*>(option);
     const bool dark = IsDark(option->palette);
-    const WholeLines whole(painter, element == PE_Frame ? widget : nullptr);
+    painter->save();
+    // Fusion draws the frame of an area around the middle of its lines, half of them outside of the widget.
+    // Where a point is not a whole number of pixels, the half that is left may be less than one, and nothing
+    // is seen.
+    if (element == PE_Frame && painter->device()->devicePixelRatioF() > 1 &&
+        qobject_cast<const QAbstractScrollArea*>(widget) != nullptr) {
+        painter->translate(0.5, 0.5);
+    }
     if (dark && button != nullptr &&
         (element == PE_IndicatorCheckBox || element == PE_IndicatorRadioButton)) {
         const auto outlined = WithOutline(*button);
@@ -129,6 +106,7 @@ void OutlinedStyle::drawPrimitive(
     } else {
         QProxyStyle::drawPrimitive(element, option, painter, widget);
     }
+    painter->restore();
 }
 
 ColorScheme::ColorScheme() {
@@ -141,8 +119,6 @@ ColorScheme::ColorScheme() {
         {appearance, colorScheme}, QString(), &changed_, SLOT(start()));
     Ask();
 }
-
-ColorScheme::~ColorScheme() = default;
 
 void ColorScheme::Ask() {
     QDBusMessage question =

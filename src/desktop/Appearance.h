@@ -1,11 +1,11 @@
 #pragma once
 
 #include <QColor>
+#include <QDBusPendingCallWatcher>
 #include <QProxyStyle>
 #include <QTimer>
 #include <memory>
 
-class QDBusPendingCallWatcher;
 namespace tessarolyne {
 
 // The colour that lies as far as `share`, 0 to 1, from one to the other.
@@ -30,9 +30,6 @@ public:
 class ColorScheme final {
 public:
     ColorScheme();
-    ~ColorScheme();
-    ColorScheme(const ColorScheme&) = delete;
-    ColorScheme& operator=(const ColorScheme&) = delete;
 
 private:
     void Ask();

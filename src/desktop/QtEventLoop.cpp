@@ -2,10 +2,8 @@
 
 #include <QAbstractEventDispatcher>
 #include <QCoreApplication>
-#include <QEvent>
 #include <QEventLoop>
 #include <QKeyEvent>
-#include <QTimer>
 
 #include <chrono>
 

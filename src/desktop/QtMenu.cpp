@@ -3,9 +3,7 @@
 #include "desktop/WindowView.h"
 #include "platform/Application.h"
 
-#include <QAction>
 #include <QApplication>
-#include <QKeySequence>
 #include <QMenu>
 #include <QShortcut>
 

@@ -3,11 +3,10 @@
 #include "platform/Text.h"
 
 #include <QApplication>
-#include <QChar>
 #include <QFontInfo>
 #include <QFontMetrics>
 #include <QKeyEvent>
-#include <QList>
+#include <QRegularExpression>
 #include <QWidget>
 
 #include <algorithm>
@@ -35,19 +34,10 @@ Reached Walk(const std::string& text, Stop stop) {
 }
 
 // An address has no blank to be broken at, and may be longer than the screen is wide.
-QString WithLongRunsBroken(const QString& text) {
-    constexpr qsizetype longestRun = 80;
-    QString broken;
-    qsizetype run = 0;
-    for (const QChar unit : text) {
-        if (run >= longestRun && !unit.isLowSurrogate()) {
-            broken += u'\n';
-            run = 0;
-        }
-        broken += unit;
-        run = unit.isSpace() ? 0 : run + 1;
-    }
-    return broken;
+QString WithLongRunsBroken(QString text) {
+    static const QRegularExpression longRun(
+        QStringLiteral("(\\S{80})(?=\\S)"), QRegularExpression::UseUnicodePropertiesOption);
+    return text.replace(longRun, QStringLiteral("\\1\n"));
 }
 
 struct KeyOfModels {

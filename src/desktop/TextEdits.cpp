@@ -4,20 +4,14 @@
 #include "desktop/ControlView.h"
 #include "desktop/QtText.h"
 
-#include <QAccessible>
 #include <QAccessibleWidget>
-#include <QAction>
 #include <QApplication>
 #include <QClipboard>
-#include <QContextMenuEvent>
 #include <QFontMetrics>
-#include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
 #include <QMenu>
 #include <QMimeData>
-#include <QMouseEvent>
-#include <QStringView>
 #include <QTextDocumentFragment>
 #include <algorithm>
 #include <iterator>
@@ -88,22 +82,13 @@ public:
     int cursorPosition() const override { return line_.cursorPosition(); }
     void setCursorPosition(int position) override { line_.setCursorPosition(position); }
     int selectionCount() const override { return line_.hasSelectedText() ? 1 : 0; }
-    void selection(int index, int* start, int* end) const override {
-        const bool found = index == 0 && line_.hasSelectedText();
-        *start = found ? line_.selectionStart() : 0;
-        *end = found ? line_.selectionEnd() : 0;
+    void selection(int, int* start, int* end) const override {
+        *start = std::max(line_.selectionStart(), 0);
+        *end = std::max(line_.selectionEnd(), 0);
     }
     void addSelection(int start, int end) override { line_.setSelection(start, end - start); }
-    void setSelection(int index, int start, int end) override {
-        if (index == 0) {
-            addSelection(start, end);
-        }
-    }
-    void removeSelection(int index) override {
-        if (index == 0) {
-            line_.deselect();
-        }
-    }
+    void setSelection(int, int start, int end) override { addSelection(start, end); }
+    void removeSelection(int) override { line_.deselect(); }
     QRect characterRect(int offset) const override {
         const QFontMetrics metrics(line_.font());
         const QString before = line_.text().left(line_.cursorPosition());

@@ -3,10 +3,7 @@
 #include "platform/Application.h"
 #include "platform/TextControls.h"
 
-#include <QEvent>
-#include <QPalette>
 #include <QPlainTextEdit>
-#include <QString>
 
 class QContextMenuEvent;
 class QMenu;

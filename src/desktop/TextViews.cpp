@@ -4,15 +4,11 @@
 #include "platform/TextControls.h"
 
 #include <QClipboard>
-#include <QContextMenuEvent>
-#include <QFocusEvent>
 #include <QFontMetrics>
 #include <QGuiApplication>
 #include <QKeyEvent>
 #include <QLineEdit>
-#include <QMenu>
 #include <QScrollBar>
-#include <QString>
 #include <QStringTokenizer>
 #include <QTextCursor>
 #include <QTextOption>
@@ -298,10 +294,10 @@ private:
     void ReadColumns(const QString& text) {
         constexpr int gap = 6;
         int widest = 0;
-        for (const QStringView line : QStringTokenizer(text, u'\n')) {
-            for (const QStringView field : QStringTokenizer(line, u'\t')) {
-                widest = std::max(widest, static_cast<int>(field.size()));
-            }
+        const QString fields = QString(text).replace(u'\n', u'\t');
+        for (const QStringView field : QStringTokenizer(fields, u'\t')) {
+
+            widest = std::max(widest, static_cast<int>(field.size()));
         }
         const QString widestField(widest, u'0');
         const int margins = static_cast<int>(2 * widget_->document()->documentMargin());

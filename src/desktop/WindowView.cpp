@@ -6,9 +6,7 @@
 #include "platform/Window.h"
 
 #include <QAccessibleWidget>
-#include <QAction>
 #include <QApplication>
-#include <QCloseEvent>
 #include <QKeyEvent>
 #include <QPointer>
 #include <QScrollArea>
@@ -55,10 +53,6 @@ Qt::WindowFlags Flags(const WindowFrame& frame) {
 // Wayland neither tells a window where it stands nor lets it choose.
 bool PlacesWindows() {
     return !QGuiApplication::platformName().startsWith(u"wayland");
-}
-
-Qt::CursorShape Shape(Cursor cursor) {
-    return cursor == Cursor::Finger ? Qt::PointingHandCursor : Qt::ArrowCursor;
 }
 
 } // namespace
@@ -183,11 +177,7 @@ void WindowView::Read() {
         AddViews();
     }
     setWindowTitle(ToQt(window_.Title));
-    if (window_.MouseCursor() == Cursor::None) {
-        content_->unsetCursor();
-    } else {
-        content_->setCursor(Shape(window_.MouseCursor));
-    }
+    content_->setCursor(window_.MouseCursor() == Cursor::Finger ? Qt::PointingHandCursor : Qt::ArrowCursor);
     ReadSize();
     ReadPlace();
     ReadVisible();

@@ -6,7 +6,6 @@
 #include "platform/Event.h"
 
 #include <QMenuBar>
-#include <QWidget>
 
 #include <memory>
 #include <utility>
