@@ -14,7 +14,6 @@
 #include <vector>
 
 using namespace tessarolyne;
-using namespace tessarolyne::tests;
 
 namespace {
 

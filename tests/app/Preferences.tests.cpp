@@ -1,6 +1,5 @@
 #include "app/PreferencesFile.h"
 #include "fuzz/Fuzz.h"
-#include "platform/FolderItem.h"
 #include "support/MemoryFileSystem.h"
 
 #include <doctest/doctest.h>
@@ -121,7 +120,7 @@ TEST_CASE("Any bytes whatever are read within their types, and what was read com
     Preferences preferences;
     preferences.monnaies = "euros :@: é";
     preferences.fichNbPrems = "Root:home:\xE9";
-    tests::RunOnDamaged([text = PreferencesText(preferences)](tests::Random&) { return text; },
+    RunOnDamaged([text = PreferencesText(preferences)](Random&) { return text; },
         {"\r", "\n", "\r\n", " :@: ", "\xEF\xBB\xBF", "-", "99999999999999999999", ",,", "True", "\xE9",
             std::string(1, '\0'), "2024-02-30 00:00:00", "36", "-1", "e999", "0x10"});
 }

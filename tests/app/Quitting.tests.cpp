@@ -1,12 +1,7 @@
 #include "primes/WinNbresPremiers.h"
 #include "support/TestWorld.h"
 
-#include <doctest/doctest.h>
-
-#include <thread>
-
 using namespace tessarolyne;
-using namespace tessarolyne::tests;
 
 namespace {
 

@@ -1,13 +1,9 @@
-#include "platform/Application.h"
 #include "support/TestWorld.h"
 #include "ui/Localisation.h"
 #include "ui/Version.h"
 #include "ui/WinPrefs.h"
 
-#include <doctest/doctest.h>
-
 using namespace tessarolyne;
-using namespace tessarolyne::tests;
 
 namespace {
 

@@ -4,7 +4,6 @@
 #include <doctest/doctest.h>
 
 using namespace tessarolyne;
-using namespace tessarolyne::tests;
 
 TEST_CASE("Notes end before the older versions and without empty lines, and have bullets for hyphens") {
     const char* const rows[][2] = {{"-- One -- Two\rthree", "• One\r• Two\rthree"}, {"\r\r", ""},

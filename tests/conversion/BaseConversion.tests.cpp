@@ -6,7 +6,6 @@
 #include <cctype>
 #include <cstdint>
 #include <random>
-#include <string>
 
 using namespace tessarolyne;
 

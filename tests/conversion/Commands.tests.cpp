@@ -1,13 +1,7 @@
-#include "platform/Application.h"
 #include "primes/WinNbresPremiers.h"
 #include "support/TestWorld.h"
 
-#include <doctest/doctest.h>
-
-#include <algorithm>
-
 using namespace tessarolyne;
-using namespace tessarolyne::tests;
 
 TEST_CASE("A calculation disables what could disturb it and nothing else, shortcuts too but for quitting") {
     TestWorld world;

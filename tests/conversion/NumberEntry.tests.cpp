@@ -2,10 +2,7 @@
 #include "primes/WinNbresPremiers.h"
 #include "support/TestWorld.h"
 
-#include <doctest/doctest.h>
-
 using namespace tessarolyne;
-using namespace tessarolyne::tests;
 
 namespace {
 

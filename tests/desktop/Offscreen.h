@@ -2,7 +2,7 @@
 
 #include <QApplication>
 
-namespace tessarolyne::tests {
+namespace tessarolyne {
 
 // The application of these tests, made once, which needs no display. It is never ended: what Qt itself keeps
 // as static objects would go before it.
@@ -14,4 +14,4 @@ inline void UseQt() {
     [[maybe_unused]] static const auto* const application = new QApplication(count, arguments);
 }
 
-} // namespace tessarolyne::tests
+} // namespace tessarolyne

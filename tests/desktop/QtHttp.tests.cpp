@@ -8,13 +8,7 @@
 #include <QTcpServer>
 #include <QTcpSocket>
 
-#include <doctest/doctest.h>
-
-#include <future>
-#include <optional>
-
 using namespace tessarolyne;
-using namespace tessarolyne::tests;
 
 namespace {
 

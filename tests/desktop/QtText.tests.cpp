@@ -1,8 +1,6 @@
 #include "desktop/QtText.h"
 #include "desktop/TextEdits.h"
 
-#include <QString>
-
 #include <doctest/doctest.h>
 
 using namespace tessarolyne;

@@ -1,4 +1,3 @@
-#include "conversion/WinMain.h"
 #include "desktop/Offscreen.h"
 #include "desktop/QtText.h"
 #include "desktop/Resources.h"
@@ -21,14 +20,7 @@
 #include <QMenu>
 #include <QXmlStreamReader>
 
-#include <doctest/doctest.h>
-
-#include <map>
-#include <string>
-#include <vector>
-
 using namespace tessarolyne;
-using namespace tessarolyne::tests;
 
 namespace {
 

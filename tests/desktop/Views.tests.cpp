@@ -10,10 +10,7 @@
 #include <QLineEdit>
 #include <QMouseEvent>
 
-#include <doctest/doctest.h>
-
 using namespace tessarolyne;
-using namespace tessarolyne::tests;
 
 TEST_CASE("A control is greyed once it has been disabled for 150 ms, and refuses what comes from the first") {
     UseQt();

@@ -10,7 +10,7 @@
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
 
-namespace tessarolyne::tests {
+namespace tessarolyne {
 
 // Ends a fuzz target's run, and says why.
 inline void Must(bool holds, const char* what) {
@@ -55,4 +55,4 @@ inline void RunOnDamaged(const std::function<std::string(Random&)>& make,
     }
 }
 
-} // namespace tessarolyne::tests
+} // namespace tessarolyne

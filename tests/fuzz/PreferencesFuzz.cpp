@@ -5,7 +5,6 @@
 #include "platform/Text.h"
 
 using namespace tessarolyne;
-using namespace tessarolyne::tests;
 
 namespace {
 

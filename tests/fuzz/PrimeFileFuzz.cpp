@@ -4,7 +4,6 @@
 #include "primes/engine/PlainPrimeFile.h"
 
 using namespace tessarolyne;
-using namespace tessarolyne::tests;
 
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const std::string bytes(data, data + size);

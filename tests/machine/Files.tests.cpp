@@ -1,16 +1,11 @@
 #include "machine/FailingCalls.h"
 #include "machine/PosixFileSystem.h"
 #include "machine/TemporaryFolder.h"
-#include "platform/FolderItem.h"
 
 #include <doctest/doctest.h>
 
-#include <algorithm>
 #include <array>
-#include <csignal>
-#include <functional>
 #include <sys/resource.h>
-#include <sys/stat.h>
 #include <sys/sysmacros.h>
 #include <sys/wait.h>
 #include <sys/xattr.h>

@@ -3,9 +3,6 @@
 
 #include <doctest/doctest.h>
 
-#include <utility>
-#include <vector>
-
 using namespace tessarolyne;
 
 namespace {

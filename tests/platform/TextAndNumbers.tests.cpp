@@ -5,11 +5,8 @@
 
 #include <cfloat>
 #include <clocale>
-#include <limits>
 #include <locale>
 #include <random>
-#include <string>
-#include <vector>
 
 using namespace tessarolyne;
 

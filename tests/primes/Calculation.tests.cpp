@@ -4,14 +4,10 @@
 #include "primes/engine/PrimeGrowth.h"
 #include "support/TestWorld.h"
 
-#include <doctest/doctest.h>
-
 #include <cstdlib>
 #include <random>
-#include <thread>
 
 using namespace tessarolyne;
-using namespace tessarolyne::tests;
 
 namespace {
 

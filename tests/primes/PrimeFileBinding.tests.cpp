@@ -1,15 +1,11 @@
 #include "primes/WinChargSauvNb1ers.h"
 
-#include "platform/FolderItem.h"
 #include "primes/RunFixture.h"
 #include "primes/WinNbresPremiers.h"
 #include "support/TestWorld.h"
 #include "ui/Localisation.h"
 
-#include <doctest/doctest.h>
-
 using namespace tessarolyne;
-using namespace tessarolyne::tests;
 using enum DialogButton;
 
 namespace {

@@ -4,13 +4,9 @@
 #include "primes/engine/RunControl.h"
 
 #include <algorithm>
-#include <atomic>
 #include <cmath>
-#include <cstdint>
 #include <limits>
-#include <memory_resource>
 #include <new>
-#include <vector>
 
 namespace tessarolyne {
 

@@ -2,7 +2,7 @@
 
 #include "platform/Text.h"
 
-namespace tessarolyne::tests {
+namespace tessarolyne {
 
 TestWorld::TestWorld(Launch launch) {
     files.known = {{KnownFolder::Preferences, "/home/user/.config"},
@@ -45,4 +45,4 @@ void TestWorld::Settle() {
     loop.Until([this] { return !Main().calculation.CalculEnCours(); });
 }
 
-} // namespace tessarolyne::tests
+} // namespace tessarolyne

@@ -1,25 +1,12 @@
 #pragma once
 
 #include "conversion/WinMain.h"
-#include "platform/Http.h"
-#include "platform/Services.h"
 #include "support/MemoryFileSystem.h"
 #include "support/VirtualLoop.h"
-#include "ui/Program.h"
 
-#include <doctest/doctest.h>
-
-#include <algorithm>
-#include <deque>
-#include <functional>
-#include <memory>
-#include <optional>
-#include <stdexcept>
-#include <string>
 #include <typeindex>
-#include <vector>
 
-namespace tessarolyne::tests {
+namespace tessarolyne {
 
 // Remembers which windows were shown.
 class TestStage final : public Stage {
@@ -192,4 +179,4 @@ public:
     std::unique_ptr<Program> program;
 };
 
-} // namespace tessarolyne::tests
+} // namespace tessarolyne

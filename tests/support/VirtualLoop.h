@@ -6,19 +6,14 @@
 #include <doctest/doctest.h>
 
 #include <algorithm>
-#include <atomic>
-#include <chrono>
 #include <condition_variable>
-#include <cstdint>
 #include <deque>
-#include <functional>
 #include <limits>
 #include <map>
 #include <mutex>
 #include <thread>
-#include <utility>
 
-namespace tessarolyne::tests {
+namespace tessarolyne {
 
 // A clock and an event loop whose time passes only when a test lets it, so that nothing ever sleeps. Tasks
 // posted by real threads are taken like any other; where the loop has nothing to do but wait for one, it
@@ -131,4 +126,4 @@ private:
     bool quitting_ = false;
 };
 
-} // namespace tessarolyne::tests
+} // namespace tessarolyne

@@ -1,4 +1,3 @@
-#include "platform/Application.h"
 #include "platform/Text.h"
 #include "primes/WinNbresPremiers.h"
 #include "support/TestWorld.h"
@@ -6,10 +5,7 @@
 #include "ui/WinInfos.h"
 #include "ui/WinPrefs.h"
 
-#include <doctest/doctest.h>
-
 using namespace tessarolyne;
-using namespace tessarolyne::tests;
 
 TEST_CASE("Behind a dialog or a modal window nothing that the user does counts, and presses are heard") {
     TestWorld world;

@@ -6,8 +6,6 @@
 
 #include <random>
 
-#include <string>
-
 using namespace tessarolyne;
 
 namespace {

@@ -7,7 +7,6 @@
 #include <iterator>
 #include <random>
 #include <sstream>
-#include <string>
 #include <utility>
 #include <vector>
 

@@ -5,13 +5,9 @@
 #include "primes/engine/PrimeFile.h"
 #include "support/MemoryFileSystem.h"
 
-#include <algorithm>
-#include <cstdint>
 #include <sstream>
-#include <string>
-#include <vector>
 
-namespace tessarolyne::tests {
+namespace tessarolyne {
 
 // What is in a prime file and what is told while it is read.
 struct PrimeFileReading {
@@ -77,4 +73,4 @@ inline std::string Written(const PrimeTable& table, int perLine) {
     return files.entries["/file"].content;
 }
 
-} // namespace tessarolyne::tests
+} // namespace tessarolyne

@@ -4,7 +4,6 @@
 #include <doctest/doctest.h>
 
 using namespace tessarolyne;
-using namespace tessarolyne::tests;
 
 namespace {
 
