@@ -11,7 +11,7 @@
 #include "ui/WrittenNumber.h"
 
 #include <algorithm>
-#include <ranges>
+#include <numeric>
 
 namespace tessarolyne {
 
@@ -49,8 +49,12 @@ Slice CutToTable(Slice entered, std::int64_t last, bool garderDebut, std::int64_
 
 // The rank of the first entry that isn't below `value`; Size() where there is none.
 std::int32_t LowerBound(const PrimeTable& table, std::uint64_t value) {
-    const auto ranks = std::views::iota(0, table.Size());
-    return *std::ranges::lower_bound(ranks, value, {}, [&](std::int32_t rank) { return table[rank]; });
+    std::int32_t low = 0;
+    for (std::int32_t high = table.Size(); low < high;) {
+        const std::int32_t middle = std::midpoint(low, high);
+        table[middle] < value ? low = middle + 1 : high = middle;
+    }
+    return low;
 }
 
 } // namespace

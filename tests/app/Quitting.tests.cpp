@@ -102,28 +102,23 @@ TEST_CASE("A close during a calculation asks, a request to quit only with the li
 TEST_CASE(
     "Whoever declines to quit during a calculation keeps it and the program, by any window and answer") {
     for (const DialogButton answer : {DialogButton::Cancel, DialogButton::None}) {
-        for (const int way : {0, 1, 2, 3}) {
+        for (const int way : {0, 1, 2, 3}) { // the last while a quit waits for the calculation
             CAPTURE(way);
             TestWorld world;
             WinMain& window = world.Main();
             window.BevelButtonListe.UserPressed();
-            WinNbresPremiers& list = world.program->winNbresPremiers();
             StartLongRun(world);
             world.dialogs.Expect(answer, [&] {
                 world.loop.Advance(50);
                 world.program->app.RequestQuit(); // from the desktop, while the question is up already
                 world.loop.Advance(50);
             });
-            if (way == 0) {
-                window.UserClosed();
-            } else if (way == 1) {
-                list.UserClosed();
-            } else if (way == 2) {
-                world.program->app.RequestQuit();
-            } else {
-                window.quitting.Ask(); // a quit that waits for the calculation
-                list.UserClosed();
+            if (way == 3) {
+                window.quitting.Ask();
             }
+            way == 0   ? window.UserClosed()
+            : way == 2 ? world.program->app.RequestQuit()
+                       : world.program->winNbresPremiers().UserClosed();
             CHECK_FALSE(world.program->fncts.ArretUrg);
             CHECK(window.calculation.CalculEnCours());
             window.calculation.Stop();
@@ -152,26 +147,27 @@ TEST_CASE("A signal saves what there is and asks nothing, even if nothing can be
     CHECK(world.program->fncts.ArretUrg);
 }
 
-TEST_CASE("Without a place for preferences the program says so and ends, with nothing saved") {
-    TestWorld world(TestWorld::Launch::NotYet);
-    world.files.known.erase(KnownFolder::Preferences);
-    world.files.unwritable.insert("/opt/tessarolyne/TessarolynePrefs");
-    world.dialogs.ExpectTell();
-    world.program->Start();
-    CHECK(world.dialogs.told.at(0) ==
-          "Error !\nPlease contact the authors.\n\nImpossible to create the Preferences folder.");
-    CHECK(Ended(world));
-    CHECK(world.loop.ExitCode() == 0);
-}
-
-TEST_CASE("A folder beside the program serves where the system has none for preferences") {
-    TestWorld world(TestWorld::Launch::NotYet);
-    world.files.known.erase(KnownFolder::Preferences);
-    world.files.AddFolder("/opt");
-    world.files.AddFolder("/opt/tessarolyne/TessarolynePrefs");
-    world.files.AddLink("/opt/tessarolyne/TessarolynePrefs/Tessarolyne Prefs.txt", "/far/prefs");
-    world.files.AddFile("/far/prefs", "Deja Envoye Don 03 :@: True\n");
-    world.program->Start();
-    CHECK(world.program->app.DejaDonne);
-    CHECK(world.files.swept == std::vector<std::string>{"/far", "/opt/tessarolyne/TessarolynePrefs"});
+TEST_CASE(
+    "Where the system has no folder for preferences, one beside the program serves, or nothing is saved") {
+    const std::string own = "/opt/tessarolyne/TessarolynePrefs";
+    for (const bool isThere : {false, true}) {
+        TestWorld world(TestWorld::Launch::NotYet);
+        world.files.known.erase(KnownFolder::Preferences);
+        if (isThere) {
+            world.files.AddFolder(own);
+            world.files.AddLink(own + "/Tessarolyne Prefs.txt", "/far/prefs");
+            world.files.AddFile("/far/prefs", "Deja Envoye Don 03 :@: True\n");
+        } else {
+            world.files.unwritable.insert(own);
+            world.dialogs.ExpectTell();
+        }
+        world.program->Start();
+        CHECK(world.program->app.DejaDonne == isThere);
+        CHECK(world.dialogs.told ==
+              std::vector<std::string>(isThere ? 0 : 1,
+                  "Error !\nPlease contact the authors.\n\nImpossible to create the Preferences folder."));
+        CHECK(world.files.swept ==
+              (isThere ? std::vector<std::string>{"/far", own} : std::vector<std::string>()));
+        CHECK(Ended(world) == !isThere);
+    }
 }

@@ -2,7 +2,6 @@
 
 #include <doctest/doctest.h>
 
-#include <algorithm>
 #include <cctype>
 #include <cstdint>
 #include <random>
@@ -45,9 +44,8 @@ TEST_CASE("Every value up to 64 bits goes between every two bases and back as sl
                      std::uint64_t{to}, (std::uint64_t{1} << 53) - 1, limit, random() % limit}) {
                 CAPTURE(value);
                 std::string digits = SlowDigits(value, from, alphabet);
-                if (random() % 2 == 0) {
-                    std::transform(digits.begin(), digits.end(), digits.begin(),
-                        [](char c) { return static_cast<char>(std::tolower(c)); });
+                for (char& digit : digits) {
+                    digit = random() % 2 == 0 ? digit : static_cast<char>(std::tolower(digit));
                 }
                 REQUIRE(Convert(digits, static_cast<int>(from), static_cast<int>(to), alphabet) ==
                         SlowDigits(value, to, alphabet));

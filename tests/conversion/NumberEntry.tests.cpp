@@ -97,8 +97,7 @@ TEST_CASE(
 TEST_CASE("Factors and words of another number than the one that stands there are dimmed, and say so") {
     TestWorld world;
     WinMain& window = world.Main();
-    const TextArea& factors = window.TxtAreaDecomp1er;
-    const TextArea& words = window.TxtAreaLettres;
+    const TextArea &factors = window.TxtAreaDecomp1er, &words = window.TxtAreaLettres;
     const auto baseOrg = [&](int base) { window.PopupMenuBaseOrg.UserChose(base - 2); };
     const auto dimmed = [](const TextArea& area) {
         return area.Remark() == "Correspond au nombre précédent.";
@@ -188,17 +187,12 @@ TEST_CASE("Up and Down go through the numbers of this run in both fields, and ba
 }
 
 TEST_CASE(
-    "A recalculation waits for the end of a calculation and of a dialog, and then comes once, also for a "
-    "fraction whose field was left meanwhile") {
+    "A recalculation waits for the end of a dialog, also for a fraction whose field was left meanwhile") {
     TestWorld world;
     WinMain& window = world.Main();
     window.EditFieldNbre.UserFocused();
-    window.calculation.Begin();
     window.EditFieldNbre.UserTyped("12.5");
     window.EditFieldBaseOrg.UserFocused();
-    world.loop.Advance(100);
-    CHECK(window.EditFieldBaseOrg.Text().empty());
-    window.calculation.End();
     {
         const Application::ModalStep dialog(world.program->app, nullptr);
         world.loop.Advance(100);
@@ -208,16 +202,13 @@ TEST_CASE(
     CHECK(window.EditFieldBaseOrg.Text() == errNbre);
     CHECK(window.EditFieldNbre.Text() == "12.50");
     CHECK(window.TxtAreaLettres.Text() == "douze euros cinquante centimes");
-    window.EditFieldBaseOrg.Text = "";
-    world.loop.Advance(100);
-    CHECK(window.EditFieldBaseOrg.Text().empty());
 }
 
-TEST_CASE("A second after typing stops, the output that the user went to last is announced, an error too") {
+TEST_CASE("A second after typing stops, the output that the user went to last is announced") {
     TestWorld world;
     WinMain& window = world.Main();
-    world.Type(window.EditFieldNbre,
-        "11"); // each above the table: without a thread, for which the clock would run on
+    world.Type(
+        window.EditFieldNbre, "11"); // above the table: without a thread, for which the clock would run on
     world.loop.Advance(900);
     world.Type(window.EditFieldNbre, "255");
     world.loop.Advance(960);
@@ -228,11 +219,8 @@ TEST_CASE("A second after typing stops, the output that the user went to last is
     world.Type(window.EditFieldNbre, "1000002");
     world.loop.Advance(1000);
     CHECK(world.announcer.said.back() == "2 x 3 x 166 667");
-    world.Type(window.EditFieldNbre, "1.5");
-    world.loop.Advance(1000);
-    CHECK(world.announcer.said.back() == "#Erreur Nbre !");
     world.program->fncts.Annonces = false;
     world.Type(window.EditFieldNbre, "7");
     world.loop.Advance(5000);
-    CHECK(world.announcer.said.size() == 3);
+    CHECK(world.announcer.said.size() == 2);
 }

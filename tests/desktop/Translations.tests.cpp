@@ -103,13 +103,13 @@ void CheckAltLetters(const QWidget& view) {
             taken.emplace(letter, name).second, letter.toStdString() << " for " << name.toStdString());
     };
     for (const QWidget* widget : view.findChildren<QWidget*>()) {
-        const auto* button = qobject_cast<const QAbstractButton*>(widget);
         const auto* box = qobject_cast<const QGroupBox*>(widget);
         const auto* label = qobject_cast<const QLabel*>(widget);
-        const QString caption = button != nullptr                               ? button->text()
-                                : box != nullptr                                ? box->title()
-                                : label != nullptr && label->buddy() != nullptr ? label->text()
-                                                                                : QString();
+        const bool isText = qobject_cast<const QAbstractButton*>(widget) != nullptr ||
+                            (label != nullptr && label->buddy() != nullptr);
+        const QString caption = box != nullptr ? box->title()
+                                : isText       ? widget->property("text").toString()
+                                               : QString();
         if (!caption.isEmpty() && caption != u"✎"_qs) {
             take(caption, widget->objectName());
             CHECK(!widget->accessibleName().contains(u'&'));

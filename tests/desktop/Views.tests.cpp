@@ -23,8 +23,7 @@ TEST_CASE("A control is greyed once it has been disabled for 150 ms, and refuses
     auto* const menu = view.findChild<QComboBox*>("PopupMenuLg");
     const auto click = [](QWidget* widget) {
         for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
-            const Qt::MouseButtons down = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
-            QMouseEvent event(type, QPointF(8, 8), QPointF(8, 8), Qt::LeftButton, down, Qt::NoModifier);
+            QMouseEvent event(type, QPointF(8, 8), QPointF(8, 8), Qt::LeftButton, {}, {});
             QCoreApplication::sendEvent(widget, &event);
         }
     };

@@ -60,11 +60,8 @@ class PrimeFile(ProgramTestCase):
         self.assertTrue(self.control("BevelButtonListe").checked)
 
     def test_a_load_ends_with_the_program_and_writes_nothing(self):
-        ends = (
-            lambda: self.signal(signal.SIGTERM),
-            lambda: self.click_close_box(),
-            lambda: self.screen.press("ctrl+q"),
-        )
+        # Asked of the program that runs then: each end is followed by a fresh one.
+        ends = (lambda: self.signal(signal.SIGTERM), lambda: self.click_close_box(), lambda: self.screen.press("ctrl+q"))
         for number, end in enumerate(ends):
             with self.subTest(number):
                 self.setUp()

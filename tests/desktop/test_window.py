@@ -1,4 +1,4 @@
-"""The window opens, closes and comes back where it was."""
+"""The windows open, whole on the screen, close and come back where they were."""
 
 import re
 
@@ -23,3 +23,20 @@ class Window(ProgramTestCase):
             self.assertEqual(self.wait_for_end(), 0)
             self.start_program()
             self.assertEqual(self.bounds, place)
+
+
+class SmallScreen(ProgramTestCase):
+    """640 by 512 points, with the list window open at the end of the last run."""
+
+    ENVIRONMENT = {"QT_SCALE_FACTOR": "2"}
+    PREFERENCES = ProgramTestCase.PREFERENCES + "Liste Nb1ers Visible :@: True\n"
+
+    def test_each_window_opens_whole_on_the_screen(self):
+        for title in ("Tessarolyne", "Liste des Nombres Premiers"):
+            with self.subTest(title=title):
+                (window,) = self.screen.find_windows(f"^{title}$")
+                self.wait_for(lambda: self._is_on_screen(window), lambda: f"“{title}” to fit")
+
+    def _is_on_screen(self, window):
+        left, top, width, height = self.screen.bounds(window, "-frame")
+        return left >= 0 and top >= 0 and left + width <= 1280 and top + height <= 1024

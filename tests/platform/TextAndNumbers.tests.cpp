@@ -106,11 +106,10 @@ TEST_CASE("Format agrees with integer arithmetic for every amount that is a numb
     std::mt19937_64 random(3);
     for (int round = 0; round < 20000; ++round) {
         const std::uint64_t parts = random() >> (14 + random() % 40);
-        const std::uint64_t cents = (parts % 1024 * 100 + 512) / 1024 + parts / 1024 * 100;
+        const std::uint64_t cents = 100 + (parts % 1024 * 100 + 512) / 1024; // behind the 1 its two digits
         const std::string expected =
-            std::to_string(cents / 100) + "." + std::to_string(100 + cents % 100).substr(1);
+            std::to_string(parts / 1024 + cents / 200) + "." + std::to_string(cents).substr(1);
         REQUIRE(Format(static_cast<double>(parts) / 1024, plainCents) == expected);
-        REQUIRE(Format(static_cast<double>(parts >> 1), plain) == std::to_string(parts >> 1));
     }
 }
 

@@ -43,9 +43,7 @@ struct Bound : World {
 // One whose list shows the button of the file.
 struct WithButton : World {
     explicit WithButton(bool bound) : World(sixPrimes) {
-        if (bound) {
-            BoundFile() = files.At(path);
-        }
+        BoundFile() = bound ? std::optional(files.At(path)) : std::nullopt;
         Main().BevelButtonListe.UserPressed();
     }
     std::string Caption() { return program->winNbresPremiers().PushButtonFichier.Caption; }
@@ -96,10 +94,10 @@ TEST_CASE(
     for (const int fault : {0, 1, 2, 3, 4}) {
         CAPTURE(fault);
         const auto fail = [&](Bound& world) {
-            MemoryFileSystem::Entry& file = world.files.entries[path];
-            file.kind = fault == 0   ? FileKind::Folder
-                        : fault == 1 ? FileKind::Unknown // in a folder that can't be searched
-                                     : FileKind::Regular;
+            auto& file = world.files.entries[path];
+            constexpr FileKind kinds[] = {
+                FileKind::Folder, FileKind::Unknown}; // in a folder that can't be searched
+            file.kind = fault < 2 ? kinds[fault] : FileKind::Regular;
             world.files.unreadable = {fault == 2 ? path : ""};
             world.memory.available = fault == 3 ? 0 : world.memory.available;
             file.claimedSize = fault == 4 ? std::uint64_t{2'147'483'647} * 13 + 5000 : 0;

@@ -141,16 +141,13 @@ TEST_CASE("Keys go on with the number until one of them can't") {
 
 TEST_CASE("In the middle of a number a key must leave a number") {
     NumberTyping typing;
-    TextEdit sign{"1234", 2, 0, ","};
-    CHECK(typing.Take(sign, amount, comma) == NumberTyping::Refusal::None);
-    CHECK(sign.inserted == ".");
-    TextEdit tooEarly{"12345", 2, 0, "."};
-    CHECK(typing.Take(tooEarly, amount, comma) == NumberTyping::Refusal::TooManyDecimals);
-    TextEdit whole{"12", 2, 0, "."};
-    CHECK(typing.Take(whole, Mask("999"), comma) == NumberTyping::Refusal::TooManyDecimals);
+    using enum NumberTyping::Refusal;
+    TextEdit sign{"1234", 2, 0, ","}, tooEarly{"12345", 2, 0, "."}, whole{"12", 2, 0, "."};
+    CHECK((typing.Take(sign, amount, comma) == None && sign.inserted == "."));
+    CHECK(typing.Take(tooEarly, amount, comma) == TooManyDecimals);
+    CHECK(typing.Take(whole, Mask("999"), comma) == TooManyDecimals);
     TextEdit message{"Nb Max = 9", 10, 0, "7"};
-    CHECK(typing.Take(message, amount, comma) == NumberTyping::Refusal::None);
-    CHECK(message.removed == 10);
+    CHECK((typing.Take(message, amount, comma) == None && message.removed == 10));
 }
 
 TEST_CASE("Separators stand between groups from the right, of the size that the base decides") {
@@ -165,20 +162,15 @@ TEST_CASE("Separators stand between groups from the right, of the size that the 
     CHECK(FormatType("FF FF", 16, false) == "FFFF");
 }
 
-TEST_CASE("A decimal number is shown in groups or bare, with two decimals if it has any, and no other text") {
+TEST_CASE(
+    "A decimal number is shown in groups or bare, each form turns into the other, and no text changes") {
     const char* const rows[][3] = {{"1 234 567", "1 234 567", "1234567"}, {"1234.5", "1 234.50", "1234.50"},
-        {"12.", "12", "12"}, {".5", "0.50", "0.50"}, {"007.00", "7", "7"}, {"-1234", "-1 234", "-1234"}};
+        {"12.", "12", "12"}, {".5", "0.50", "0.50"}, {"007.00", "7", "7"}, {"-1234", "-1 234", "-1234"},
+        {"", "", ""}, {"#Erreur Nbre !", "#Erreur Nbre !", "#Erreur Nbre !"}, {"1,5", "1,5", "1,5"}};
     for (const auto& [text, shown, bare] : rows) {
         CHECK(FormatNbre(text, true) == shown);
         CHECK(FormatNbre(text, false) == bare);
     }
-    for (const char* text : {"", " ", "#Erreur Nbre !", "1,5", "1\u202F234"}) {
-        CHECK(FormatNbre(text, true) == text);
-        CHECK(FormatNbre(text, false) == text);
-    }
-}
-
-TEST_CASE("What FormatNbre gives it takes again, and its forms turn into each other") {
     std::mt19937_64 random(7);
     std::string edges[] = {"0.004", "-0.004", "1234.996", "1234.995", "0.995", "-1000000000000000000",
         "4503599627370496.5", "999999999999.994"};
