@@ -30,7 +30,7 @@ Quitting::Quitting(Window& mainWindow, Program& program, Calculation& calculatio
 }
 
 bool Quitting::IsUnderWay() const {
-    return app_.DrapOkQuit || timerQuit_.Mode != 0;
+    return app_.DrapOkQuit || timerQuit_.Mode != TimerMode::Off;
 }
 
 bool Quitting::CancelClose(bool appQuitting) {
@@ -41,7 +41,7 @@ bool Quitting::CancelClose(bool appQuitting) {
         return false;
     }
     if (appQuitting) {
-        timerQuit_.Mode = 1; // turns the request into a close of this window
+        timerQuit_.Mode = TimerMode::Single; // turns the request into a close of this window
         return true;
     }
     if (calculation_.CalculEnCours()) {
@@ -73,7 +73,7 @@ int Quitting::AskOnTheWayOut(const std::string& message, const std::string& expl
 
 // What a quit that is declined leaves: none under way, and a change of the number that it had put off is due.
 void Quitting::StayOpen() {
-    timerQuit_.Mode = 0;
+    timerQuit_.Mode = TimerMode::Off;
     entry_.GoOn();
 }
 
@@ -92,7 +92,7 @@ void Quitting::AskToStopCalculation() {
     entry_.PutOff();
     calculation_.Stop();
     fncts_.PlayT(fncts_.Zoum, true);
-    timerQuit_.Mode = 1;
+    timerQuit_.Mode = TimerMode::Single;
 }
 
 // True if the user would rather not quit. No answer, because the program is being ended, decides nothing.
@@ -127,14 +127,14 @@ void Quitting::DecideClose(bool enregistrer) {
         program_.winChargSauvNb1ers().SaveNb1ers();
     }
     fncts_.DrapMenu = false;
-    timerQuit_.Mode = 1;
+    timerQuit_.Mode = TimerMode::Single;
 }
 
 void Quitting::TimerQuit_Action() {
     if (app_.DrapOkQuit) {
         app_.Quit(0);
     } else if (calculation_.CalculEnCours() || program_.HasWinChargSauvNb1ers()) {
-        timerQuit_.Mode = 1;
+        timerQuit_.Mode = TimerMode::Single;
         timerQuit_.Reset();
     } else {
         const bool found = fncts_.DrapMenu; // low under a modal window, which a quit goes through

@@ -26,7 +26,7 @@ public:
     // Asks whether to stop the running calculation and quit; on yes, TimerQuit waits for its end.
     void AskToStopCalculation();
     // Goes on with a request to quit as soon as nothing is in its way any more.
-    void Ask() { timerQuit_.Mode = 1; }
+    void Ask() { timerQuit_.Mode = TimerMode::Single; }
     bool IsUnderWay() const;
     // From now on there are settings to save.
     void StartIsOver() { startIsOver_ = true; }

@@ -46,7 +46,7 @@ void UpdateCheck::StartAutomatically() {
 
 void UpdateCheck::Start() {
     Fetch();
-    slowCheck_.Mode = 1;
+    slowCheck_.Mode = TimerMode::Single;
 }
 
 void UpdateCheck::Fetch() {
@@ -56,9 +56,9 @@ void UpdateCheck::Fetch() {
 
 void UpdateCheck::HasCome(const HttpReply& reply) {
     reply_ = reply;
-    timerVerMaJ_.Mode = 1;
+    timerVerMaJ_.Mode = TimerMode::Single;
     if (--fetchesUnderWay_ == 0) {
-        slowCheck_.Mode = 0;
+        slowCheck_.Mode = TimerMode::Off;
         TakesTime(false);
     }
 }
@@ -66,7 +66,8 @@ void UpdateCheck::HasCome(const HttpReply& reply) {
 void UpdateCheck::TimerVerMaJ_Action() {
     const bool isBusy = VrfVerMaJ();
     timerVerMaJ_.Period = isBusy ? busyPeriod : handOverPeriod;
-    timerVerMaJ_.Mode = isBusy ? 1 : 0; // 0 also where a second reply came under the dialog: it is dealt with
+    // Off also where a second reply came under the dialog: it is dealt with.
+    timerVerMaJ_.Mode = isBusy ? TimerMode::Single : TimerMode::Off;
 }
 
 // Tells the user what is to be told. True: the program is busy, nothing was done. Any version but this one

@@ -49,17 +49,13 @@ std::string Write(std::uint64_t value, std::string_view digits) {
     return result;
 }
 
-bool BeginsWith(std::string_view text, std::string_view prefix) {
-    return Uppercase(text.substr(0, prefix.size())) == prefix;
-}
-
 // How many characters of the text are the prefix of its base.
 std::size_t PrefixSize(std::string_view text, int base) {
     if (base == 16 && text.starts_with('#')) {
         return 1;
     }
-    const char* const prefix = base == 2 ? "0B" : base == 8 ? "0O" : "0X";
-    return (base == 2 || base == 8 || base == 16) && BeginsWith(text, prefix) ? 2 : 0;
+    const std::string prefix = Uppercase(PrefixOf(base));
+    return Uppercase(text).starts_with(prefix) ? prefix.size() : 0;
 }
 
 } // namespace
@@ -72,6 +68,10 @@ std::string ConvNbreBase(std::string_view nombre, int baseOrg, int baseDest, std
     }
     const auto value = baseOrg == 10 ? ReadDecimal(nombre) : Read(nombre, DigitsOf(baseOrg, alphabet));
     return value ? Write(*value, DigitsOf(baseDest, alphabet)) : Localisation::Txt_ErrNbre();
+}
+
+std::string_view PrefixOf(int base) {
+    return base == 2 ? "0b" : base == 8 ? "0o" : base == 16 ? "0x" : "";
 }
 
 bool IsErrorText(std::string_view text) {

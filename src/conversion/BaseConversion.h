@@ -21,6 +21,9 @@ inline constexpr std::string_view alphabetAZ09 = "ABCDEFGHIJKLMNOPQRSTUVWXYZ0123
 // are 0, but not in base 10.
 std::string ConvNbreBase(std::string_view nombre, int baseOrg, int baseDest, std::string_view alphabet);
 
+// What programs write before the digits of a number in the base; empty for most bases.
+std::string_view PrefixOf(int base);
+
 // Whether a field shows one of the two texts that stand for a number there is none of.
 bool IsErrorText(std::string_view text);
 

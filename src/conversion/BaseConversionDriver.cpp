@@ -33,8 +33,8 @@ std::string NumberEntry::SourceDigits() const {
 void NumberEntry::ConvertAgain() {
     if (app_.initProg) {
         ConvNbreBaseD();
-        outputs_.factors.Compare();
-        outputs_.words.Compare();
+        factors.Compare();
+        words.Compare();
     }
 }
 
@@ -53,8 +53,8 @@ void NumberEntry::ConvNbreBaseD() {
             EditFieldBaseOrg.Text = error;
         }
         EditFieldBaseDest.Text = error;
-        outputs_.factors.Write(error);
-        outputs_.words.Write(error);
+        factors.Write(error);
+        words.Write(error);
     }
     for (TextField* field : {&EditFieldBaseOrg, &EditFieldBaseDest}) {
         field->Remark = OnlyCentsAreWrong(EditFieldNbre);

@@ -108,13 +108,11 @@ void WinMain::AddCopyShortcuts() {
 // In the bases that programs write with a prefix, also with that.
 void WinMain::OfferBaseCopies(TextField& source, const PopupMenu& baseMenu) {
     OfferCopies(source, fncts, [this, &baseMenu](const std::string& bare, auto& commands) {
-        const std::array<std::pair<int, const char*>, 3> prefixes = {{{16, "0x"}, {8, "0o"}, {2, "0b"}}};
-        for (const auto& [base, prefix] : prefixes) {
-            if (baseMenu.ListIndex == base - 2 && RadioButton09AZ[0].Value()) {
-                const std::string text = prefix + BareDigits(bare, base, entry.Alphabet());
-                commands.push_back(
-                    CopyCommand(fncts, fncts.Filled(Localisation::Txt_CopierForme(), {text}), text));
-            }
+        const int base = baseMenu.ListIndex + smallestBase;
+        if (!PrefixOf(base).empty() && RadioButton09AZ[0].Value()) {
+            const std::string text = std::string(PrefixOf(base)) + BareDigits(bare, base, entry.Alphabet());
+            commands.push_back(
+                CopyCommand(fncts, fncts.Filled(Localisation::Txt_CopierForme(), {text}), text));
         }
     });
 }

@@ -27,12 +27,11 @@ constexpr int pauseInBase = 1000;
 
 } // namespace
 
-NumberEntry::NumberEntry(const NumberControls& controls, const Outputs& outputs, Calculation& calculation,
-    App& app, Fncts& fncts, Services& services)
-    : NumberControls(controls), outputs_(outputs), calculation_(calculation), app_(app), fncts_(fncts),
-      clock_(services.clock), timerTempo_(services.loop, recalculationDelay),
-      typingPause_(services.loop, typingPause), outputOfInterest_(&TxtAreaLettres),
-      numberField_(EditFieldNbre, fncts) {
+NumberEntry::NumberEntry(
+    const NumberControls& controls, Calculation& calculation, App& app, Fncts& fncts, Services& services)
+    : NumberControls(controls), calculation_(calculation), app_(app), fncts_(fncts), clock_(services.clock),
+      timerTempo_(services.loop, recalculationDelay), typingPause_(services.loop, typingPause),
+      outputOfInterest_(&TxtAreaLettres), numberField_(EditFieldNbre, fncts) {
     EditFieldBaseOrg.TakeEdit = [this](TextEdit& edit) { return TakeBaseEdit(edit); };
     FollowEdits(EditFieldNbre);
     FollowEdits(EditFieldBaseOrg);
@@ -144,7 +143,7 @@ bool NumberEntry::PopupMenuBase_KeyDown(PopupMenu& menu, const std::string& key)
 void NumberEntry::TakeAsSource(bool isDecimal, ChangedBy who) {
     if (app_.initProg && who == ChangedBy::User) {
         drapTimerNbre_ = isDecimal;
-        timerTempo_.Mode = 1;
+        timerTempo_.Mode = TimerMode::Single;
         AnnounceResultAfterPause();
     }
 }
@@ -157,7 +156,7 @@ void NumberEntry::TimerTempo_Action() {
     // A dialog counts too: a calculation that began under a file chooser would race the load behind it.
     const bool calculates = calculation_.CalculEnCours();
     if (calculates || app_.HasModalStep()) {
-        timerTempo_.Mode = 1;
+        timerTempo_.Mode = TimerMode::Single;
         if (calculates && ++turnsWaited_ * timerTempo_.Period >= waitToBeSeen &&
             !StaticTextEnAttente.Visible) {
             StaticTextEnAttente.Visible = true;
@@ -169,13 +168,13 @@ void NumberEntry::TimerTempo_Action() {
 }
 
 void NumberEntry::PutOff() {
-    recalculationDue_ = recalculationDue_ || timerTempo_.Mode != 0;
-    timerTempo_.Mode = 0;
+    recalculationDue_ = recalculationDue_ || timerTempo_.Mode != TimerMode::Off;
+    timerTempo_.Mode = TimerMode::Off;
 }
 
 void NumberEntry::GoOn() {
     if (std::exchange(recalculationDue_, false)) {
-        timerTempo_.Mode = 1;
+        timerTempo_.Mode = TimerMode::Single;
     }
 }
 
@@ -187,18 +186,18 @@ void NumberEntry::ChangeNbre() {
     if (!decimal.empty() && !IsNumeric(decimal)) {
         return;
     }
-    outputs_.decomposition.DecompPremDeb(false);
-    outputs_.spelling.ConvNbreLettresD();
+    decomposition.DecompPremDeb(false);
+    spelling.ConvNbreLettresD();
 }
 
 void NumberEntry::AnnounceResultAfterPause() {
-    typingPause_.Mode = 1;
+    typingPause_.Mode = TimerMode::Single;
     typingPause_.Reset();
 }
 
 void NumberEntry::AnnounceResult() {
-    const bool isToCome =
-        timerTempo_.Mode != 0 || (calculation_.CalculEnCours() && outputOfInterest_ == &TxtAreaDecomp1er);
+    const bool isToCome = timerTempo_.Mode != TimerMode::Off ||
+                          (calculation_.CalculEnCours() && outputOfInterest_ == &TxtAreaDecomp1er);
     if (isToCome) {
         AnnounceResultAfterPause();
     } else {

@@ -22,7 +22,7 @@ class NumberOutput;
 class Words;
 struct Services;
 
-// The controls of the main window that the number has to do with.
+// The controls of the main window that the number has to do with, and what else follows from it.
 struct NumberControls {
     TextField& EditFieldNbre;
     TextField& EditFieldBaseOrg;
@@ -34,22 +34,18 @@ struct NumberControls {
     TextArea& TxtAreaDecomp1er;
     TextArea& TxtAreaLettres;
     Label& StaticTextEnAttente;
+    NumberOutput& factors;
+    NumberOutput& words;
+    Decomposition& decomposition;
+    Words& spelling;
 };
 
 // The number that the user types, in one field or the other: which of them is its source, what the other
 // shows in its base, and when all outputs are computed again.
 class NumberEntry : private NumberControls {
 public:
-    // What else follows from the number.
-    struct Outputs {
-        NumberOutput& factors;
-        NumberOutput& words;
-        Decomposition& decomposition;
-        Words& spelling;
-    };
-
-    NumberEntry(const NumberControls& controls, const Outputs& outputs, Calculation& calculation, App& app,
-        Fncts& fncts, Services& services);
+    NumberEntry(
+        const NumberControls& controls, Calculation& calculation, App& app, Fncts& fncts, Services& services);
 
     // Takes the number from EditFieldNbre, which has the focus, as the start leaves it.
     void Begin();
@@ -70,7 +66,7 @@ public:
 
     // Has a screen reader told what typing has given, after a pause; or not, as it is told otherwise.
     void AnnounceResultAfterPause();
-    void ForgetPause() { typingPause_.Mode = 0; }
+    void ForgetPause() { typingPause_.Mode = TimerMode::Off; }
 
 private:
     void BindEvents();
@@ -99,7 +95,6 @@ private:
     bool RecallNumber(TextField& champ, const std::string& key);
     void AnnounceResult();
 
-    Outputs outputs_;
     Calculation& calculation_;
     App& app_;
     Fncts& fncts_;

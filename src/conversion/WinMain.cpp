@@ -22,8 +22,9 @@ WinMain::WinMain(Program& owner)
                 CheckBoxMajusc, CheckBoxTrUnion, PopupMenuLg},
           wordsOutput_, app, fncts),
       entry({EditFieldNbre, EditFieldBaseOrg, EditFieldBaseDest, PopupMenuBaseOrg, PopupMenuBaseDest,
-                RadioButton09AZ, CheckBoxFormatAuto, TxtAreaDecomp1er, TxtAreaLettres, StaticTextEnAttente},
-          {factorsOutput_, wordsOutput_, decomposition, words}, calculation, app, fncts, owner.services),
+                RadioButton09AZ, CheckBoxFormatAuto, TxtAreaDecomp1er, TxtAreaLettres, StaticTextEnAttente,
+                factorsOutput_, wordsOutput_, decomposition, words},
+          calculation, app, fncts, owner.services),
       quitting(*this, owner, calculation, entry, primeFile, BevelButtonListe),
       updateCheck(app, fncts, owner.services, owner.versionFile),
       calculation(fncts, owner.services, primeFile.Nbres_Premiers, CheckBoxFormatAuto) {

@@ -66,12 +66,12 @@ void ControlView::TellModel(const std::function<void()>& tell) {
 // be read would only flicker.
 void ControlView::ReadEnabled() {
     if (control_.Enabled()) {
-        disabling_.Mode = 0;
+        disabling_.Mode = TimerMode::Off;
         widget_->setEnabled(true);
     } else if (!widget_->isVisible()) {
         widget_->setEnabled(false);
     } else if (widget_->isEnabledTo(widget_->parentWidget())) {
-        disabling_.Mode = 1;
+        disabling_.Mode = TimerMode::Single;
     }
 }
 

@@ -46,7 +46,7 @@ void Thread::Body() {
     }
 }
 
-void Timer::SetMode(int mode) {
+void Timer::SetMode(TimerMode mode) {
     if (Thread* thread = Thread::Current()) {
         thread->AfterBody([this, mode, now = loop_.Milliseconds()] { SetModeSince(now, mode); });
     } else {
@@ -54,19 +54,19 @@ void Timer::SetMode(int mode) {
     }
 }
 
-void Timer::SetModeSince(std::int64_t moment, int mode) {
+void Timer::SetModeSince(std::int64_t moment, TimerMode mode) {
     if (mode == mode_) {
         return;
     }
     mode_ = mode;
     Disarm();
-    if (mode_ != 0) {
+    if (mode_ != TimerMode::Off) {
         Arm(moment);
     }
 }
 
 void Timer::Reset() {
-    if (mode_ != 0) {
+    if (mode_ != TimerMode::Off) {
         Disarm();
         Arm(loop_.Milliseconds());
     }
@@ -86,8 +86,8 @@ void Timer::Disarm() {
 
 void Timer::Fire() {
     alarm_ = 0;
-    if (mode_ == 1) {
-        mode_ = 0;
+    if (mode_ == TimerMode::Single) {
+        mode_ = TimerMode::Off;
     } else {
         Arm(loop_.Milliseconds());
     }

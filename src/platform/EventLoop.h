@@ -81,9 +81,11 @@ private:
     std::future<void> thread_; // the last member: its end waits for the body, which uses the others
 };
 
-// Gives `Action` on the main thread, once or again and again. Mode: 0 off, 1 single, 2 multiple. A single
-// timer is off again before its Action runs. The only timer property that a Thread's body may touch is Mode;
-// what it assigns takes effect once the body has been left, the period counted from the assignment on.
+enum class TimerMode { Off, Single, Multiple };
+
+// Gives `Action` on the main thread, once or again and again. A single timer is off again before its Action
+// runs. The only timer property that a Thread's body may touch is Mode; what it assigns takes effect once the
+// body has been left, the period counted from the assignment on.
 class Timer {
 public:
     Timer(EventLoop& loop, int period) : Mode(*this), Period(period), loop_(loop) {}
@@ -99,11 +101,11 @@ public:
     public:
         explicit ModeProperty(Timer& timer) : timer_(timer) {}
         ModeProperty(const ModeProperty&) = delete;
-        ModeProperty& operator=(int mode) {
+        ModeProperty& operator=(TimerMode mode) {
             timer_.SetMode(mode);
             return *this;
         }
-        operator int() const { return timer_.mode_; }
+        operator TimerMode() const { return timer_.mode_; }
 
     private:
         Timer& timer_;
@@ -115,14 +117,14 @@ public:
     Event<void()> Action;
 
 private:
-    void SetMode(int mode);
-    void SetModeSince(std::int64_t moment, int mode);
+    void SetMode(TimerMode mode);
+    void SetModeSince(std::int64_t moment, TimerMode mode);
     void Arm(std::int64_t since);
     void Disarm();
     void Fire();
 
     EventLoop& loop_;
-    int mode_ = 0;
+    TimerMode mode_ = TimerMode::Off;
     EventLoop::AlarmId alarm_ = 0;
 };
 

@@ -41,11 +41,11 @@ void CalculationProgress::Follow(ProgressWheel& wheel, Label& label, std::uint64
     begun_ = loop_.Milliseconds();
     Goal = goal;
     looks_ = 0;
-    timer_.Mode = 2;
+    timer_.Mode = TimerMode::Multiple;
 }
 
 void CalculationProgress::End() {
-    timer_.Mode = 0;
+    timer_.Mode = TimerMode::Off;
     Goal = 0;
     if (wheel_ != nullptr) {
         wheel_->HelpTag = "";
@@ -95,7 +95,7 @@ Calculation::Calculation(Fncts& fncts, Services& services, PrimeTable& table, co
     worker_.Run = [this] {
         task_->body(task_->ThrPn1);
         thrNo_ = task_->step;
-        timerThr_.Mode = 1;
+        timerThr_.Mode = TimerMode::Single;
     };
     worker_.Failed = [this](const std::string& reason) { ThreadFailed(reason); };
 }
@@ -121,7 +121,7 @@ void Calculation::HoldMenu(bool hold) {
 void Calculation::TimerThr_Action() {
     if (IsOnThread() || fncts_.DrapDiagBox) {
         timerThr_.Period = waitingPeriod;
-        timerThr_.Mode = 1;
+        timerThr_.Mode = TimerMode::Single;
         return;
     }
     timerThr_.Period = handOverPeriod;
@@ -150,7 +150,7 @@ void Calculation::StopOnEscape(const std::string& key) {
 void Calculation::ThreadFailed(const std::string& reason) {
     Stop();
     thrNo_ = task_->step;
-    timerThr_.Mode = 1;
+    timerThr_.Mode = TimerMode::Single;
     fncts_.ReportFault("Thread, " + reason);
 }
 
