@@ -20,14 +20,12 @@ constexpr int defaultTop = 50;
 constexpr int defaultWidth = 500;
 constexpr int defaultHeight = 540;
 
-void OnReturn(TextField& field, std::function<void()> action) {
-    field.KeyDown = [action = std::move(action)](const std::string& key) {
-        const bool isReturn = IsReturn(key);
-        if (isReturn) {
-            action();
-        }
-        return isReturn;
-    };
+bool OnReturn(const std::string& key, const std::function<void()>& action) {
+    const bool isReturn = IsReturn(key);
+    if (isReturn) {
+        action();
+    }
+    return isReturn;
 }
 
 } // namespace
@@ -77,9 +75,9 @@ void WinNbresPremiers::SetInitialState() {
 }
 
 void WinNbresPremiers::BindEvents() {
-    OnReturn(EditFieldFin, [this] { PushButtonCalcPrems.Push(); });
-    OnReturn(EditFieldAffDu, [this] { FaireListe(true, true); });
-    OnReturn(EditFieldAffAu, [this] { FaireListe(true, false); });
+    EditFieldFin.KeyDown = [this](const std::string& key) { return EditFieldFin_KeyDown(key); };
+    EditFieldAffDu.KeyDown = [this](const std::string& key) { return EditFieldAffDu_KeyDown(key); };
+    EditFieldAffAu.KeyDown = [this](const std::string& key) { return EditFieldAffAu_KeyDown(key); };
     EditFieldChercher.KeyDown = [this](const std::string& key) { return EditFieldChercher_KeyDown(key); };
     EditFieldChercher.LostFocus = [this] { EditFieldChercher_LostFocus(); };
     TxtAreaListeNbres1ers.KeyDown = [this](const std::string& key) {
@@ -156,6 +154,18 @@ void WinNbresPremiers::KeepSettings() {
 bool WinNbresPremiers::Event_KeyDown(const std::string& key) {
     calculation_.StopOnEscape(key);
     return key != Chr(9);
+}
+
+bool WinNbresPremiers::EditFieldFin_KeyDown(const std::string& key) {
+    return OnReturn(key, [this] { PushButtonCalcPrems.Push(); });
+}
+
+bool WinNbresPremiers::EditFieldAffDu_KeyDown(const std::string& key) {
+    return OnReturn(key, [this] { FaireListe(true, true); });
+}
+
+bool WinNbresPremiers::EditFieldAffAu_KeyDown(const std::string& key) {
+    return OnReturn(key, [this] { FaireListe(true, false); });
 }
 
 void WinNbresPremiers::DefNbreNbPparLigne() {

@@ -71,6 +71,9 @@ public:
     void Event_Open() override;
     bool Event_CancelClose(bool appQuitting) override;
     bool Event_KeyDown(const std::string& key) override;
+    bool EditFieldFin_KeyDown(const std::string& key);
+    bool EditFieldAffDu_KeyDown(const std::string& key);
+    bool EditFieldAffAu_KeyDown(const std::string& key);
     bool EditFieldChercher_KeyDown(const std::string& key);
     void EditFieldChercher_LostFocus();
     bool TxtAreaListeNbres1ers_KeyDown(const std::string& key);
