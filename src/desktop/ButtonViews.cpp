@@ -57,9 +57,11 @@ protected:
 // A push button with the model's picture between bevel and caption.
 class BevelWidget final : public QPushButton {
 public:
-    BevelWidget(const BevelButton& model, QWidget* parent) : QPushButton(parent), model_(model) {}
+    BevelWidget(BevelButton& model, QWidget* parent) : QPushButton(parent), model_(model) {}
 
 protected:
+    void enterEvent(QEnterEvent*) override { model_.MouseEnter(); }
+    void leaveEvent(QEvent*) override { model_.MouseExit(); }
     void paintEvent(QPaintEvent*) override {
         QStylePainter painter(this);
         QStyleOptionButton option;
@@ -90,7 +92,7 @@ protected:
     }
 
 private:
-    const BevelButton& model_;
+    BevelButton& model_;
 };
 
 // What the four kinds of button share: a press by mouse, by Space or by a screen reader goes to the model,

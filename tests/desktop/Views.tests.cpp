@@ -5,6 +5,7 @@
 #include "machine/SystemClock.h"
 #include "primes/WinNbresPremiers.h"
 #include "support/TestWorld.h"
+#include "ui/WinInfos.h"
 
 #include <QAbstractItemView>
 #include <QComboBox>
@@ -44,6 +45,16 @@ TEST_CASE("A control is greyed once it has been disabled for 150 ms, and refuses
         CHECK(box->isEnabled());
         CHECK(window.CheckBoxMajusc.Value);
     }
+}
+
+TEST_CASE("The pointer over the button for a donation is a finger") {
+    UseQt();
+    TestWorld world;
+    WinInfos& about = world.program->winInfos();
+    const WindowView view(about, nullptr);
+    QEnterEvent enter({}, {}, {});
+    QCoreApplication::sendEvent(view.findChild<QWidget*>("BevButtDon"), &enter);
+    CHECK(about.MouseCursor == Cursor::Finger);
 }
 
 TEST_CASE(
