@@ -15,7 +15,7 @@ class SmallWindows(ProgramTestCase):
 
     def open_preferences(self):
         self.choose_command("Préférences")
-        return self.find("check box", "Vérifier automatiquement")
+        return self.find_with_keyboard("check box", "Vérifier automatiquement")
 
     def test_the_about_window_shows_its_pictures_and_only_its_button_closes_it(self):
         self.choose_command("À propos")
@@ -70,6 +70,8 @@ class SmallWindows(ProgramTestCase):
         self.screen.press("Return")
         self.wait_until_gone("check box", "Vérifier automatiquement")
         self.assertTrue(self.open_preferences().checked)
-        self.screen.press("Escape", "ctrl+q")
+        self.screen.press("Escape")
+        self.find_with_keyboard("check box", "Format Auto")
+        self.screen.press("ctrl+q")
         self.assertEqual(self.wait_for_end(), 0)
         self.assertIn("Auto Check Update :@: True", self.preferences_file.read_text())
