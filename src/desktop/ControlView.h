@@ -21,6 +21,9 @@ public:
     virtual QAccessibleInterface* MakeAccess() = 0;
 };
 
+// The property of a widget that is to have this role (QAccessible::Role) for screen readers, not Qt's.
+inline constexpr const char* roleProperty = "tessarolyneRole";
+
 // What draws one control: holds its widget and keeps place, visibility, enabling, help tag and accessible
 // name in step with the model. A kind of control adds its own state in Read(). The widget belongs to its
 // parent widget, and the view lives as long as the window's view.

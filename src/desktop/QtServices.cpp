@@ -5,12 +5,12 @@
 #include "desktop/Resources.h"
 #include "platform/Application.h"
 
-#include <QAccessibleWidget>
 #include <QApplication>
 #include <QClipboard>
 #include <QDesktopServices>
 #include <QElapsedTimer>
 #include <QFile>
+#include <QLabel>
 #include <QProcess>
 #include <QScreen>
 #include <QStandardPaths>
@@ -23,31 +23,6 @@
 namespace tessarolyne {
 
 namespace {
-
-// The box or the label in it.
-class NoticePart final : public QWidget, public HasAccess {
-public:
-    NoticePart(QAccessible::Role role, QWidget* parent) : QWidget(parent), role_(role) { resize(1, 1); }
-
-    QAccessibleInterface* MakeAccess() override { return new QAccessibleWidget(this, role_); }
-
-private:
-    const QAccessible::Role role_;
-};
-
-// The window that has the keyboard, else, while another program has it, any that is shown.
-QWidget* WindowToSpeakFrom() {
-    if (QWidget* const active = QApplication::activeWindow()) {
-        return active;
-    }
-    for (QWidget* const widget : QApplication::topLevelWidgets()) {
-        const bool isWindow = widget->windowType() == Qt::Window || widget->windowType() == Qt::Dialog;
-        if (isWindow && widget->isVisible()) {
-            return widget;
-        }
-    }
-    return nullptr;
-}
 
 void Silence(QProcess& process) {
     process.setStandardInputFile(QProcess::nullDevice());
@@ -136,8 +111,7 @@ ScreenSize QtStage::Screen() const {
 
 bool QtStage::IsOnOtherScreen(const WindowPlace& place) const {
     const QRect wanted(place.left, place.top, place.width, place.height);
-    const auto screens = QGuiApplication::screens();
-    return std::any_of(screens.begin(), screens.end(), [&](const QScreen* screen) {
+    return std::ranges::any_of(QGuiApplication::screens(), [&](const QScreen* screen) {
         return screen != QGuiApplication::primaryScreen() && screen->geometry().contains(wanted);
     });
 }
@@ -160,14 +134,15 @@ void QtAnnouncer::Say(const std::string& text) {
 
 // A reader asks for the text a moment after it was told that the box shows, so that it has to stay.
 void QtAnnouncer::Show() {
-    QWidget* const window = WindowToSpeakFrom();
+    QWidget* const window = WindowInUse();
     if (window == nullptr) {
         return;
     }
     delete last_;
-    auto* const box = new NoticePart(QAccessible::Notification, window);
-    auto* const label = new NoticePart(QAccessible::StaticText, box);
-    label->setAccessibleName(text_);
+    auto* const box = new QWidget(window);
+    box->setProperty(roleProperty, QVariant::fromValue(QAccessible::Notification));
+    box->resize(1, 1);
+    (new QLabel(box))->setAccessibleName(text_);
     last_ = box;
     box->show();
 }

@@ -140,8 +140,11 @@ QAccessibleInterface* MakeAccess(const QString& className, QObject* object) {
         return new LineAccess(*line);
     }
     auto* const widget = qobject_cast<QWidget*>(object);
-    if (className == QLatin1String("QDialogButtonBox")) {
-        return new ProxiedAccess(widget, QAccessible::Grouping);
+    const QVariant role = className == QLatin1String("QDialogButtonBox")
+                              ? QVariant::fromValue(QAccessible::Grouping)
+                              : object->property(roleProperty);
+    if (role.isValid()) {
+        return new ProxiedAccess(widget, role.value<QAccessible::Role>());
     }
     const bool isPlain = className == QLatin1String("QWidget") && widget->focusProxy() != nullptr;
     return isPlain ? new ProxiedAccess(widget) : nullptr;

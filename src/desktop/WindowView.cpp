@@ -5,7 +5,6 @@
 #include "platform/Services.h"
 #include "platform/Window.h"
 
-#include <QAccessibleWidget>
 #include <QApplication>
 #include <QKeyEvent>
 #include <QPointer>
@@ -57,25 +56,33 @@ bool PlacesWindows() {
 
 } // namespace
 
-void StandBeforeOthers(QWidget& dialog) {
-    const QWidget* const active = QApplication::activeWindow();
-    QWindow* before = active == nullptr ? nullptr : active->windowHandle();
-    for (QWindow* const window : QGuiApplication::topLevelWindows()) {
-        if (before == nullptr && window->isVisible() && window->type() == Qt::Window) {
-            before = window;
+QWidget* WindowInUse() {
+    QWidget* found = QApplication::activeWindow();
+    for (const QWindow* const window : QGuiApplication::topLevelWindows()) {
+        const bool counts = window->type() == Qt::Window || window->type() == Qt::Dialog;
+        if (found == nullptr && counts && window->isVisible()) {
+            found = QWidget::find(window->winId());
         }
     }
+    return found;
+}
+
+void StandBeforeOthers(QWidget& dialog) {
+    const QWidget* const before = WindowInUse();
     dialog.winId();
-    dialog.windowHandle()->setTransientParent(before);
+    dialog.windowHandle()->setTransientParent(before == nullptr ? nullptr : before->windowHandle());
 }
 
 WindowView::WindowView(Window& window, QtMenu* menu)
     : QWidget(nullptr, Flags(window.Frame)), window_(window), content_(new WindowContent(this)),
       bar_(menu == nullptr ? nullptr : menu->AddTo(*this)),
       focus_(window, *this, [this](const Control* control) { return Find(control); }) {
-    if (window.Frame.kind == WindowFrame::Kind::MovableModal && window.Frame.blocksOthers) {
+    const bool isDialog = window.Frame.kind == WindowFrame::Kind::MovableModal;
+    if (isDialog && window.Frame.blocksOthers) {
         setWindowModality(Qt::ApplicationModal);
     }
+    // A screen reader tells by the role which kind of window one is in; Qt calls a mere widget a filler.
+    setProperty(roleProperty, QVariant::fromValue(isDialog ? QAccessible::Dialog : QAccessible::Window));
     AddShortcuts();
     AddViews();
     Observe();
@@ -98,12 +105,6 @@ void WindowView::AddShortcuts() {
             action, &QAction::triggered, this, [this, &shortcut] { window_.UserPressedShortcut(shortcut); });
         addAction(action);
     }
-}
-
-// A screen reader tells by the role which kind of window one is in; Qt calls a mere widget a filler.
-QAccessibleInterface* WindowView::MakeAccess() {
-    const bool isDialog = window_.Frame.kind == WindowFrame::Kind::MovableModal;
-    return new QAccessibleWidget(this, isDialog ? QAccessible::Dialog : QAccessible::Window);
 }
 
 void WindowView::Observe() {

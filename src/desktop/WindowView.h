@@ -39,14 +39,17 @@ private:
     std::vector<std::pair<MenuItem*, QAction*>> actions_;
 };
 
-// Lets a free-standing dialog stand before the window that the user is in, else before the first that is
-// shown: a click on that would else take the keys from the one that waits for an answer.
+// The window that has the keyboard; while another program has it, the first that is shown. Null if none is.
+QWidget* WindowInUse();
+
+// Lets a free-standing dialog stand before that window: a click on it would else take the keys from the one
+// that waits for an answer.
 void StandBeforeOthers(QWidget& dialog);
 
 // The real window of a model: its frame, menu bar and controls. The menu bar stands above the model's
 // area, which keeps its size and scrolls where the screen is smaller. The view never closes by itself; it
 // asks the model, and goes when that has closed.
-class WindowView final : public QWidget, public HasAccess {
+class WindowView final : public QWidget {
 public:
     // `menu` may be null; the first window that has it shows the bar.
     WindowView(Window& window, QtMenu* menu);
@@ -54,7 +57,6 @@ public:
     Window& Model() const { return window_; }
     // The widget of the control that has the program's focus; null if none has it.
     QWidget* FocusedWidget() const;
-    QAccessibleInterface* MakeAccess() override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
