@@ -63,7 +63,7 @@ bool AskOpener(const QUrl& url, const std::function<void()>& refused) {
 // Of PipeWire, PulseAudio, ALSA and macOS.
 QString FindPlayer() {
     for (const char* const player : {"pw-play", "paplay", "aplay", "afplay"}) {
-        if (const QString found = QStandardPaths::findExecutable(QLatin1String(player)); !found.isEmpty()) {
+        if (QString found = QStandardPaths::findExecutable(QLatin1String(player)); !found.isEmpty()) {
             return found;
         }
     }

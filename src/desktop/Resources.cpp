@@ -17,8 +17,9 @@ namespace {
 
 // From the folder of the program: bin/ of an installed tree (with the icons in the desktop's own place), a
 // bundle, the top of a build, a folder inside it, and what the build itself has made.
-constexpr const char* places[] = {INSTALLED_DATA "/tessarolyne", INSTALLED_DATA, "../Resources", "resources",
-    "../resources", "share/tessarolyne"};
+constexpr const char* installed = INSTALLED_DATA "/tessarolyne";
+constexpr const char* places[] = {
+    installed, INSTALLED_DATA, "../Resources", "resources", "../resources", "share/tessarolyne"};
 
 // Of the defaults in the string table.
 constexpr QLatin1String builtInLanguage("fr");
