@@ -89,9 +89,10 @@ void Decomposition::DecompPremFin(std::uint64_t n) {
         if (product != n) {
             const std::string shown = FormatWhole(n, true);
             const std::string recomposed = FormatWhole(product, true);
-            fncts_.WarnOfMismatch(memErrDecomp_, recomposed + " ≠ " + shown,
-                fncts_.Filled(Localisation::Txt_ErrDeDecomp(), {shown, recomposed}));
-            PushButtDecomposer.Enabled = true;
+            if (fncts_.WarnOfMismatch(memErrDecomp_, recomposed + " ≠ " + shown,
+                    fncts_.Filled(Localisation::Txt_ErrDeDecomp(), {shown, recomposed}))) {
+                PushButtDecomposer.Enabled = true;
+            }
         }
         TableMayHaveGrown(true);
     }

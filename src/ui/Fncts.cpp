@@ -171,10 +171,12 @@ void Fncts::Warn(const std::string& message, const std::string& bouton, const st
     MyDialogBox(message, explication, bouton, "", "", 1, nullptr);
 }
 
-void Fncts::WarnOfMismatch(std::string& last, const std::string& results, const std::string& message) {
-    if (std::exchange(last, results) != results) {
+bool Fncts::WarnOfMismatch(std::string& last, const std::string& results, const std::string& message) {
+    const bool isNew = std::exchange(last, results) != results;
+    if (isNew) {
         Warn(message, Localisation::Btn_Ok(), Localisation::Txt_MerciContactAuteur());
     }
+    return isNew;
 }
 
 std::optional<FolderItem> Fncts::MyDialogLoad(const std::optional<FolderItem>& depart,

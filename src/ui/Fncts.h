@@ -53,8 +53,9 @@ public:
         int icone, Window* fenetre, const DialogHelpTags& bulles = {});
     // Beeps, and tells what is wrong, with one button.
     void Warn(const std::string& message, const std::string& bouton, const std::string& explication = "");
-    // The same for two results that should agree and don't: once, until others don't. `last` remembers them.
-    void WarnOfMismatch(std::string& last, const std::string& results, const std::string& message);
+    // The same for two results that should agree and don't: once, until others don't. `last` remembers them;
+    // true if it was told.
+    bool WarnOfMismatch(std::string& last, const std::string& results, const std::string& message);
 
     // Hands an address to the desktop without waiting. One that isn't safe to hand on, or that nothing takes,
     // is shown to the user instead, to copy or not.

@@ -119,12 +119,10 @@ TEST_CASE(
             way == 0   ? window.UserClosed()
             : way == 2 ? world.program->app.RequestQuit()
                        : world.program->winNbresPremiers().UserClosed();
-            CHECK_FALSE(world.program->fncts.ArretUrg);
-            CHECK(window.calculation.CalculEnCours());
+            CHECK((!world.program->fncts.ArretUrg && window.calculation.CalculEnCours()));
             window.calculation.Stop();
             world.loop.Until([&] { return !window.calculation.CalculEnCours(); });
-            CHECK(world.program->fncts.DrapMenu);
-            CHECK_FALSE(Ended(world));
+            CHECK((world.program->fncts.DrapMenu && !Ended(world)));
         }
     }
 }

@@ -48,12 +48,9 @@ TEST_CASE("Every setting comes from its line of the file, and goes back to it") 
     CHECK((world.program->app.AutoCheckUpdt && !world.program->fncts.Annonces));
     CHECK(std::pair(window.Left(), window.Top()) == std::pair(300, 200));
     CHECK((window.CheckBoxMajusc.Value() && window.CheckBoxTrUnion.Value()));
-    CHECK_FALSE(window.CheckBoxFormatAuto.Value());
-    CHECK(window.RadioButton09AZ[1].Value());
-    CHECK(window.PopupMenuBaseOrg.Text() == "en base 8");
-    CHECK(window.PopupMenuBaseDest.Text() == "en base 36");
-    CHECK(window.EditFieldMonnaie.Text() == "a :@: b");
-    CHECK(window.EditFieldCentime.Text().empty());
+    CHECK((!window.CheckBoxFormatAuto.Value() && window.RadioButton09AZ[1].Value()));
+    CHECK(window.PopupMenuBaseOrg.Text() + window.PopupMenuBaseDest.Text() == "en base 8en base 36");
+    CHECK((window.EditFieldMonnaie.Text() == "a :@: b" && window.EditFieldCentime.Text().empty()));
     CHECK(window.EditFieldBaseOrg.Text().empty()); // loading settings computes nothing
     window.UserClosed();
     CHECK(world.files.entries.at(world.preferencesFile).content == ReplaceAll(file, "09:05:03", "12:00:00"));
@@ -80,9 +77,9 @@ TEST_CASE("A place that isn't whole on the screen, by one point, is the default 
     const int bottom = 1024 - 594;
     const struct {
         int left, top;
-        bool whole;
-    } rows[] = {{0, 38, true}, {right, bottom, true}, {0, 37, false}, {-1, 100, false},
-        {right + 1, 100, false}, {right, bottom + 1, false}, {1280, 0, true}}; // the last on a second screen
+        bool whole = false;
+    } rows[] = {{0, 38, true}, {right, bottom, true}, {0, 37}, {-1, 100}, {right + 1, 100},
+        {right, bottom + 1}, {1280, 0, true}}; // the last on a second screen
     for (const auto& [left, top, whole] : rows) {
         TestWorld world("Fenetre WinMain :@: " + std::to_string(left) + "," + std::to_string(top) + ",1,1\n");
         world.program->Start();
@@ -102,10 +99,8 @@ TEST_CASE("A file that can't be read to its end says so, keeps what came before,
     CHECK(world.dialogs.told.at(0) ==
           "Error ! Please contact the authors.\nPrefsCharger, problem while reading file!");
     const WinMain& window = world.Main();
-    CHECK(window.PopupMenuBaseDest.ListIndex == 8);
-    CHECK(window.PopupMenuBaseOrg.ListIndex == 14);
-    CHECK_FALSE(window.CheckBoxMajusc.Value());
-    CHECK(window.PopupMenuLg.ListIndex == 0);
+    CHECK((window.PopupMenuBaseDest.ListIndex == 8 && window.PopupMenuBaseOrg.ListIndex == 14));
+    CHECK((!window.CheckBoxMajusc.Value() && window.PopupMenuLg.ListIndex == 0));
     world.program->app.PrefsSauver(false);
     const std::string kept = world.files.entries.at(std::string(world.preferencesFile) + ".bad").content;
     CHECK(kept.find("Org :@: 35") != std::string::npos);
@@ -138,9 +133,7 @@ TEST_CASE("The first launch gives the hint, then the about window, and neither p
     });
     world.program->Start();
     CHECK(world.dialogs.asked.at(0).message == Localisation::Txt_SiVsVoulezConservNbPrem());
-    CHECK(world.program->app.initProg);
-    CHECK(world.program->fncts.DrapMenu);
-    CHECK(world.http.requests.empty());
+    CHECK((world.program->app.initProg && world.program->fncts.DrapMenu && world.http.requests.empty()));
 }
 
 TEST_CASE("Until the user has given, each start asks for a donation") {

@@ -1,15 +1,12 @@
 """The program as Debian installed it finds what it brought along. Run by tests/package/run."""
 
 import os
-import re
-import subprocess
 import sys
 from pathlib import Path
 
 sys.path.insert(0, str(Path(__file__).resolve().parents[1] / "desktop"))
 
 from case import ProgramTestCase  # noqa: E402
-from program import PROGRAM  # noqa: E402
 
 # Where it is installed: on this machine, or in a tree of its own.
 TREE = Path(os.environ.get("TESSAROLYNE_TREE", "/"))
@@ -39,11 +36,3 @@ class Installed(ProgramTestCase):
         sound = played.read_text().strip()
         self.assertEqual("/usr/share/tessarolyne/sounds/Bip.wav", sound)
         self.assertTrue((TREE / sound[1:]).is_file())
-
-    def test_the_version_is_told_without_a_display(self):
-        answer = subprocess.run(
-            [PROGRAM, "--version"], env={"PATH": os.environ["PATH"]}, capture_output=True, text=True, check=True
-        )
-        query = ["dpkg-query", f"--admindir={TREE}/var/lib/dpkg", "--show", "--showformat=${Version}", "tessarolyne"]
-        package = subprocess.run(query, capture_output=True, text=True, check=True).stdout
-        self.assertEqual(f"Tessarolyne {re.split('[-~]', package)[0]}\n", answer.stdout)

@@ -107,12 +107,10 @@ TEST_CASE(
         Bound atStart(fewer);
         atStart.Main().primeFile.Nbres_Premiers.Clear();
         fail(atStart);
-        CHECK(atStart.Table() == firstFour);
-        CHECK(atStart.BoundFile().has_value());
+        CHECK((atStart.Table() == firstFour && atStart.BoundFile().has_value()));
         CHECK(atStart.LastMessage() ==
               (fault == 4 ? Localisation::Txt_FichTropGrand() : Localisation::Txt_ErreurLectFich()));
-        CHECK(atStart.dialogs.asked[0].icon == 1);
-        CHECK(atStart.sounds.beeps == 1);
+        CHECK((atStart.dialogs.asked[0].icon == 1 && atStart.sounds.beeps == 1));
         atStart.Main().UserClosed(); // asks nothing
         atStart.loop.Advance(50);
         CHECK(atStart.loop.IsQuitting());
@@ -146,8 +144,7 @@ TEST_CASE("While it works the window is drawn, holds the commands and can't be c
         });
         saving ? window.SaveNb1ers() : window.LoadNb1ers();
         CHECK(drawn == (saving ? 5 : 6));
-        CHECK(window.IsClosed());
-        CHECK(world.program->fncts.DrapMenu);
+        CHECK((window.IsClosed() && world.program->fncts.DrapMenu));
     }
 }
 
@@ -213,10 +210,8 @@ TEST_CASE("A failed save says so with three beeps and leaves table and file as t
         world.dialogs.Expect(Action);
         world.Save();
         CHECK(world.LastMessage() == Localisation::Txt_ErreurEcritFich());
-        CHECK(world.dialogs.asked.back().icon == 1);
-        CHECK(world.sounds.beeps == 3 * (fault + 1));
-        CHECK(world.Table() == found);
-        CHECK(world.Main().primeFile.Nb_NbrePcharg == 6);
+        CHECK((world.dialogs.asked.back().icon == 1 && world.sounds.beeps == 3 * (fault + 1)));
+        CHECK((world.Table() == found && world.Main().primeFile.Nb_NbrePcharg == 6));
         CHECK(world.program->fncts.DrapMenu);
     }
     CHECK(world.Content() == "2\t3\t5\t7\n");
@@ -224,9 +219,7 @@ TEST_CASE("A failed save says so with three beeps and leaves table and file as t
 
 TEST_CASE("The binding, Option and Shift decide what a click does") {
     for (int keys = 0; keys < 8; ++keys) {
-        const bool bound = (keys & 1) != 0;
-        const bool option = (keys & 2) != 0;
-        const bool shift = (keys & 4) != 0;
+        const bool bound = (keys & 1) != 0, option = (keys & 2) != 0, shift = (keys & 4) != 0;
         CAPTURE(keys);
         WithButton world(bound);
         const bool load = bound != shift;

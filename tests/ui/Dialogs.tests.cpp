@@ -29,9 +29,7 @@ TEST_CASE("Behind a dialog or a modal window nothing that the user does counts, 
         window.EditFieldNbre.UserTyped("9");
         CHECK(world.sounds.beeps == beeps + 6);
         window.EditFieldBaseOrg.UserFocused();
-        list.EditFieldAffDu.Text = "3";
-        list.EditFieldAffDu.UserPressedKey(Chr(13));
-        list.EditFieldAffDu.Text = "1";
+        list.EditFieldAffAu.UserPressedKey(Chr(13));
         list.EditFieldAffDu.UserFocused();
         world.program->app.GetMenuBar()->Find("ApplePrefs")->UserChose(world.program->app);
         world.loop.Advance(100);
@@ -63,11 +61,11 @@ TEST_CASE("The result of a calculation that began while a question was up waits,
         CHECK(window.calculation.CalculEnCours());
     });
     world.program->fncts.MyDialogBox("m", "", "Ok", "", "", 0, nullptr);
-    CHECK(window.TxtAreaDecomp1er.Text() == "…");
-    CHECK((window.ProgressWheel1.Visible() && !world.program->fncts.DrapMenu));
+    CHECK((window.TxtAreaDecomp1er.Text() == "…" && window.ProgressWheel1.Visible()));
+    CHECK_FALSE(world.program->fncts.DrapMenu);
     world.Settle();
-    CHECK(window.TxtAreaDecomp1er.Text() == "2 x 3");
-    CHECK((!window.ProgressWheel1.Visible() && world.program->fncts.DrapMenu));
+    CHECK((window.TxtAreaDecomp1er.Text() == "2 x 3" && !window.ProgressWheel1.Visible()));
+    CHECK(world.program->fncts.DrapMenu);
 }
 
 TEST_CASE("Several beeps stand apart, and a sound is waited for if it is to be") {
