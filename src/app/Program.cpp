@@ -44,8 +44,8 @@ WinMain& Program::winMain() {
 
 WinNbresPremiers& Program::winNbresPremiers() {
     WinMain& main = winMain();
-    return Instance(winNbresPremiers_, main.primeFile, main.calculation, main.quitting,
-        main.CheckBoxFormatAuto, main.BevelButtonListe);
+    return Instance(winNbresPremiers_, main.primeFile, main.calculation, main, main.CheckBoxFormatAuto,
+        main.BevelButtonListe);
 }
 
 WinChargSauvNb1ers& Program::winChargSauvNb1ers() {

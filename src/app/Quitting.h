@@ -23,10 +23,6 @@ public:
 
     // What the main window answers to its close; always true until all is decided.
     bool CancelClose(bool appQuitting);
-    // Asks whether to stop the running calculation and quit; on yes, TimerQuit waits for its end.
-    void AskToStopCalculation();
-    // Goes on with a request to quit as soon as nothing is in its way any more.
-    void Ask() { timerQuit_.Mode = TimerMode::Single; }
     bool IsUnderWay() const;
     // From now on there are settings to save.
     void StartIsOver() { startIsOver_ = true; }
@@ -36,6 +32,7 @@ public:
 private:
     int AskOnTheWayOut(const std::string& message, const std::string& explanation, const std::string& action,
         const std::string& cancel, const std::string& alternate, int icon);
+    void AskToStopCalculation();
     bool AskAboutNewPrimes(bool& enregistrer);
     void StayOpen();
     void DecideClose(bool enregistrer);

@@ -1,6 +1,5 @@
 #include "primes/WinNbresPremiers.h"
 
-#include "app/Quitting.h"
 #include "platform/Numbers.h"
 #include "platform/Text.h"
 #include "primes/Calculation.h"
@@ -31,9 +30,9 @@ bool OnReturn(const std::string& key, const std::function<void()>& action) {
 } // namespace
 
 WinNbresPremiers::WinNbresPremiers(Program& owner, PrimeFileBinding& primeFile, Calculation& calculation,
-    Quitting& quitting, const CheckBox& grouped, BevelButton& listButton)
+    Window& mainWindow, const CheckBox& grouped, BevelButton& listButton)
     : ProgramWindow(owner, Localisation::WinNbresTitre(), 520, 585, frame), primeFile_(primeFile),
-      table_(primeFile.Nbres_Premiers), calculation_(calculation), quitting_(quitting), grouped_(grouped),
+      table_(primeFile.Nbres_Premiers), calculation_(calculation), mainWindow_(mainWindow), grouped_(grouped),
       listButton_(listButton) {
     SetInitialState();
     ExplainControls();
@@ -126,13 +125,11 @@ void WinNbresPremiers::PlaceWindow() {
 
 bool WinNbresPremiers::Event_CancelClose(bool appQuitting) {
     if (calculation_.CalculEnCours()) {
-        quitting_.AskToStopCalculation();
-        return true;
+        return mainWindow_.Event_CancelClose(false); // asks whether to stop it and quit
     }
     if (appQuitting) {
         if (!app.DrapOkQuit) {
-            quitting_.Ask();
-            return true;
+            return mainWindow_.Event_CancelClose(true);
         }
     } else if (!fncts.DrapMenu) {
         fncts.Beep();

@@ -14,16 +14,16 @@ namespace tessarolyne {
 class Calculation;
 class PrimeFileBinding;
 class PrimeTable;
-class Quitting;
 
 // The list of primes: a slice of the table, at most 2000 at a time, the run that
 // extends the table up to a limit, and the button to the prime file. The window exists while it is open; it
 // must be asked for only while BevelButtonListe of the main window says so.
 class WinNbresPremiers final : public ProgramWindow {
 public:
-    // `grouped` says how numbers are shown, `listButton` that the window is open.
+    // `grouped` says how numbers are shown, `listButton` that the window is open; `mainWindow` decides a
+    // quit.
     WinNbresPremiers(Program& owner, PrimeFileBinding& primeFile, Calculation& calculation,
-        Quitting& quitting, const CheckBox& grouped, BevelButton& listButton);
+        Window& mainWindow, const CheckBox& grouped, BevelButton& listButton);
 
     PushButton PushButtonCalcPrems{*this, "PushButtonCalcPrems", {20, 14, 210, 20}, lockLeftTop, TabStop(0)};
     TextField EditFieldFin{*this, "EditFieldFin", {242, 13, 170, 22}, lockLeftTop, TabStop(1)};
@@ -97,7 +97,7 @@ private:
     PrimeFileBinding& primeFile_;
     const PrimeTable& table_;
     Calculation& calculation_;
-    Quitting& quitting_;
+    Window& mainWindow_;
     const CheckBox& grouped_;
     BevelButton& listButton_;
 

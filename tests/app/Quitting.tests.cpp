@@ -114,7 +114,7 @@ TEST_CASE(
                 world.loop.Advance(50);
             });
             if (way == 3) {
-                window.quitting.Ask();
+                window.quitting.CancelClose(true);
             }
             way == 0   ? window.UserClosed()
             : way == 2 ? world.program->app.RequestQuit()
