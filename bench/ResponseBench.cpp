@@ -2,6 +2,7 @@
 // and how long a calculation takes to stop: the program with its real windows on Qt's offscreen platform.
 // Beside it, the same program while nothing happens. Ends with 1 when a bar is missed.
 
+#include "app/ProgramRun.h"
 #include "conversion/WinMain.h"
 #include "desktop/QtApplication.h"
 #include "desktop/QtServices.h"
@@ -10,7 +11,6 @@
 #include "machine/SystemClock.h"
 #include "platform/Text.h"
 #include "primes/WinNbresPremiers.h"
-#include "ui/Program.h"
 
 #include <algorithm>
 #include <chrono>
@@ -223,7 +223,7 @@ private:
     }
 
     EventLoop& loop_;
-    Program program_;
+    ProgramRun program_;
     WinMain& main_ = program_.winMain();
     Heartbeat heartbeat_;
     // The commands come back in the handler that ends a calculation, the popups with them.

@@ -1,13 +1,13 @@
 // One update check at the address that is given, by the whole program on a screen in memory, up to the dialog
 // that tells the outcome. Prints the KiB that it took over the idle program. For UpdateMemoryBench.
 
+#include "app/ProgramRun.h"
 #include "conversion/WinMain.h"
 #include "desktop/QtApplication.h"
 #include "desktop/QtServices.h"
 #include "desktop/Resources.h"
 #include "machine/PosixFileSystem.h"
 #include "machine/SystemClock.h"
-#include "ui/Program.h"
 
 #include <QTimer>
 
@@ -54,7 +54,7 @@ void Check(const std::string& url) {
     QtApplication application("UpdateMemoryBench", "org.tessarolyne.Benchmark");
     QtServices services(files);
     Services world = services.With(clock, files, memory);
-    Program program(world, url);
+    ProgramRun program(world, url);
     program.Start();
     long idle = 0;
     QTimer::singleShot(500, [&] {

@@ -1,10 +1,10 @@
 #include "app/CommandLine.h"
+#include "app/ProgramRun.h"
 #include "desktop/QtApplication.h"
 #include "desktop/QtServices.h"
 #include "desktop/Resources.h"
 #include "machine/PosixFileSystem.h"
 #include "machine/SystemClock.h"
-#include "ui/Program.h"
 #include "ui/Version.h"
 
 #include <iostream>
@@ -27,7 +27,7 @@ int main(int count, char** arguments) {
     const QtTranslations translations;
     QtServices services(files);
     Services world = services.With(clock, files, memory);
-    Program program(world);
+    ProgramRun program(world);
 
     desktop.OnSessionEnds = [&] { program.EndWithoutAsking(); };
     desktop.OnQuitRequested = [&] {

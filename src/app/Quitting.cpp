@@ -1,5 +1,6 @@
 #include "app/Quitting.h"
 
+#include "app/Settings.h"
 #include "conversion/NumberEntry.h"
 #include "platform/Controls.h"
 #include "platform/Numbers.h"
@@ -21,11 +22,11 @@ constexpr int quitPeriod = 10; // milliseconds
 
 } // namespace
 
-Quitting::Quitting(Window& mainWindow, Program& program, Calculation& calculation, NumberEntry& entry,
-    PrimeFileBinding& primeFile, const BevelButton& BevelButtonListe)
+Quitting::Quitting(Window& mainWindow, Program& program, Settings& settings, Calculation& calculation,
+    NumberEntry& entry, PrimeFileBinding& primeFile, const BevelButton& BevelButtonListe)
     : mainWindow_(mainWindow), program_(program), app_(program.app), fncts_(program.fncts),
-      calculation_(calculation), entry_(entry), primeFile_(primeFile), bevelButtonListe_(BevelButtonListe),
-      timerQuit_(program.services.loop, quitPeriod) {
+      settings_(settings), calculation_(calculation), entry_(entry), primeFile_(primeFile),
+      bevelButtonListe_(BevelButtonListe), timerQuit_(program.services.loop, quitPeriod) {
     timerQuit_.Action = [this] { TimerQuit_Action(); };
 }
 
@@ -121,7 +122,7 @@ void Quitting::DecideClose(bool enregistrer) {
         program_.winNbresPremiers().Close();
     }
     if (app_.initProg) {
-        app_.PrefsSauver(listeVisible);
+        settings_.PrefsSauver(listeVisible);
     }
     if (enregistrer) {
         program_.winChargSauvNb1ers().SaveNb1ers();
@@ -156,7 +157,7 @@ void Quitting::SaveWithoutAsking() {
     if (listeVisible) {
         program_.winNbresPremiers().KeepSettings();
     }
-    app_.PrefsSauver(listeVisible, true);
+    settings_.PrefsSauver(listeVisible, true);
     if (!program_.HasWinChargSauvNb1ers()) {
         primeFile_.SaveQuietly();
     }

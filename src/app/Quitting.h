@@ -13,13 +13,14 @@ class Fncts;
 class NumberEntry;
 class PrimeFileBinding;
 class Program;
+class Settings;
 class Window;
 
 // The way out: a close can't finish at once, since a calculation may run and questions may have to be asked.
 class Quitting {
 public:
-    Quitting(Window& mainWindow, Program& program, Calculation& calculation, NumberEntry& entry,
-        PrimeFileBinding& primeFile, const BevelButton& BevelButtonListe);
+    Quitting(Window& mainWindow, Program& program, Settings& settings, Calculation& calculation,
+        NumberEntry& entry, PrimeFileBinding& primeFile, const BevelButton& BevelButtonListe);
 
     // What the main window answers to its close; always true until all is decided.
     bool CancelClose(bool appQuitting);
@@ -42,6 +43,7 @@ private:
     Program& program_;
     App& app_;
     Fncts& fncts_;
+    Settings& settings_;
     Calculation& calculation_;
     NumberEntry& entry_;
     PrimeFileBinding& primeFile_;

@@ -43,7 +43,7 @@ void WinMain::Event_Open() {
     if (!FindPreferencesFolder()) {
         return;
     }
-    const bool premierLancement = app.PrefsCharger();
+    const bool premierLancement = settings.PrefsCharger();
     SweepLeftovers();
     Refresh();
     Show();

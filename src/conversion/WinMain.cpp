@@ -25,7 +25,7 @@ WinMain::WinMain(Program& owner)
                 RadioButton09AZ, CheckBoxFormatAuto, TxtAreaDecomp1er, TxtAreaLettres, StaticTextEnAttente,
                 factorsOutput_, wordsOutput_, decomposition, words},
           calculation, app, fncts, owner.services),
-      quitting(*this, owner, calculation, entry, primeFile, BevelButtonListe),
+      quitting(*this, owner, settings, calculation, entry, primeFile, BevelButtonListe),
       updateCheck(app, fncts, owner.services, owner.versionFile),
       calculation(fncts, owner.services, primeFile.Nbres_Premiers, CheckBoxFormatAuto) {
     SetInitialState();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "app/Quitting.h"
+#include "app/Settings.h"
 #include "app/UpdateCheck.h"
 #include "conversion/NumberEntry.h"
 #include "platform/Controls.h"
@@ -89,6 +90,7 @@ public:
     Decomposition decomposition;
     Words words;
     NumberEntry entry;
+    Settings settings{*this, app, fncts};
     Quitting quitting;
     UpdateCheck updateCheck;
 

@@ -58,17 +58,17 @@ TEST_CASE("Every setting comes from its line of the file, and goes back to it") 
 
 TEST_CASE("A second instance leaves the binding that another has made meanwhile, and makes its own") {
     TestWorld world;
-    Program second(world.services);
+    ProgramRun second(world.services);
     second.Start();
-    const auto bind = [&](App& app, const char* path) {
+    const auto bind = [&](Program& program, const char* path) {
         world.files.AddFile(path, "2\t3\t5\t7\n");
-        app.FichNbPrems = world.files.At(path);
-        app.PrefsSauver(false);
+        program.app.FichNbPrems = world.files.At(path);
+        program.winMain().settings.PrefsSauver(false);
     };
-    bind(world.program->app, "/home/user/a.txt");
-    second.app.PrefsSauver(false);
+    bind(*world.program, "/home/user/a.txt");
+    second.winMain().settings.PrefsSauver(false);
     CHECK(world.HasSaved("Root:home:user:a.txt\n"));
-    bind(second.app, "/home/user/b.txt");
+    bind(second, "/home/user/b.txt");
     CHECK(world.HasSaved("Root:home:user:b.txt\n"));
 }
 
@@ -101,7 +101,7 @@ TEST_CASE("A file that can't be read to its end says so, keeps what came before,
     const WinMain& window = world.Main();
     CHECK((window.PopupMenuBaseDest.ListIndex == 8 && window.PopupMenuBaseOrg.ListIndex == 14));
     CHECK((!window.CheckBoxMajusc.Value() && window.PopupMenuLg.ListIndex == 0));
-    world.program->app.PrefsSauver(false);
+    world.Main().settings.PrefsSauver(false);
     const std::string kept = world.files.entries.at(std::string(world.preferencesFile) + ".bad").content;
     CHECK(kept.find("Org :@: 35") != std::string::npos);
     CHECK(world.HasSaved("Org :@: 14"));

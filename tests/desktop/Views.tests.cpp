@@ -73,7 +73,7 @@ TEST_CASE(
     CHECK(desktop.dialogs.Ask(question) == DialogButton::None);
     Services services{clock, desktop.loop, desktop.stage, desktop.dialogs, parts.desktop, parts.sounds,
         parts.http, parts.files, parts.memory, parts.announcer};
-    Program program(services);
+    ProgramRun program(services);
     program.Start();
     desktop.loop.Post([&] { program.app.RequestQuit(); });
     CHECK(program.fncts.MyDialogBox("m", "", "Ok", "", "", 0, &program.winNbresPremiers()) == 0);

@@ -14,7 +14,7 @@ TestWorld::TestWorld(Launch launch) {
     if (launch == Launch::Settled) {
         files.AddFile(preferencesFile, "Deja Envoye Don 03 :@: True\n");
     }
-    program = std::make_unique<Program>(services);
+    program = std::make_unique<ProgramRun>(services);
     if (launch == Launch::Settled) {
         program->Start();
     }

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/ProgramRun.h"
 #include "conversion/WinMain.h"
 #include "support/MemoryFileSystem.h"
 #include "support/VirtualLoop.h"
@@ -162,7 +163,7 @@ public:
     PlentyOfMemory memory;
     TestAnnouncer announcer;
     Services services{loop, loop, stage, dialogs, desktop, sounds, http, files, memory, announcer};
-    std::unique_ptr<Program> program;
+    std::unique_ptr<ProgramRun> program;
 };
 
 } // namespace tessarolyne

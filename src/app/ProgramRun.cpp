@@ -1,4 +1,4 @@
-#include "ui/Program.h"
+#include "app/ProgramRun.h"
 
 #include "conversion/MenuBar1.h"
 #include "conversion/WinMain.h"
@@ -14,23 +14,22 @@
 
 namespace tessarolyne {
 
-Program::Program(Services& world) : Program(world, versionFileAddress) {}
+ProgramRun::ProgramRun(Services& world) : ProgramRun(world, versionFileAddress) {}
 
-Program::Program(Services& world, std::string versionFileUrl)
-    : services(world), versionFile(std::move(versionFileUrl)), fncts(app, world), app(*this, world),
-      menuBar_(std::make_unique<MenuBar1>()) {
+ProgramRun::ProgramRun(Services& world, std::string versionFileUrl)
+    : Program(world, std::move(versionFileUrl)), menuBar_(std::make_unique<MenuBar1>()) {
     app.UseMenuBar(menuBar_.get());
     app.OnWindowClosed = [this](Window& window) { LetGo(window); };
 }
 
 // A thread that still computes looks at the flag; the windows' destructors wait for it.
-Program::~Program() {
+ProgramRun::~ProgramRun() {
     fncts.ArretUrg = true;
 }
 
 // The instance is in its place before its Open event, which speaks to other windows and they to it.
 template <typename WindowClass, typename... Parts>
-WindowClass& Program::Instance(std::unique_ptr<WindowClass>& window, Parts&... parts) {
+WindowClass& ProgramRun::Instance(std::unique_ptr<WindowClass>& window, Parts&... parts) {
     if (!window) {
         window = std::make_unique<WindowClass>(*this, parts...);
         window->Event_Open();
@@ -38,34 +37,34 @@ WindowClass& Program::Instance(std::unique_ptr<WindowClass>& window, Parts&... p
     return *window;
 }
 
-WinMain& Program::winMain() {
+WinMain& ProgramRun::winMain() {
     return Instance(winMain_);
 }
 
-WinNbresPremiers& Program::winNbresPremiers() {
+WinNbresPremiers& ProgramRun::winNbresPremiers() {
     WinMain& main = winMain();
     return Instance(winNbresPremiers_, main.primeFile, main.calculation, main, main.CheckBoxFormatAuto,
         main.BevelButtonListe);
 }
 
-WinChargSauvNb1ers& Program::winChargSauvNb1ers() {
+WinChargSauvNb1ers& ProgramRun::winChargSauvNb1ers() {
     return Instance(winChargSauvNb1ers_, winMain().primeFile, winMain());
 }
 
-WinInfos& Program::winInfos() {
+WinInfos& ProgramRun::winInfos() {
     return Instance(winInfos_);
 }
 
-WinPrefs& Program::winPrefs() {
+WinPrefs& ProgramRun::winPrefs() {
     return Instance(winPrefs_, winMain());
 }
 
-void Program::Start() {
+void ProgramRun::Start() {
     app.Event_Open();
     winMain();
 }
 
-void Program::EndWithoutAsking() {
+void ProgramRun::EndWithoutAsking() {
     if (ending_) {
         return; // a second signal, while the first waits for a calculation to stop
     }
@@ -78,7 +77,7 @@ void Program::EndWithoutAsking() {
 }
 
 // A window closes in its own handlers: it is destroyed once they have returned.
-void Program::LetGo(Window& window) {
+void ProgramRun::LetGo(Window& window) {
     const auto release = [&](auto& instance) {
         if (instance.get() == &window) {
             closed_.push_back(std::move(instance));
