@@ -27,7 +27,7 @@ ProgramRun::~ProgramRun() {
     fncts.ArretUrg = true;
 }
 
-// The instance is in its place before its Open event, which speaks to other windows and they to it.
+// The instance is stored before its Open event, in which it and other windows ask for each other.
 template <typename WindowClass, typename... Parts>
 WindowClass& ProgramRun::Instance(std::unique_ptr<WindowClass>& window, Parts&... parts) {
     if (!window) {

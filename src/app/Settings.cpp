@@ -74,7 +74,7 @@ void Settings::Apply(Preferences& preferences) {
     window_.RadioButton09AZ[static_cast<std::size_t>(preferences.radio09AZ)].Value = true;
 }
 
-// A window that would not be whole on a screen comes to the default place.
+// A window that would not be whole on a screen goes to the default place.
 void Settings::PlaceMainWindow(int left, int top) {
     if (!window_.CanStandAt({left, top, window_.Width, window_.Height})) {
         left = defaultLeft;

@@ -66,11 +66,11 @@ void UpdateCheck::HasCome(const HttpReply& reply) {
 void UpdateCheck::TimerVerMaJ_Action() {
     const bool isBusy = VrfVerMaJ();
     timerVerMaJ_.Period = isBusy ? busyPeriod : handOverPeriod;
-    // Off also where a second reply came under the dialog: it is dealt with.
+    // Off even if a second reply came while the dialog was up: it has been dealt with.
     timerVerMaJ_.Mode = isBusy ? TimerMode::Single : TimerMode::Off;
 }
 
-// Tells the user what is to be told. True: the program is busy, nothing was done. Any version but this one
+// Tells the user the outcome. True: the program is busy, nothing was done. Any version but this one
 // counts as new, also an older one: there is no order among them.
 bool UpdateCheck::VrfVerMaJ() {
     if (!fncts_.DrapMenu || app_.HasModalStep()) {

@@ -12,15 +12,15 @@ class App;
 class Fncts;
 struct Services;
 
-// The look for a new version: the fetch, the hand-over of its reply to an event of its own, so that no
+// The check for a new version: the fetch, the hand-over of its reply to an event of its own, so that no
 // dialog ever opens inside the socket's, and what the user is told.
 class UpdateCheck {
 public:
     UpdateCheck(App& app, Fncts& fncts, Services& services, std::string versionFile);
 
-    // The one that the start makes, once a day, if the user wants it; it speaks only of a new version.
+    // At the start, once a day, if the user wants it; speaks only of a new version.
     void StartAutomatically();
-    // The one from the menu, which reports every outcome.
+    // From the menu; reports every outcome.
     void Start();
 
     Event<void(bool)> TakesTime; // turns the wheel

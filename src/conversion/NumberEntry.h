@@ -22,7 +22,7 @@ class NumberOutput;
 class Words;
 struct Services;
 
-// The controls of the main window that the number has to do with, and what else follows from it.
+// The main window's controls that take or show the number, and what else follows from it.
 struct NumberControls {
     TextField& EditFieldNbre;
     TextField& EditFieldBaseOrg;

@@ -231,7 +231,7 @@ protected:
     }
     void paintEvent(QPaintEvent*) override {
         if (turn_ < 0) {
-            return; // what is over before would only flicker
+            return; // what is over sooner would only flicker
         }
         QPainter painter(this);
         painter.setRenderHint(QPainter::Antialiasing);

@@ -74,8 +74,8 @@ public:
     Property<int> SelLength{*this, 0};
     Property<bool> ReadOnly{*this, false};
     Property<int> TextSize{*this, 0}; // points; 0 is the system's own size
-    // What the text must not be taken for: it isn't of now, or no failure. With one it is shown fainter, and
-    // can be read and copied all the same; what the user changes is without.
+    // Why the text must not be taken for the current result or for a failure. With a remark it is shown
+    // fainter, and can be read and copied all the same; an edit by the user takes the remark away.
     Property<std::string> Remark{*this};
 
     // Any change of Text, the program's own included.

@@ -135,7 +135,7 @@ struct WindowFrame {
     bool blocksOthers = true; // MovableModal: false where the other windows may be closed while it is up
 };
 
-// A window as a model: its place, its controls, who of them has the focus, and the events that its class
+// A window as a model: its place, its controls, which of them has the focus, and the events that its class
 // answers by overriding the Event_ methods. It works without a screen; the stage draws it once it is shown.
 class Window : public PropertyOwner {
 public:

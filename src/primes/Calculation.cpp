@@ -72,7 +72,7 @@ void CalculationProgress::TellBeside(std::uint64_t reached, std::uint64_t goal) 
 void CalculationProgress::Tell() {
     const std::uint64_t goal = Goal;
     const std::uint64_t reached = goal == 0 ? table_.Back() : std::min(table_.Back(), goal);
-    // The beginning of the primes says in every language what the number is.
+    // The first primes say in every language what the number is.
     std::string words = "2, 3, 5, 7 … " + FormatWhole(reached, formatAuto_.Value);
     if (goal != 0) {
         words += " / " + FormatWhole(goal, formatAuto_.Value);

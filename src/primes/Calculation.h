@@ -59,8 +59,8 @@ class Fncts;
 struct Services;
 
 // A calculation that reads the table of primes and extends it, at once or on a thread: at most one at a time,
-// whichever window asks for it, so that the table has one writer. What its result is good for is known to
-// whoever starts it.
+// whichever window asks for it, so that the table has one writer. What becomes of its result is up to whoever
+// starts it.
 class Calculation {
 public:
     // Whose result waits for the main thread.

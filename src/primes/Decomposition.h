@@ -13,7 +13,7 @@ class Fncts;
 class NumberOutput;
 class PrimeTable;
 
-// The controls of the main window that the factors have to do with.
+// The main window's controls that the factors depend on or appear in.
 struct DecompositionControls {
     TextField& EditFieldNbre;
     TextArea& TxtAreaDecomp1er;

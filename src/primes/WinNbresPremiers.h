@@ -15,9 +15,9 @@ class Calculation;
 class PrimeFileBinding;
 class PrimeTable;
 
-// The list of primes: a slice of the table, at most 2000 at a time, the run that
-// extends the table up to a limit, and the button to the prime file. The window exists while it is open; it
-// must be asked for only while BevelButtonListe of the main window says so.
+// The list of primes: a slice of the table, at most 2000 at a time, the run that extends the table up to a
+// limit, and the button to the prime file. The window exists while it is open; it must be asked for only
+// while BevelButtonListe of the main window says so.
 class WinNbresPremiers final : public ProgramWindow {
 public:
     // `grouped` says how numbers are shown, `listButton` that the window is open; `mainWindow` decides a

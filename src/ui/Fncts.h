@@ -104,7 +104,7 @@ public:
     // if they were covered, that is if `fenetre` can hold a sheet.
     bool CtrlDsFenetrDiag(Window* fenetre, bool montrer);
 
-    // Moves each control of the window by the small amount that its class needs to stand in line.
+    // Moves each control of the window by the few points that its class needs to line up with the others.
     static void DecPosCtrl(Window& fenetre);
 
     // Takes DrapMenu down for a calculation on a thread, or gives it back.

@@ -11,7 +11,7 @@ namespace tessarolyne {
 
 namespace {
 
-// The factors' "x" among them, but no sign that errors and hints have.
+// With the factors' "x", but without any sign that errors and hints have.
 bool StandsInNumber(char c) {
     return IsDigit(c) || IsLetter(c) || c == '.';
 }

@@ -37,7 +37,7 @@ class NumberOutput {
 public:
     NumberOutput(TextArea& area, const TextField& number) : area_(area), field_(number) {}
 
-    // `remark` is shown beside the text while it is of the number that stands there.
+    // `remark` is shown beside the text as long as it belongs to the number that stands there.
     void Write(const std::string& text, const std::string& remark = {});
     // Dims the text, or no longer, after a change of the number that leaves the text alone.
     void Compare();

@@ -14,7 +14,7 @@
 
 namespace tessarolyne {
 
-// The application object: the settings that have no control, and the two flags of its life. The settings are
+// The application object: the settings that have no control, and the flags of its life. The settings are
 // read once at the start and written once at the end; in between they live here and in the controls.
 class App final : public Application {
 public:

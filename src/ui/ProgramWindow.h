@@ -11,8 +11,8 @@
 
 namespace tessarolyne {
 
-// What every window of the program has at hand: the program, and its two shared objects by
-// the names under which the handlers speak of them.
+// What every window of the program has at hand: the program, and its two shared objects by the names under
+// which the handlers speak of them.
 class ProgramWindow : public Window {
 public:
     ProgramWindow(Program& owner, std::string title, int width, int height, WindowFrame frame);

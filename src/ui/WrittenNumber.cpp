@@ -185,7 +185,7 @@ void ReplaceAllOf(TextEdit& edit, const std::string& text) {
     edit.inserted = text;
 }
 
-// What of a number with too many digits there are too many of.
+// Why the mask doesn't take the number: what it has too much of.
 Refusal WhyItDoesNotFit(std::string_view number, const Mask& mask) {
     const std::string bare = WithoutBlanks(number);
     const std::size_t point = std::min(bare.find('.'), bare.size());

@@ -8,7 +8,7 @@ class App;
 class Fncts;
 class NumberOutput;
 
-// The controls of the main window that the words have to do with.
+// The main window's controls that decide the words.
 struct WordsControls {
     TextField& EditFieldNbre;
     TextField& EditFieldMonnaies;
