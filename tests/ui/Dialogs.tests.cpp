@@ -115,6 +115,15 @@ TEST_CASE("A link shows the finger, and is followed where the press ends on it")
     CHECK(about.MouseCursor == Cursor::Standard);
 }
 
+TEST_CASE("A window that is widened takes its controls along as they are held to its edges") {
+    TestWorld world;
+    WinInfos& about = world.program->winInfos();
+    const int width = about.Width;
+    about.UserResized(width + 60, about.Height);
+    CHECK((
+        about.TexteInfo.Width == 390 + 60 && about.BoutonOk.Left == 341 + 60 && about.BevButtDon.Left == 20));
+}
+
 TEST_CASE("A chooser begins where its item stands, and suggests what fits it") {
     TestWorld world;
     Fncts& fncts = world.program->fncts;
