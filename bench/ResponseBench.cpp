@@ -233,12 +233,12 @@ private:
 
 } // namespace
 
-int main() {
+int main(int count, char** arguments) {
     const Home home;
     SystemClock clock;
     PosixFileSystem files(FindFolder);
     SystemMemory memory;
-    QtApplication application("Tessarolyne", "org.tessarolyne.Tessarolyne");
+    QtApplication application("Tessarolyne", "org.tessarolyne.Tessarolyne", count, arguments);
     QtServices desktop(files);
     NoSounds silence;
     Services services{clock, desktop.loop, desktop.stage, desktop.dialogs, desktop.desktop, silence,

@@ -37,7 +37,7 @@ long StatusKiB(const char* name) {
     Stop("no figures in /proc/self/status");
 }
 
-void Check(const std::string& url) {
+void Check(const std::string& url, int count, char** arguments) {
     std::string home = "/tmp/tessarolyne-bench-XXXXXX";
     if (mkdtemp(home.data()) == nullptr) {
         Stop("no folder in /tmp");
@@ -51,7 +51,7 @@ void Check(const std::string& url) {
     SystemClock clock;
     PosixFileSystem files(FindFolder);
     SystemMemory memory;
-    QtApplication application("UpdateMemoryBench", "org.tessarolyne.Benchmark");
+    QtApplication application("UpdateMemoryBench", "org.tessarolyne.Benchmark", count, arguments);
     QtServices services(files);
     Services world = services.With(clock, files, memory);
     ProgramRun program(world, url);
@@ -83,5 +83,5 @@ int main(int count, char** arguments) {
     if (count != 2) {
         Stop("usage: UpdateMemoryCheck ADDRESS");
     }
-    Check(arguments[1]);
+    Check(arguments[1], count, arguments);
 }
