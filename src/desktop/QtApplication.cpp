@@ -17,13 +17,18 @@ namespace tessarolyne {
 namespace {
 
 constexpr const char* platformVariable = "QT_QPA_PLATFORM";
-const QByteArray chosenPlatform = qgetenv(platformVariable);
+
+// What the user chose, as it stood when it was first asked for.
+const QByteArray& ChosenPlatform() {
+    static const QByteArray chosen = qgetenv(platformVariable);
+    return chosen;
+}
 
 // The session's own first; the other may be there all the same, or its plugin alone.
 QByteArray Platforms() {
     const bool isWayland =
         !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") || qgetenv("XDG_SESSION_TYPE") == "wayland";
-    return !chosenPlatform.isEmpty() ? chosenPlatform : isWayland ? "wayland;xcb" : "xcb;wayland";
+    return !ChosenPlatform().isEmpty() ? ChosenPlatform() : isWayland ? "wayland;xcb" : "xcb;wayland";
 }
 
 // Qt tells each display that it doesn't find, and where none is left it aborts, which leaves a core.
@@ -54,7 +59,7 @@ int& LookForDisplay(int& count) {
 QtApplication::QtApplication(
     const std::string& name, const std::string& identifier, int& count, char** arguments)
     : QApplication(LookForDisplay(count), arguments) {
-    qputenv(platformVariable, chosenPlatform); // for the programs that this one starts
+    qputenv(platformVariable, ChosenPlatform()); // for the programs that this one starts
     qInstallMessageHandler(nullptr);
     setLayoutDirection(Qt::LeftToRight); // as all numbers and all texts are, on every desktop
     setApplicationName(ToQt(name));
